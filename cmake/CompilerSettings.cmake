@@ -1,0 +1,29 @@
+# One interface target carries what every translation unit of ours is built with.
+set(TARVO_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them; empty for none")
+option(TARVO_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_SKIP_RPATH ON)
+
+add_library(tarvo_settings INTERFACE)
+target_include_directories(tarvo_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_definitions(tarvo_settings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+target_compile_options(tarvo_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wconversion -Wno-sign-conversion
+  -Wformat=2 -fstack-protector-strong
+  $<$<BOOL:${TARVO_WARNINGS_AS_ERRORS}>:-Werror>)
+
+if(TARVO_SANITIZE)
+  target_compile_options(tarvo_settings INTERFACE
+    -fsanitize=${TARVO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarvo_settings INTERFACE -fsanitize=${TARVO_SANITIZE})
+endif()
+
+# tarvo_add_library(NAME SOURCES ... LINKS ...): one static library a folder, with all that it links named.
+function(tarvo_add_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC tarvo_settings ${arg_LINKS})
+endfunction()

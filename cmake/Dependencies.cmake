@@ -1,0 +1,41 @@
+# Every dependency comes from the distribution. The floor is Debian 12.
+
+# Text, event loop, timers, files in the user's folders; windows and widgets; D-Bus (logind, notifications,
+# tray hosts).
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Svg LinguistTools)
+
+find_package(PkgConfig REQUIRED)
+
+# HTTP to the modem: timeouts, interruptible transfers, exact headers.
+find_package(CURL 7.88 REQUIRED)
+
+# MD5 for the session token, RSA for the access-point profile files.
+find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
+
+# Reads and writes Config.plist, in its XML and binary forms.
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0>=2.2)
+
+# Links, addresses and routes from the kernel.
+pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>=3.7)
+
+# The USB device behind a network interface.
+pkg_check_modules(LIBUDEV REQUIRED IMPORTED_TARGET libudev)
+
+# Docking the icon into a system tray that speaks XEmbed.
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape)
+
+find_package(Threads REQUIRED)
+
+if(TARVO_BUILD_TESTS)
+  # The simulated modem's web server.
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+  # The test framework.
+  find_package(GTest REQUIRED)
+  # USB devices that are not there, beside real network interfaces.
+  pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0)
+endif()
+
+if(TARVO_BUILD_BENCHMARKS)
+  # The benchmark harness.
+  find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <chrono>
+#include <stop_token>
+
+namespace tarvo {
+
+/// Monotonic time, and waits that can be ended early. Used on every thread.
+class Clock {
+public:
+    using TimePoint = std::chrono::steady_clock::time_point;
+
+    virtual ~Clock() = default;
+
+    virtual TimePoint now() const = 0;
+
+    /// Blocks the calling thread until @p deadline or until @p stop is requested.
+    /// @return true when the deadline was reached, false when the wait was ended early
+    virtual bool waitUntil(TimePoint deadline, std::stop_token stop) = 0;
+};
+
+} // namespace tarvo

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace tarvo {
+
+/// Keys of the store and names of the properties in its values.
+///
+/// The state domain says what the network is like now; the setup domain says what is configured and in which order.
+namespace store {
+inline const QString interfaceListKey = QStringLiteral("State:/Network/Interface");
+inline const QString anyServiceIPv4Pattern = QStringLiteral("State:/Network/Service/[^/]+/IPv4");
+/// Value holds `kSCPropNetServiceOrder`.
+inline const QString globalIPv4SetupKey = QStringLiteral("Setup:/Network/Global/IPv4");
+
+/// In the interface list: the names of all interfaces (`QStringList`).
+inline const QString kSCDynamicStorePropNetInterfaces = QStringLiteral("Interfaces");
+/// In a service's IPv4 state: the name of the interface that carries the service.
+inline const QString kSCPropInterfaceName = QStringLiteral("InterfaceName");
+/// In a service's IPv4 state: the address of its default gateway; absent when it has none.
+inline const QString kSCPropNetIPv4Router = QStringLiteral("Router");
+/// In the global setup: the service identifiers, the preferred one first (`QStringList`).
+inline const QString kSCPropNetServiceOrder = QStringLiteral("ServiceOrder");
+/// In a service's interface setup: the name of the interface.
+inline const QString kSCPropNetInterfaceDeviceName = QStringLiteral("DeviceName");
+
+/// The key of one service's IPv4 state.
+QString serviceIPv4Key(const QString &serviceID);
+/// The key of one service's interface setup.
+QString serviceInterfaceSetupKey(const QString &serviceID);
+} // namespace store
+
+/// One client's view of the network state. Lives on the thread of the store that made it, and not longer.
+class DynamicStoreSession {
+public:
+    virtual ~DynamicStoreSession() = default;
+
+    /// Asks for the session's callback whenever the value of a key that matches changes.
+    /// @param patterns regular expressions that must match the whole key; they replace earlier ones
+    virtual void setNotificationPatterns(const QStringList &patterns) = 0;
+
+    /// @return the value of @p key; nil when the store has no such key
+    virtual std::optional<QVariantMap> copyValue(const QString &key) const = 0;
+
+    /// @return all entries whose whole key matches any of @p patterns
+    virtual QMap<QString, QVariantMap> copyMultiple(const QStringList &patterns) const = 0;
+
+    /// @return the keys that match @p pattern whole, in the store's order
+    virtual QStringList copyKeyList(const QString &pattern) const = 0;
+};
+
+/// The network state of the machine as key/value entries, with notification of changes.
+///
+/// Used on the main thread only. Callbacks come from the event loop, one changed key at a time, and only when the
+/// key's value really changed or was announced afresh.
+class DynamicStore {
+public:
+    /// Told the session that was notified and the key that changed (one element).
+    using Callback = std::function<void(DynamicStoreSession &session, const QStringList &changedKeys)>;
+
+    virtual ~DynamicStore() = default;
+
+    /// Opens a session. An empty @p callback makes a session that only reads.
+    /// @return the session, owned by the caller; null when the network state cannot be had
+    virtual std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) = 0;
+};
+
+} // namespace tarvo

@@ -1,0 +1,22 @@
+#include "platform/linux/SteadyClock.h"
+
+#include <condition_variable>
+#include <mutex>
+
+namespace tarvo {
+
+Clock::TimePoint SteadyClock::now() const
+{
+    return std::chrono::steady_clock::now();
+}
+
+bool SteadyClock::waitUntil(TimePoint deadline, std::stop_token stop)
+{
+    std::mutex mutex;
+    std::condition_variable_any wake;
+    std::unique_lock lock(mutex);
+    wake.wait_until(lock, stop, deadline, [] { return false; });
+    return !stop.stop_requested();
+}
+
+} // namespace tarvo
