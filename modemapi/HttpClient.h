@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace tarvo {
+
+/// One HTTP exchange to make.
+struct HttpRequest {
+    QUrl url; ///< http or https; anything else is an error
+    QList<QByteArray> headers; ///< whole header lines, e.g. `Referer: http://192.0.2.1/`
+    std::optional<QByteArray> body; ///< posted when set; nil makes a GET request
+    /// Called with each new socket before it is connected; may be empty.
+    std::function<void(int socket)> prepareSocket;
+};
+
+/// What came of an exchange.
+struct HttpAnswer {
+    QByteArray data; ///< the body as far as it is usable; empty after an error
+    std::optional<QString> error; ///< why the exchange failed; nil when an answer came, whatever its status
+};
+
+/// Makes HTTP exchanges one after the other, over a connection that is kept open between them. For one thread.
+///
+/// An exchange ends after five seconds at the latest, or at once when its token is stopped. Proxies are never used,
+/// redirects are followed for reads and on the same host only, an answer of more than 4 MiB is an error. A post always
+/// opens a connection of its own, so that it is never sent a second time because an old connection turned out closed.
+class HttpClient {
+public:
+    static constexpr std::chrono::milliseconds timeout {5000};
+    static constexpr qsizetype maximumAnswerSize = 4 * 1024 * 1024;
+
+    HttpClient();
+    ~HttpClient();
+    HttpClient(const HttpClient &) = delete;
+    HttpClient &operator=(const HttpClient &) = delete;
+
+    HttpAnswer exchange(const HttpRequest &request, std::stop_token stop);
+
+private:
+    class Transfer;
+
+    std::unique_ptr<Transfer> m_transfer;
+};
+
+} // namespace tarvo
