@@ -29,7 +29,7 @@ public:
 
 private:
     mutable std::mutex m_mutex;
-    T m_value {};
+    T m_value{};
 };
 
 } // namespace tarvo

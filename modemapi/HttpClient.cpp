@@ -1,0 +1,188 @@
+#include "modemapi/HttpClient.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <mutex>
+#include <stdexcept>
+
+namespace tarvo {
+
+namespace {
+
+constexpr int maximumRedirects = 5;
+
+struct EasyDeleter {
+    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+};
+struct MultiDeleter {
+    void operator()(CURLM* handle) const { curl_multi_cleanup(handle); }
+};
+struct ListDeleter {
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+};
+using HeaderList = std::unique_ptr<curl_slist, ListDeleter>;
+
+void initialiseLibrary()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+}
+
+HeaderList headerList(const QList<QByteArray>& lines)
+{
+    HeaderList list(curl_slist_append(nullptr, "Expect:"));
+    for (const QByteArray& line : lines) {
+        if (line.contains('\r') || line.contains('\n'))
+            continue; // would smuggle in further lines
+        if (curl_slist* longer = curl_slist_append(list.get(), line.constData())) {
+            static_cast<void>(list.release());
+            list.reset(longer);
+        }
+    }
+    return list;
+}
+
+size_t receive(char* bytes, size_t size, size_t count, void* context)
+{
+    auto& data = *static_cast<QByteArray*>(context);
+    const auto length = static_cast<qsizetype>(size * count);
+    if (length > HttpClient::maximumAnswerSize - data.size())
+        return CURL_WRITEFUNC_ERROR;
+    data.append(bytes, length);
+    return size * count;
+}
+
+int prepare(void* context, curl_socket_t socket, curlsocktype)
+{
+    const auto& prepareSocket = *static_cast<const std::function<void(int)>*>(context);
+    if (prepareSocket)
+        prepareSocket(socket);
+    return CURL_SOCKOPT_OK;
+}
+
+bool sameServer(const QUrl& one, const QUrl& other)
+{
+    return one.scheme() == other.scheme() && one.host() == other.host() && one.port() == other.port();
+}
+
+} // namespace
+
+/// The handles of one client: an easy handle for the exchange, driven by a multi handle that another thread
+/// may wake.
+class HttpClient::Transfer {
+public:
+    Transfer()
+    {
+        initialiseLibrary();
+        m_easy.reset(curl_easy_init());
+        m_multi.reset(curl_multi_init());
+        if (!m_easy || !m_multi)
+            throw std::bad_alloc();
+    }
+
+    HttpAnswer run(const HttpRequest& request, std::stop_token stop)
+    {
+        const auto deadline = std::chrono::steady_clock::now() + timeout;
+        QUrl url = request.url;
+        for (int redirects = 0;; ++redirects) {
+            HttpAnswer answer = fetch(url, request, deadline, stop);
+            const std::optional<QUrl> target = redirectTarget();
+            if (answer.error || request.body || !target)
+                return answer;
+            if (!sameServer(*target, url) || redirects == maximumRedirects)
+                return {{}, QStringLiteral("redirected to %1").arg(target->toString())};
+            url = *target;
+        }
+    }
+
+private:
+    HttpAnswer fetch(const QUrl& url, const HttpRequest& request,
+                     std::chrono::steady_clock::time_point deadline, const std::stop_token& stop)
+    {
+        using std::chrono::milliseconds;
+        const auto left =
+            std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
+        if (stop.stop_requested() || left <= 0)
+            return {{}, QStringLiteral("stopped")};
+
+        HttpAnswer answer;
+        const HeaderList headers = headerList(request.headers);
+        prepareHandle(url, request, left, headers.get(), answer.data);
+        const CURLcode result = perform(stop);
+        if (result != CURLE_OK)
+            return {{}, QString::fromUtf8(stop.stop_requested() ? "stopped" : curl_easy_strerror(result))};
+        return answer;
+    }
+
+    void prepareHandle(const QUrl& url, const HttpRequest& request, long long milliseconds,
+                       curl_slist* headers, QByteArray& data)
+    {
+        CURL* easy = m_easy.get();
+        curl_easy_reset(easy); // keeps the open connections
+        curl_easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
+        curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+        curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+        curl_easy_setopt(easy, CURLOPT_PROXY, "");
+        curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+        curl_easy_setopt(easy, CURLOPT_TIMEOUT_MS, static_cast<long>(milliseconds));
+        curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(milliseconds));
+        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, headers);
+        curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, receive);
+        curl_easy_setopt(easy, CURLOPT_WRITEDATA, &data);
+        curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepare);
+        curl_easy_setopt(easy, CURLOPT_SOCKOPTDATA, &request.prepareSocket);
+        if (request.body) {
+            curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE,
+                             static_cast<curl_off_t>(request.body->size()));
+            curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, request.body->constData());
+            curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
+        }
+    }
+
+    CURLcode perform(const std::stop_token& stop)
+    {
+        curl_multi_add_handle(m_multi.get(), m_easy.get());
+        const std::stop_callback wake(stop, [this] { curl_multi_wakeup(m_multi.get()); });
+        CURLMcode state = CURLM_OK;
+        int running = 1;
+        while (state == CURLM_OK && running > 0 && !stop.stop_requested()) {
+            state = curl_multi_perform(m_multi.get(), &running);
+            if (state == CURLM_OK && running > 0)
+                state =
+                    curl_multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(timeout.count()), nullptr);
+        }
+        CURLcode result = CURLE_ABORTED_BY_CALLBACK;
+        int queued = 0;
+        while (const CURLMsg* message = curl_multi_info_read(m_multi.get(), &queued)) {
+            if (message->msg == CURLMSG_DONE)
+                result = message->data.result;
+        }
+        curl_multi_remove_handle(m_multi.get(), m_easy.get());
+        return result;
+    }
+
+    std::optional<QUrl> redirectTarget() const
+    {
+        const char* target = nullptr;
+        curl_easy_getinfo(m_easy.get(), CURLINFO_REDIRECT_URL, &target);
+        return target ? std::optional(QUrl::fromEncoded(target)) : std::nullopt;
+    }
+
+    std::unique_ptr<CURL, EasyDeleter> m_easy;
+    std::unique_ptr<CURLM, MultiDeleter> m_multi;
+};
+
+HttpClient::HttpClient()
+    : m_transfer(std::make_unique<Transfer>())
+{
+}
+
+HttpClient::~HttpClient() = default;
+
+HttpAnswer HttpClient::exchange(const HttpRequest& request, std::stop_token stop)
+{
+    return m_transfer->run(request, std::move(stop));
+}
+
+} // namespace tarvo

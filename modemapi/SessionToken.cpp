@@ -1,0 +1,18 @@
+#include "modemapi/SessionToken.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+
+namespace tarvo {
+
+QString md5String(const QString& text)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
+}
+
+QString sessionToken(const QString& innerVersion, const QString& crVersion, const QString& rd)
+{
+    return md5String(md5String(innerVersion + crVersion) + rd);
+}
+
+} // namespace tarvo

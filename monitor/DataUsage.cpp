@@ -1,0 +1,105 @@
+#include "monitor/DataUsage.h"
+
+#include "modemapi/AnswerFields.h"
+
+#include <QByteArray>
+#include <QRegularExpression>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+constexpr double step = 1024; // one unit to the next, bytes to gigabytes in three
+constexpr double inverseStep = 1 / step;
+
+using Field = std::optional<QString> StatusFields::*;
+
+const std::array<std::pair<QString, Field>, 9> fieldNames{{
+    {QStringLiteral("flow_reminder_switch"), &StatusFields::reminderSwitch},
+    {QStringLiteral("max_usage_set_for_month"), &StatusFields::monthlyLimit},
+    {QStringLiteral("reminder_threshold_for_data_usage"), &StatusFields::monthlyThreshold},
+    {QStringLiteral("max_usage_set_for_three_days"), &StatusFields::threeDayLimit},
+    {QStringLiteral("monthly_velta_tx"), &StatusFields::monthlySent},
+    {QStringLiteral("monthly_velta_rx"), &StatusFields::monthlyReceived},
+    {QStringLiteral("last_three_days_tx_bytes"), &StatusFields::threeDaySent},
+    {QStringLiteral("last_three_days_rx_bytes"), &StatusFields::threeDayReceived},
+    {QStringLiteral("international_roaming_setting"), &StatusFields::roamingSetting},
+}};
+
+float number(const std::optional<QString>& text)
+{
+    return text ? leadingNumber(*text) : 0.0F;
+}
+
+float bytesOfGigabytes(float gigabytes)
+{
+    return static_cast<float>(static_cast<double>(gigabytes) * step * step * step);
+}
+
+float gigabytesOfBytes(float bytes)
+{
+    return static_cast<float>(static_cast<double>(bytes) * inverseStep * inverseStep * inverseStep);
+}
+
+} // namespace
+
+float leadingNumber(const QString& text)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(^\s*\+?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    if (!match.hasMatch())
+        return 0;
+    const QByteArray digits = match.captured(1).toLatin1();
+    float value = 0;
+    const auto result = std::from_chars(digits.cbegin(), digits.cend(), value);
+    if (result.ec != std::errc::result_out_of_range)
+        return value;
+    const double wide = digits.toDouble();
+    return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F)
+                              : 0.0F;
+}
+
+StatusFields readStatusFields(const QString& content)
+{
+    StatusFields fields;
+    for (const auto& [name, field] : fieldNames)
+        fields.*field = getModemInfoFromKey(name + QStringLiteral(": "), content);
+    for (const auto& [name, field] : fieldNames) {
+        if (!(fields.*field) || (fields.*field)->isEmpty())
+            fields.*field = getModemInfoFromKeyForWeb5(name + QStringLiteral("\":"), content);
+    }
+    return fields;
+}
+
+bool isRoaming(const StatusFields& fields)
+{
+    return fields.roamingSetting == QStringLiteral("on");
+}
+
+std::optional<MonthlyUsage> monthlyUsage(const StatusFields& fields)
+{
+    if (fields.reminderSwitch != QStringLiteral("on"))
+        return std::nullopt;
+    const float limit = number(fields.monthlyLimit);
+    const float limitBytes = bytesOfGigabytes(limit);
+    const float thresholdBytes = bytesOfGigabytes(number(fields.monthlyThreshold));
+    const float used = number(fields.monthlySent) + number(fields.monthlyReceived);
+    return MonthlyUsage{limit, gigabytesOfBytes(used), gigabytesOfBytes(limitBytes - used),
+                        used > thresholdBytes, used > limitBytes};
+}
+
+ThreeDayUsage threeDayUsage(const StatusFields& fields)
+{
+    const float limit = number(fields.threeDayLimit);
+    const float used = number(fields.threeDaySent) + number(fields.threeDayReceived);
+    return {limit, used > bytesOfGigabytes(limit)};
+}
+
+} // namespace tarvo

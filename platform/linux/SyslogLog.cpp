@@ -14,7 +14,7 @@ namespace {
 bool standardErrorIsTheJournal()
 {
     const QList<QByteArray> journal = qgetenv("JOURNAL_STREAM").split(':');
-    struct stat status {};
+    struct stat status { };
     if (journal.size() != 2 || fstat(STDERR_FILENO, &status) != 0)
         return false;
     return journal[0].toULongLong() == status.st_dev && journal[1].toULongLong() == status.st_ino;
@@ -43,7 +43,7 @@ SyslogLog::~SyslogLog()
     closelog();
 }
 
-void SyslogLog::write(const QString &line)
+void SyslogLog::write(const QString& line)
 {
     const QByteArray bytes = line.toUtf8();
     syslog(LOG_INFO, "%s", bytes.constData());
