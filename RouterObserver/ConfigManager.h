@@ -10,40 +10,38 @@ namespace tarvo {
 
 /// The product's settings: one property list, loaded once and read from then on.
 ///
-/// Top-level keys are modules; a module's value is a leaf (text, truth value, number), a dictionary or an
-/// array. Once loaded, the readers may be called on any thread; the writers are for the main thread before
-/// other threads start.
+/// Top-level keys are modules; a module's value is a leaf (text, truth value, number), a dictionary or an array. Once
+/// loaded, the readers may be called on any thread; the writers are for the main thread before other threads start.
 class ConfigManager {
 public:
     /// The one instance, made and loaded with `init` at the first call.
-    static ConfigManager& sharedConfigManager();
+    static ConfigManager &sharedConfigManager();
 
-    /// Finds `tarvo/Config.plist` in the user's, the system's and the data folders (XDG Base Directory) or
-    /// beside the program, and loads the first that exists.
+    /// Finds `tarvo/Config.plist` in the user's, the system's and the data folders (XDG Base Directory) or beside the
+    /// program, and loads the first that exists.
     ConfigManager();
     /// Loads the file at @p filePath, which must not be nil.
-    explicit ConfigManager(const std::optional<QString>& filePath);
+    explicit ConfigManager(const std::optional<QString> &filePath);
 
     /// @return the module's value; nil when there is none
-    std::optional<QVariant> getConfigurationByModule(const std::optional<QString>& module) const;
+    std::optional<QVariant> getConfigurationByModule(const std::optional<QString> &module) const;
     /// @return from a dictionary the entry for @p key, from an array the element equal to @p key; else nil
     /// @throws std::out_of_range when the module is an array without such an element
-    std::optional<QVariant> getConfigurationByModuleAndKey(const std::optional<QString>& module,
-                                                           const std::optional<QString>& moduleKey) const;
-    bool setConfigurationByModule(const std::optional<QString>& module,
-                                  const std::optional<QVariant>& object);
-    bool setConfigurationByModuleKeyAndValue(const std::optional<QString>& module,
-                                             const std::optional<QString>& key, const QVariant& value);
-    bool removeConfigurationByModule(const std::optional<QString>& module);
-    bool removeConfigurationByModuleAndKey(const std::optional<QString>& module,
-                                           const std::optional<QString>& moduleKey);
+    std::optional<QVariant> getConfigurationByModuleAndKey(const std::optional<QString> &module,
+                                                           const std::optional<QString> &moduleKey) const;
+    bool setConfigurationByModule(const std::optional<QString> &module, const std::optional<QVariant> &object);
+    bool setConfigurationByModuleKeyAndValue(const std::optional<QString> &module, const std::optional<QString> &key,
+                                             const QVariant &value);
+    bool removeConfigurationByModule(const std::optional<QString> &module);
+    bool removeConfigurationByModuleAndKey(const std::optional<QString> &module,
+                                           const std::optional<QString> &moduleKey);
     /// @return the whole dictionary itself, owned by the store; null when nothing was loaded
-    QVariantMap* getConfiguration();
+    QVariantMap *getConfiguration();
     /// Writes the dictionary back to the file it came from, whole or not at all.
     void flush() const;
 
     /// @return why the file that was found could not be loaded, with its path; nil when nothing went wrong
-    const std::optional<QString>& loadProblem() const { return loadProblem_; }
+    const std::optional<QString> &loadProblem() const { return loadProblem_; }
 
 private:
     void load();
@@ -53,13 +51,13 @@ private:
     std::optional<QString> loadProblem_;
 };
 
-/// Reads @p value as a truth value: a number is true unless zero, a text when its first non-blank character
-/// is one of "YyTt" or a digit 1 to 9. Nil is false.
-bool boolValue(const std::optional<QVariant>& value);
+/// Reads @p value as a truth value: a number is true unless zero, a text when its first non-blank character is one of
+/// "YyTt" or a digit 1 to 9. Nil is false.
+bool boolValue(const std::optional<QVariant> &value);
 
 /// @return the module's value read as a flag; false when it is absent
-bool configurationFlag(const QString& module);
+bool configurationFlag(const QString &module);
 /// @return the module's text; nil when it is absent or no text
-std::optional<QString> configurationText(const QString& module);
+std::optional<QString> configurationText(const QString &module);
 
 } // namespace tarvo

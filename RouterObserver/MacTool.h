@@ -9,25 +9,23 @@
 
 namespace tarvo {
 
-/// The configured services and their order. Opened by the first look-up of a service by name, and kept from
-/// then on.
+/// The configured services and their order. Opened by the first look-up of a service by name, and kept from then on.
 struct NetworkPreferences {
-    DynamicStore& store;
+    DynamicStore &store;
     std::unique_ptr<DynamicStoreSession> prefRef{};
 };
 
 /// @return the address of the service's IPv4 router right now; nil when it has none
-std::optional<QString> MacTool_GetIPV4Router(DynamicStore& store, const std::optional<QString>& serviceID);
+std::optional<QString> MacTool_GetIPV4Router(DynamicStore &store, const std::optional<QString> &serviceID);
 
-/// @return the name of the interface that the service of the set @p setPath uses; nil when unknown, or when
-/// the
+/// @return the name of the interface that the service of the set @p setPath uses; nil when unknown, or when the
 ///         preferences have not been opened yet
-std::optional<QString> MacTool_GetNetWorkBSDNameOfService(const NetworkPreferences& preferences,
-                                                          const std::optional<QString>& serviceID,
-                                                          const std::optional<QString>& setPath);
+std::optional<QString> MacTool_GetNetWorkBSDNameOfService(const NetworkPreferences &preferences,
+                                                          const std::optional<QString> &serviceID,
+                                                          const std::optional<QString> &setPath);
 
 /// @return the first service in the service order that uses the interface @p bsdName; nil when there is none
-std::optional<QString> MacTool_GetServiceIDByBSDName(NetworkPreferences& preferences,
-                                                     const std::optional<QString>& bsdName);
+std::optional<QString> MacTool_GetServiceIDByBSDName(NetworkPreferences &preferences,
+                                                     const std::optional<QString> &bsdName);
 
 } // namespace tarvo

@@ -24,58 +24,56 @@ struct ReadyDictionary {
     IOServiceHandle kOmbraIOService = 0; ///< the device behind the interface
     std::optional<QString> kOmbraBSDName; ///< the interface's name
 
-    bool operator==(const ReadyDictionary&) const = default;
+    bool operator==(const ReadyDictionary &) const = default;
 };
 
 /// Who is told of devices. A report that nobody takes is left empty.
 struct RouterReports {
-    std::function<void(const ReadyDictionary&)> procECMReady;
-    std::function<void(const QString& bsdName)> procInterfaceRemoved;
+    std::function<void(const ReadyDictionary &)> procECMReady;
+    std::function<void(const QString &bsdName)> procInterfaceRemoved;
 };
 
-/// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is
-/// gone.
+/// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.
 ///
 /// Everything runs on the main thread, and reports are made synchronously from the store's callbacks.
 class RouterObserver {
 public:
-    RouterObserver(DynamicStore& dynamicStore, DeviceRegistry& deviceRegistry, SystemLog& systemLog);
+    RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog);
     ~RouterObserver();
-    RouterObserver(const RouterObserver&) = delete;
-    RouterObserver& operator=(const RouterObserver&) = delete;
+    RouterObserver(const RouterObserver &) = delete;
+    RouterObserver &operator=(const RouterObserver &) = delete;
 
     /// Starts to watch the interface list. @return false when the network state cannot be had
-    bool startWatchNetworkInterface(const std::shared_ptr<const RouterReports>& observer);
-    void updateSupportedNetworkInterface(DynamicStoreSession& session, const QStringList& keys);
+    bool startWatchNetworkInterface(const std::shared_ptr<const RouterReports> &observer);
+    void updateSupportedNetworkInterface(DynamicStoreSession &session, const QStringList &keys);
     /// Starts to watch the IPv4 state of all services; does nothing when that is on already.
-    void startWatchSupportedInterfaceIPv4(const std::shared_ptr<const RouterReports>& observer);
-    void updateSupportedInterfaceIPv4(DynamicStoreSession& session, const QStringList& keys);
+    void startWatchSupportedInterfaceIPv4(const std::shared_ptr<const RouterReports> &observer);
+    void updateSupportedInterfaceIPv4(DynamicStoreSession &session, const QStringList &keys);
     void stopWatchSupportedInterfaceIPv4();
 
-    void ipv4Observer(const ReadyDictionary& ready) const;
-    void interfaceRemoved(const QString& bsdName) const;
+    void ipv4Observer(const ReadyDictionary &ready) const;
+    void interfaceRemoved(const QString &bsdName) const;
 
     void resetModemPlugedInTime();
     void releaseModemPlugedInTime();
     /// @return the time of the last ready report; nil when the last IPv4 change was of no supported modem
     std::optional<QDateTime> getModemPlugedInTime() const;
 
-    /// @return whether a supported modem among the devices of @p className has an Ethernet interface with a
-    /// router
-    bool isInterfaceRouterReady(const QByteArray& className);
+    /// @return whether a supported modem among the devices of @p className has an Ethernet interface with a router
+    bool isInterfaceRouterReady(const QByteArray &className);
 
     bool isSupportedVendorID(qint64 vendorID) const;
     bool isSupportedProductID(qint64 productID) const;
     bool isExcludedProductID(qint64 productID) const;
     bool isSupportedIOService(IOServiceHandle service) const;
-    IOServiceHandle getIOServiceOfBSDName(const QString& bsdName) const;
+    IOServiceHandle getIOServiceOfBSDName(const QString &bsdName) const;
     /// @param bsdName must not be nil
-    bool isSupportedEnthernetBSDName(const std::optional<QString>& bsdName) const;
+    bool isSupportedEnthernetBSDName(const std::optional<QString> &bsdName) const;
 
 private:
-    DynamicStore& dynamicStore_;
-    DeviceRegistry& deviceRegistry_;
-    SystemLog& systemLog_;
+    DynamicStore &dynamicStore_;
+    DeviceRegistry &deviceRegistry_;
+    SystemLog &systemLog_;
     NetworkPreferences preferences_;
 
     std::shared_ptr<const RouterReports> observer_;

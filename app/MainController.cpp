@@ -34,12 +34,12 @@ void MainController::awakeFromNib()
 void MainController::applicationDidFinishLaunching()
 {
     if (!routerObserver_)
-        routerObserver_ = std::make_unique<RouterObserver>(services_.dynamicStore, services_.deviceRegistry,
-                                                           services_.systemLog);
+        routerObserver_ =
+            std::make_unique<RouterObserver>(services_.dynamicStore, services_.deviceRegistry, services_.systemLog);
     startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
-        RouterReports{[this](const ReadyDictionary& ready) { procECMReady(ready); },
-                      [this](const QString& bsdName) { procInterfaceRemoved(bsdName); }}));
+        RouterReports{[this](const ReadyDictionary &ready) { procECMReady(ready); },
+                      [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }}));
 }
 
 bool MainController::windowShouldClose()
@@ -73,7 +73,7 @@ void MainController::machineDidWake()
         startGetModemInfo();
 }
 
-void MainController::procECMReady(const ReadyDictionary& ready)
+void MainController::procECMReady(const ReadyDictionary &ready)
 {
     if (!ready.router) {
         waitingIPv4Ready();
@@ -89,7 +89,7 @@ void MainController::procECMReady(const ReadyDictionary& ready)
     log(ready.kOmbraBSDName.value_or(QStringLiteral("(null)")));
 }
 
-void MainController::procInterfaceRemoved(const QString& bsdName)
+void MainController::procInterfaceRemoved(const QString &bsdName)
 {
     log(bsdName);
     stopGetModemStatus();
@@ -133,7 +133,7 @@ QString MainController::getAppPath() const
     return QStringLiteral("/Applications/Safari.app");
 }
 
-bool MainController::launchAppFromPath(const std::optional<QString>& path)
+bool MainController::launchAppFromPath(const std::optional<QString> &path)
 {
     return path && services_.workspace.launchApplication(*path);
 }
@@ -143,12 +143,12 @@ void MainController::openApp()
     launchAppFromPath(getAppPath());
 }
 
-void MainController::log(const QString& line) const
+void MainController::log(const QString &line) const
 {
     services_.systemLog.write(line);
 }
 
-bool MainController::whileAttached(const std::function<void()>& step)
+bool MainController::whileAttached(const std::function<void()> &step)
 {
     const std::scoped_lock lock(attachmentMutex_);
     if (WorkScope::current().stop_requested())

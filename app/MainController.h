@@ -29,21 +29,19 @@ class StatusItem;
 
 /// Owns all that the running companion knows, and carries out what it does.
 ///
-/// Lives on the main thread. The polling worker and the display thread run operations of it, as their groups
-/// say; their work belongs to one attachment of a device (`WorkScope`), and ends without effect when that is
-/// over.
+/// Lives on the main thread. The polling worker and the display thread run operations of it, as their groups say;
+/// their work belongs to one attachment of a device (`WorkScope`), and ends without effect when that is over.
 class MainController {
 public:
     explicit MainController(Services services);
     ~MainController();
-    MainController(const MainController&) = delete;
-    MainController& operator=(const MainController&) = delete;
+    MainController(const MainController &) = delete;
+    MainController &operator=(const MainController &) = delete;
 
     /// The shared flags and amounts.
-    ModemState& state() { return state_; }
+    ModemState &state() { return state_; }
 
-    // --- Start-up, sleep and device events: app/MainController.cpp (main thread)
-    // -----------------------------------
+    // --- Start-up, sleep and device events: app/MainController.cpp (main thread) -----------------------------------
 
     /// Registers for sleep and wake.
     void awakeFromNib();
@@ -59,8 +57,8 @@ public:
     void machineDidWake();
 
     /// A supported interface has IPv4 state. Without a router in @p ready nothing changes.
-    void procECMReady(const ReadyDictionary& ready);
-    void procInterfaceRemoved(const QString& bsdName);
+    void procECMReady(const ReadyDictionary &ready);
+    void procInterfaceRemoved(const QString &bsdName);
     /// The device is up but has no router yet.
     void waitingIPv4Ready();
     void startGetModemInfo();
@@ -74,76 +72,67 @@ public:
 
     QString getAppPath() const;
     /// @return whether the application was started; false for a nil path
-    bool launchAppFromPath(const std::optional<QString>& path);
+    bool launchAppFromPath(const std::optional<QString> &path);
     void openApp();
 
-    // --- Requests to the modem: modemapi/MainController_requests.cpp (any thread; blocks up to 5 s)
-    // ----------------
+    // --- Requests to the modem: modemapi/MainController_requests.cpp (any thread; blocks up to 5 s) ----------------
 
     /// Sends the set form @p httpBody, extended by the session token, to @p url.
     /// @param errorBack  set to the transport's error text; may be null
-    /// @return the answer; empty when nothing came back; nil when it is no UTF-8; a fixed failure text when
-    /// the modem
+    /// @return the answer; empty when nothing came back; nil when it is no UTF-8; a fixed failure text when the modem
     ///         gives no session
-    std::optional<QString> setWebRequestToServer(const QString& url, const QString& httpBody,
-                                                 std::optional<QString>* errorBack);
-    /// Fetches @p url with itself as the "Referer" header. Errors are logged, never handed back in @p
-    /// errorBack.
+    std::optional<QString> setWebRequestToServer(const QString &url, const QString &httpBody,
+                                                 std::optional<QString> *errorBack);
+    /// Fetches @p url with itself as the "Referer" header. Errors are logged, never handed back in @p errorBack.
     /// @return the answer; empty when nothing came back; nil when it is no UTF-8
-    std::optional<QString> getContentFormRefererRequest(const QString& url,
-                                                        std::optional<QString>* errorBack);
+    std::optional<QString> getContentFormRefererRequest(const QString &url, std::optional<QString> *errorBack);
     /// Runs the get command @p command, which may carry further query parts.
     /// @return the answer; nil for a nil command or when there is no text
-    std::optional<QString> getWebRequestContent(const std::optional<QString>& command);
+    std::optional<QString> getWebRequestContent(const std::optional<QString> &command);
     /// Runs the set command @p command, which may carry further form fields.
     /// @return whether the modem reported success; false for a nil command
-    bool setWebRequestWithId(const std::optional<QString>& command);
+    bool setWebRequestWithId(const std::optional<QString> &command);
 
-    // --- Connection and dial mode: modemapi/MainController_predicates.cpp (any thread)
-    // -----------------------------
+    // --- Connection and dial mode: modemapi/MainController_predicates.cpp (any thread) -----------------------------
 
     /// @return the connection status in @p content; nil when there is none
-    std::optional<QString> getConnectionStatusWithWebContent(const std::optional<QString>& content) const;
+    std::optional<QString> getConnectionStatusWithWebContent(const std::optional<QString> &content) const;
     /// @return the dial mode in @p content; nil when there is none or the configuration does not want it
-    std::optional<QString> getConnectMode(const std::optional<QString>& content) const;
-    bool isConnectedWithStautusContent(const std::optional<QString>& status) const;
+    std::optional<QString> getConnectMode(const std::optional<QString> &content) const;
+    bool isConnectedWithStautusContent(const std::optional<QString> &status) const;
     /// Keeps the answer in `isAutoConnectOn_`.
-    bool isAutoConnect(const std::optional<QString>& dialMode);
+    bool isAutoConnect(const std::optional<QString> &dialMode);
 
-    // --- Status snapshot: monitor/MainController_snapshot.cpp (polling worker)
-    // -------------------------------------
+    // --- Status snapshot: monitor/MainController_snapshot.cpp (polling worker) -------------------------------------
 
     /// Turns the status page into the snapshot, and starts a balloon sequence.
-    void setAllStatusByUrlContents(const QString& content);
+    void setAllStatusByUrlContents(const QString &content);
 
-    // --- Polling: monitor/MainController_polling.cpp
-    // ---------------------------------------------------------------
+    // --- Polling: monitor/MainController_polling.cpp ---------------------------------------------------------------
 
     /// Shows the icon as online and starts a polling worker (main thread).
     void startGetModemStatus();
     /// The polling worker's body: one pass a second until the worker is stopped.
     void newUpdateStatus();
-    void timerHandler(const std::shared_ptr<RepeatingTimer>& timer);
+    void timerHandler(const std::shared_ptr<RepeatingTimer> &timer);
     /// One pass: fetches the status page and, when it came, runs every step that depends on it.
     void updateModemStatus();
     /// Stops polling, resets the snapshot and shows the removal (main thread). Returns at once.
     void stopGetModemStatus();
     /// Applies the rules of the modem's start-up states in @p content.
-    void checkModemMainState(const QString& content);
+    void checkModemMainState(const QString &content);
     /// Sends the computer's clock to the modem.
     void setPcDate();
     void startConnectStatusTimer();
 
-    // --- Firmware check: monitor/MainController_firmware.cpp
-    // -------------------------------------------------------
+    // --- Firmware check: monitor/MainController_firmware.cpp -------------------------------------------------------
 
     /// Asks the modem for new firmware and keeps the answer in `isHaveNewVersion_` (polling worker).
     void checkFotaUpdateWhenConnected();
     /// Shows the update panel; returns at once.
     void showAlertMsgForUpdate();
 
-    // --- Status items and balloon: ui/MainController_statusitem.cpp, ui/MainController_balloon.cpp
-    // -----------------
+    // --- Status items and balloon: ui/MainController_statusitem.cpp, ui/MainController_balloon.cpp -----------------
 
     /// Creates the status items and the icon, once (main thread).
     void startToolbarStatus();
@@ -152,16 +141,15 @@ public:
     /// Starts a balloon sequence unless one runs (any thread).
     void startDisPlayUIStatusThread();
     /// Closes the balloon if one is shown; otherwise opens one with @p text, unless that is nil or empty.
-    void toggleAttachedWindowAtPoint(const std::optional<QString>& text);
+    void toggleAttachedWindowAtPoint(const std::optional<QString> &text);
     /// Brings icon, tip and click flags up to date for one display type, 5 to 8 (display thread).
     /// @return the text that the balloon must show now; empty for none
     QString getDisplayStatusByType(int type);
     /// The balloon sequence (display thread).
     void displayUIStatus();
-    void statusCheck(const QTimer* timer);
+    void statusCheck(const QTimer *timer);
 
-    // --- Web pages: ui/MainController_webui.cpp
-    // --------------------------------------------------------------------
+    // --- Web pages: ui/MainController_webui.cpp --------------------------------------------------------------------
 
     /// The icon's click: opens the page that the news calls for.
     void openHomepage();
@@ -170,24 +158,22 @@ public:
     void openDateLimitPage();
     /// Opens the modem's own web server.
     void openWebUI();
-    /// Opens the modem's pages once for each plug-in, when @p content says that the user has to enter
-    /// something there (polling worker).
-    void openWebUIForQX740(const QString& content);
+    /// Opens the modem's pages once for each plug-in, when @p content says that the user has to enter something there
+    /// (polling worker).
+    void openWebUIForQX740(const QString &content);
 
-    // --- Access points: apn/MainController_apn.cpp (polling worker)
-    // ------------------------------------------------
+    // --- Access points: apn/MainController_apn.cpp (polling worker) ------------------------------------------------
 
     /// Adds the access-point record @p record to the modem. @return whether the modem took it
-    bool setApn(const QString& record);
+    bool setApn(const QString &record);
     /// Makes the access point at @p index the modem's default; 199 first adds the not-found record.
     bool setDefaultApn(int index);
     /// Tells the modem, once, that this computer's access points are complete.
     void setApnReady();
     void setLpm();
     void setOnline();
-    /// @return the index that the modem's default name asks for among @p records; nil means no records were
-    /// looked for
-    int getDefaultApnIndex(const std::optional<QStringList>& records);
+    /// @return the index that the modem's default name asks for among @p records; nil means no records were looked for
+    int getDefaultApnIndex(const std::optional<QStringList> &records);
     bool isPCApnType();
     /// @return whether this computer's records may be sent; true at most once for an attachment
     bool canSetApnToServer();
@@ -195,15 +181,14 @@ public:
     void setAllApnFromPC();
 
 private:
-    void log(const QString& line) const;
+    void log(const QString &line) const;
 
     /// Runs @p step under the attachment's lock, unless the calling thread's work is over.
     /// @return whether it ran
-    bool whileAttached(const std::function<void()>& step);
+    bool whileAttached(const std::function<void()> &step);
     /// Runs @p step on the main thread, later and in order, unless the calling thread's work is over by then.
     void onMainThread(std::function<void()> step);
-    /// Ends all work of the present attachment: its requests, its waits, and what it has not yet put into
-    /// effect.
+    /// Ends all work of the present attachment: its requests, its waits, and what it has not yet put into effect.
     void endAttachment();
     /// Starts @p work of the present attachment, of a new one if the last has ended, on a thread of its own.
     /// @return whether it started; false when the calling thread's own work is over
@@ -217,27 +202,26 @@ private:
 
     /// Makes @p request over the calling thread's own connection, tied to the modem's interface.
     HttpAnswer exchange(HttpRequest request);
-    WebContent plainContent(const QString& url);
-    /// Fetches the status page in the configured way. @return its text; nil, with a line in the log, when
-    /// there is none
+    WebContent plainContent(const QString &url);
+    /// Fetches the status page in the configured way. @return its text; nil, with a line in the log, when there is none
     std::optional<QString> statusPage();
 
     /// @return the address of @p path on the modem's server
-    QString modemUrl(const QString& path) const;
+    QString modemUrl(const QString &path) const;
     /// @return the address of the modem's own pages
     QString modemServer() const;
     /// Opens @p page in the user's browser; a text that is no URL opens nothing.
-    void openPage(const QString& page);
+    void openPage(const QString &page);
     /// Opens the page configured as @p module; nothing when there is none.
-    void openConfiguredPage(const QString& module);
+    void openConfiguredPage(const QString &module);
 
     bool isBalloonShown() const;
-    void createStatusItems(const QString& imageName);
+    void createStatusItems(const QString &imageName);
     void removeStatusItems();
     /// Sets the icon's image by name (main thread).
-    void setStatusImage(const QString& imageName);
+    void setStatusImage(const QString &imageName);
     /// Sets the icon's tool tip (main thread).
-    void setStatusToolTip(const QString& toolTip);
+    void setStatusToolTip(const QString &toolTip);
 
     Services services_;
     QObject mainThread_; ///< receives the steps that other threads post

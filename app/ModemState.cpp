@@ -37,10 +37,10 @@ void ModemState::resetForStop()
 {
     haveNewVersionFlag_ = true;
     haveDataLimitFlag_ = true;
-    for (std::atomic<bool>* flag :
+    for (std::atomic<bool> *flag :
          {&isHaveNewVersion_, &isHaveDataLimitExceedForOneMonth_, &isHaveDataLimitExceedForThreedays_,
-          &isHaveDataLimitReachedForOneMonth_, &openUpdateUrlWhileHasNewVersion_,
-          &openDateLimitUrlWhileHasLimit_, &ifOpenUrlWhileDevicePlugIn_})
+          &isHaveDataLimitReachedForOneMonth_, &openUpdateUrlWhileHasNewVersion_, &openDateLimitUrlWhileHasLimit_,
+          &ifOpenUrlWhileDevicePlugIn_})
         *flag = false;
     stopProcModemStatus_ = true;
     hasOpenedWebUI_ = false;
@@ -48,15 +48,15 @@ void ModemState::resetForStop()
     isSetApnReady_ = false;
     isRoamOn_ = false;
     isAutoConnectOn_ = false;
-    for (std::atomic<float>* amount : {&m_useData, &m_surplusData, &m_totalMonthData, &m_totalThreeData})
+    for (std::atomic<float> *amount : {&m_useData, &m_surplusData, &m_totalMonthData, &m_totalThreeData})
         *amount = 0;
     m_counter = 0;
     setNetWorkTransferTypeByNewNetStatus(0);
     setcurrentNetWorkStatus(0);
-    for (std::atomic<bool>* previous :
-         {&previousHaveUnReadSmsStatus_, &previousHaveNewSmsStatus_, &previousRoamOnStatus_,
-          &previousHaveNewVersion_, &previousNetWorkStatus_, &previousHaveDateLimitReached_,
-          &previousHaveDateLimitExceeded_, &previousHaveDateLimitExceededForThreedays_})
+    for (std::atomic<bool> *previous :
+         {&previousHaveUnReadSmsStatus_, &previousHaveNewSmsStatus_, &previousRoamOnStatus_, &previousHaveNewVersion_,
+          &previousNetWorkStatus_, &previousHaveDateLimitReached_, &previousHaveDateLimitExceeded_,
+          &previousHaveDateLimitExceededForThreedays_})
         *previous = false;
 }
 

@@ -7,8 +7,8 @@
 
 namespace tarvo {
 
-/// The flags and amounts of one modem's attachment, shared by the main thread, the polling worker and the
-/// display thread. Each is atomic by itself; a reader may see a value that is one pass old.
+/// The flags and amounts of one modem's attachment, shared by the main thread, the polling worker and the display
+/// thread. Each is atomic by itself; a reader may see a value that is one pass old.
 struct ModemState {
     /// No device: set when polling stops, cleared when a device becomes ready.
     std::atomic<bool> stopProcModemStatus_{true};
@@ -65,8 +65,8 @@ struct ModemState {
 
     /// A device became ready: what was known of an earlier one no longer holds.
     void resetForReadyDevice();
-    /// The device is gone or the machine sleeps. The two notice flags are set, so that nothing shows a normal
-    /// state until a device is ready again.
+    /// The device is gone or the machine sleeps. The two notice flags are set, so that nothing shows a normal state
+    /// until a device is ready again.
     void resetForStop();
 };
 

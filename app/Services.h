@@ -15,16 +15,15 @@ class Workspace;
 
 /// What the controller needs from the outside. Everything referred to outlives the controller.
 struct Services {
-    DynamicStore& dynamicStore;
-    DeviceRegistry& deviceRegistry;
-    Workspace& workspace;
-    StatusBar& statusBar;
-    Clock& clock;
-    SystemLog& systemLog;
+    DynamicStore &dynamicStore;
+    DeviceRegistry &deviceRegistry;
+    Workspace &workspace;
+    StatusBar &statusBar;
+    Clock &clock;
+    SystemLog &systemLog;
 
-    /// Ties a new socket to a network interface, if the kernel allows it; called on any thread. Empty ties
-    /// nothing.
-    std::function<void(int socket, const QString& interfaceName)> bindSocketToInterface;
+    /// Ties a new socket to a network interface, if the kernel allows it; called on any thread. Empty ties nothing.
+    std::function<void(int socket, const QString &interfaceName)> bindSocketToInterface;
 
     /// Asks the application to end; called on the main thread.
     std::function<void()> terminate;

@@ -11,8 +11,8 @@ class WorkScope {
 public:
     explicit WorkScope(std::stop_token stop);
     ~WorkScope();
-    WorkScope(const WorkScope&) = delete;
-    WorkScope& operator=(const WorkScope&) = delete;
+    WorkScope(const WorkScope &) = delete;
+    WorkScope &operator=(const WorkScope &) = delete;
 
     /// @return the token of the calling thread's work; one that never stops where no scope is open
     static std::stop_token current();

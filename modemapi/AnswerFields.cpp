@@ -5,15 +5,14 @@ namespace tarvo {
 namespace {
 
 /// Code units that the whole character at @p index takes.
-qsizetype characterLength(const QString& text, qsizetype index)
+qsizetype characterLength(const QString &text, qsizetype index)
 {
-    const bool pair =
-        index + 1 < text.size() && text[index].isHighSurrogate() && text[index + 1].isLowSurrogate();
+    const bool pair = index + 1 < text.size() && text[index].isHighSurrogate() && text[index + 1].isLowSurrogate();
     return pair ? 2 : 1;
 }
 
-std::optional<QString> valueAfterKey(const std::optional<QString>& key,
-                                     const std::optional<QString>& infoString, QChar closingQuote)
+std::optional<QString> valueAfterKey(const std::optional<QString> &key, const std::optional<QString> &infoString,
+                                     QChar closingQuote)
 {
     if (!key || !infoString || key->isEmpty())
         return std::nullopt;
@@ -30,14 +29,13 @@ std::optional<QString> valueAfterKey(const std::optional<QString>& key,
 
 } // namespace
 
-std::optional<QString> getModemInfoFromKey(const std::optional<QString>& key,
-                                           const std::optional<QString>& infoString)
+std::optional<QString> getModemInfoFromKey(const std::optional<QString> &key, const std::optional<QString> &infoString)
 {
     return valueAfterKey(key, infoString, u'\'');
 }
 
-std::optional<QString> getModemInfoFromKeyForWeb5(const std::optional<QString>& key,
-                                                  const std::optional<QString>& infoString)
+std::optional<QString> getModemInfoFromKeyForWeb5(const std::optional<QString> &key,
+                                                  const std::optional<QString> &infoString)
 {
     return valueAfterKey(key, infoString, u'"');
 }

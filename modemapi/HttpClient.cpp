@@ -13,13 +13,13 @@ namespace {
 constexpr int maximumRedirects = 5;
 
 struct EasyDeleter {
-    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+    void operator()(CURL *handle) const { curl_easy_cleanup(handle); }
 };
 struct MultiDeleter {
-    void operator()(CURLM* handle) const { curl_multi_cleanup(handle); }
+    void operator()(CURLM *handle) const { curl_multi_cleanup(handle); }
 };
 struct ListDeleter {
-    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+    void operator()(curl_slist *list) const { curl_slist_free_all(list); }
 };
 using HeaderList = std::unique_ptr<curl_slist, ListDeleter>;
 
@@ -29,13 +29,13 @@ void initialiseLibrary()
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
 }
 
-HeaderList headerList(const QList<QByteArray>& lines)
+HeaderList headerList(const QList<QByteArray> &lines)
 {
     HeaderList list(curl_slist_append(nullptr, "Expect:"));
-    for (const QByteArray& line : lines) {
+    for (const QByteArray &line : lines) {
         if (line.contains('\r') || line.contains('\n'))
             continue; // would smuggle in further lines
-        if (curl_slist* longer = curl_slist_append(list.get(), line.constData())) {
+        if (curl_slist *longer = curl_slist_append(list.get(), line.constData())) {
             static_cast<void>(list.release());
             list.reset(longer);
         }
@@ -43,9 +43,9 @@ HeaderList headerList(const QList<QByteArray>& lines)
     return list;
 }
 
-size_t receive(char* bytes, size_t size, size_t count, void* context)
+size_t receive(char *bytes, size_t size, size_t count, void *context)
 {
-    auto& data = *static_cast<QByteArray*>(context);
+    auto &data = *static_cast<QByteArray *>(context);
     const auto length = static_cast<qsizetype>(size * count);
     if (length > HttpClient::maximumAnswerSize - data.size())
         return CURL_WRITEFUNC_ERROR;
@@ -53,15 +53,15 @@ size_t receive(char* bytes, size_t size, size_t count, void* context)
     return size * count;
 }
 
-int prepare(void* context, curl_socket_t socket, curlsocktype)
+int prepare(void *context, curl_socket_t socket, curlsocktype)
 {
-    const auto& prepareSocket = *static_cast<const std::function<void(int)>*>(context);
+    const auto &prepareSocket = *static_cast<const std::function<void(int)> *>(context);
     if (prepareSocket)
         prepareSocket(socket);
     return CURL_SOCKOPT_OK;
 }
 
-bool sameServer(const QUrl& one, const QUrl& other)
+bool sameServer(const QUrl &one, const QUrl &other)
 {
     return one.scheme() == other.scheme() && one.host() == other.host() && one.port() == other.port();
 }
@@ -81,7 +81,7 @@ public:
             throw std::bad_alloc();
     }
 
-    HttpAnswer run(const HttpRequest& request, std::stop_token stop)
+    HttpAnswer run(const HttpRequest &request, std::stop_token stop)
     {
         const auto deadline = std::chrono::steady_clock::now() + timeout;
         QUrl url = request.url;
@@ -97,12 +97,11 @@ public:
     }
 
 private:
-    HttpAnswer fetch(const QUrl& url, const HttpRequest& request,
-                     std::chrono::steady_clock::time_point deadline, const std::stop_token& stop)
+    HttpAnswer fetch(const QUrl &url, const HttpRequest &request, std::chrono::steady_clock::time_point deadline,
+                     const std::stop_token &stop)
     {
         using std::chrono::milliseconds;
-        const auto left =
-            std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
+        const auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
         if (stop.stop_requested() || left <= 0)
             return {{}, QStringLiteral("stopped")};
 
@@ -115,10 +114,10 @@ private:
         return answer;
     }
 
-    void prepareHandle(const QUrl& url, const HttpRequest& request, long long milliseconds,
-                       curl_slist* headers, QByteArray& data)
+    void prepareHandle(const QUrl &url, const HttpRequest &request, long long milliseconds, curl_slist *headers,
+                       QByteArray &data)
     {
-        CURL* easy = m_easy.get();
+        CURL *easy = m_easy.get();
         curl_easy_reset(easy); // keeps the open connections
         curl_easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
         curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
@@ -133,14 +132,13 @@ private:
         curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepare);
         curl_easy_setopt(easy, CURLOPT_SOCKOPTDATA, &request.prepareSocket);
         if (request.body) {
-            curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE,
-                             static_cast<curl_off_t>(request.body->size()));
+            curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body->size()));
             curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, request.body->constData());
             curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
         }
     }
 
-    CURLcode perform(const std::stop_token& stop)
+    CURLcode perform(const std::stop_token &stop)
     {
         curl_multi_add_handle(m_multi.get(), m_easy.get());
         const std::stop_callback wake(stop, [this] { curl_multi_wakeup(m_multi.get()); });
@@ -149,12 +147,11 @@ private:
         while (state == CURLM_OK && running > 0 && !stop.stop_requested()) {
             state = curl_multi_perform(m_multi.get(), &running);
             if (state == CURLM_OK && running > 0)
-                state =
-                    curl_multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(timeout.count()), nullptr);
+                state = curl_multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(timeout.count()), nullptr);
         }
         CURLcode result = CURLE_ABORTED_BY_CALLBACK;
         int queued = 0;
-        while (const CURLMsg* message = curl_multi_info_read(m_multi.get(), &queued)) {
+        while (const CURLMsg *message = curl_multi_info_read(m_multi.get(), &queued)) {
             if (message->msg == CURLMSG_DONE)
                 result = message->data.result;
         }
@@ -164,7 +161,7 @@ private:
 
     std::optional<QUrl> redirectTarget() const
     {
-        const char* target = nullptr;
+        const char *target = nullptr;
         curl_easy_getinfo(m_easy.get(), CURLINFO_REDIRECT_URL, &target);
         return target ? std::optional(QUrl::fromEncoded(target)) : std::nullopt;
     }
@@ -180,7 +177,7 @@ HttpClient::HttpClient()
 
 HttpClient::~HttpClient() = default;
 
-HttpAnswer HttpClient::exchange(const HttpRequest& request, std::stop_token stop)
+HttpAnswer HttpClient::exchange(const HttpRequest &request, std::stop_token stop)
 {
     return m_transfer->run(request, std::move(stop));
 }

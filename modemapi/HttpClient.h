@@ -28,13 +28,11 @@ struct HttpAnswer {
     std::optional<QString> error; ///< why the exchange failed; nil when an answer came, whatever its status
 };
 
-/// Makes HTTP exchanges one after the other, over a connection that is kept open between them. For one
-/// thread.
+/// Makes HTTP exchanges one after the other, over a connection that is kept open between them. For one thread.
 ///
-/// An exchange ends after five seconds at the latest, or at once when its token is stopped. Proxies are never
-/// used, redirects are followed for reads and on the same host only, an answer of more than 4 MiB is an
-/// error. A post always opens a connection of its own, so that it is never sent a second time because an old
-/// connection turned out closed.
+/// An exchange ends after five seconds at the latest, or at once when its token is stopped. Proxies are never used,
+/// redirects are followed for reads and on the same host only, an answer of more than 4 MiB is an error. A post always
+/// opens a connection of its own, so that it is never sent a second time because an old connection turned out closed.
 class HttpClient {
 public:
     static constexpr std::chrono::milliseconds timeout{5000};
@@ -42,10 +40,10 @@ public:
 
     HttpClient();
     ~HttpClient();
-    HttpClient(const HttpClient&) = delete;
-    HttpClient& operator=(const HttpClient&) = delete;
+    HttpClient(const HttpClient &) = delete;
+    HttpClient &operator=(const HttpClient &) = delete;
 
-    HttpAnswer exchange(const HttpRequest& request, std::stop_token stop);
+    HttpAnswer exchange(const HttpRequest &request, std::stop_token stop);
 
 private:
     class Transfer;

@@ -4,8 +4,7 @@
 
 namespace tarvo {
 
-std::optional<QString>
-MainController::getConnectionStatusWithWebContent(const std::optional<QString>& content) const
+std::optional<QString> MainController::getConnectionStatusWithWebContent(const std::optional<QString> &content) const
 {
     if (!content)
         return std::nullopt;
@@ -18,7 +17,7 @@ MainController::getConnectionStatusWithWebContent(const std::optional<QString>& 
     return getModemInfoFromKey(QStringLiteral("pppstate: "), content);
 }
 
-std::optional<QString> MainController::getConnectMode(const std::optional<QString>& content) const
+std::optional<QString> MainController::getConnectMode(const std::optional<QString> &content) const
 {
     if (!content || !configurationFlag(QStringLiteral("NeedDialModeJudge")))
         return std::nullopt;
@@ -27,7 +26,7 @@ std::optional<QString> MainController::getConnectMode(const std::optional<QStrin
     return getModemInfoFromKeyForWeb5(QStringLiteral("dial_mode\":"), content);
 }
 
-bool MainController::isConnectedWithStautusContent(const std::optional<QString>& status) const
+bool MainController::isConnectedWithStautusContent(const std::optional<QString> &status) const
 {
     if (!status)
         return false;
@@ -36,7 +35,7 @@ bool MainController::isConnectedWithStautusContent(const std::optional<QString>&
         || *status == u"ipv4_ipv6_connected";
 }
 
-bool MainController::isAutoConnect(const std::optional<QString>& dialMode)
+bool MainController::isAutoConnect(const std::optional<QString> &dialMode)
 {
     const bool automatic = dialMode == QStringLiteral("auto_dial");
     whileAttached([&] { state_.isAutoConnectOn_ = automatic; });

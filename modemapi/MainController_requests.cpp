@@ -11,26 +11,26 @@ namespace tarvo {
 namespace {
 
 /// @return the text of @p data; nil when it is no UTF-8
-std::optional<QString> utf8Text(const QByteArray& data)
+std::optional<QString> utf8Text(const QByteArray &data)
 {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(data);
     return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
-QByteArray refererHeader(const QString& url)
+QByteArray refererHeader(const QString &url)
 {
     return "Referer: " + url.toUtf8();
 }
 
-QString textOrNull(const std::optional<QString>& text)
+QString textOrNull(const std::optional<QString> &text)
 {
     return text.value_or(QStringLiteral("(null)"));
 }
 
 } // namespace
 
-QString MainController::modemUrl(const QString& path) const
+QString MainController::modemUrl(const QString &path) const
 {
     return QStringLiteral("http://%1/%2").arg(routerAddr_.get().value_or(QString()), path);
 }
@@ -39,16 +39,14 @@ HttpAnswer MainController::exchange(HttpRequest request)
 {
     // A client for each thread: requests may come from any, and each keeps its own connection to the modem.
     static thread_local HttpClient client;
-    request.prepareSocket = [bind = services_.bindSocketToInterface,
-                             name = routerInterface_.get()](int socket) {
+    request.prepareSocket = [bind = services_.bindSocketToInterface, name = routerInterface_.get()](int socket) {
         if (bind && name)
             bind(socket, *name);
     };
     return client.exchange(request, WorkScope::current());
 }
 
-std::optional<QString> MainController::getContentFormRefererRequest(const QString& url,
-                                                                    std::optional<QString>*)
+std::optional<QString> MainController::getContentFormRefererRequest(const QString &url, std::optional<QString> *)
 {
     const HttpAnswer answer = exchange({QUrl(url), {refererHeader(url)}, {}, {}});
     if (answer.data.isEmpty())
@@ -56,7 +54,7 @@ std::optional<QString> MainController::getContentFormRefererRequest(const QStrin
     return utf8Text(answer.data);
 }
 
-MainController::WebContent MainController::plainContent(const QString& url)
+MainController::WebContent MainController::plainContent(const QString &url)
 {
     const HttpAnswer answer = exchange({QUrl(url), {}, {}, {}});
     if (answer.error)
@@ -66,7 +64,7 @@ MainController::WebContent MainController::plainContent(const QString& url)
     return {std::nullopt, QStringLiteral("the answer is no UTF-8")};
 }
 
-std::optional<QString> MainController::getWebRequestContent(const std::optional<QString>& command)
+std::optional<QString> MainController::getWebRequestContent(const std::optional<QString> &command)
 {
     if (!command)
         return std::nullopt;
@@ -75,17 +73,15 @@ std::optional<QString> MainController::getWebRequestContent(const std::optional<
         ? WebContent{getContentFormRefererRequest(url, nullptr), std::nullopt}
         : plainContent(url);
     if (content.error || !content.text)
-        log(QStringLiteral("webContent: %1, error: %2")
-                .arg(textOrNull(content.text), textOrNull(content.error)));
+        log(QStringLiteral("webContent: %1, error: %2").arg(textOrNull(content.text), textOrNull(content.error)));
     return content.text;
 }
 
-std::optional<QString> MainController::setWebRequestToServer(const QString& url, const QString& httpBody,
-                                                             std::optional<QString>* errorBack)
+std::optional<QString> MainController::setWebRequestToServer(const QString &url, const QString &httpBody,
+                                                             std::optional<QString> *errorBack)
 {
     const auto session = getContentFormRefererRequest(
-        modemUrl(
-            QStringLiteral("goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1")),
+        modemUrl(QStringLiteral("goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1")),
         nullptr);
     const auto crVersion = getModemInfoFromKeyForWeb5(QStringLiteral("cr_version\":"), session);
     const auto innerVersion = getModemInfoFromKeyForWeb5(QStringLiteral("wa_inner_version\":"), session);
@@ -109,7 +105,7 @@ std::optional<QString> MainController::setWebRequestToServer(const QString& url,
     return utf8Text(answer.data);
 }
 
-bool MainController::setWebRequestWithId(const std::optional<QString>& command)
+bool MainController::setWebRequestWithId(const std::optional<QString> &command)
 {
     if (!command)
         return false;

@@ -5,12 +5,12 @@
 
 namespace tarvo {
 
-QString md5String(const QString& text)
+QString md5String(const QString &text)
 {
     return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
 }
 
-QString sessionToken(const QString& innerVersion, const QString& crVersion, const QString& rd)
+QString sessionToken(const QString &innerVersion, const QString &crVersion, const QString &rd)
 {
     return md5String(md5String(innerVersion + crVersion) + rd);
 }

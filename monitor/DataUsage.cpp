@@ -32,7 +32,7 @@ const std::array<std::pair<QString, Field>, 9> fieldNames{{
     {QStringLiteral("international_roaming_setting"), &StatusFields::roamingSetting},
 }};
 
-float number(const std::optional<QString>& text)
+float number(const std::optional<QString> &text)
 {
     return text ? leadingNumber(*text) : 0.0F;
 }
@@ -49,7 +49,7 @@ float gigabytesOfBytes(float bytes)
 
 } // namespace
 
-float leadingNumber(const QString& text)
+float leadingNumber(const QString &text)
 {
     static const QRegularExpression pattern(
         QStringLiteral(R"(^\s*\+?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
@@ -62,28 +62,27 @@ float leadingNumber(const QString& text)
     if (result.ec != std::errc::result_out_of_range)
         return value;
     const double wide = digits.toDouble();
-    return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F)
-                              : 0.0F;
+    return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F) : 0.0F;
 }
 
-StatusFields readStatusFields(const QString& content)
+StatusFields readStatusFields(const QString &content)
 {
     StatusFields fields;
-    for (const auto& [name, field] : fieldNames)
+    for (const auto &[name, field] : fieldNames)
         fields.*field = getModemInfoFromKey(name + QStringLiteral(": "), content);
-    for (const auto& [name, field] : fieldNames) {
+    for (const auto &[name, field] : fieldNames) {
         if (!(fields.*field) || (fields.*field)->isEmpty())
             fields.*field = getModemInfoFromKeyForWeb5(name + QStringLiteral("\":"), content);
     }
     return fields;
 }
 
-bool isRoaming(const StatusFields& fields)
+bool isRoaming(const StatusFields &fields)
 {
     return fields.roamingSetting == QStringLiteral("on");
 }
 
-std::optional<MonthlyUsage> monthlyUsage(const StatusFields& fields)
+std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields)
 {
     if (fields.reminderSwitch != QStringLiteral("on"))
         return std::nullopt;
@@ -91,11 +90,11 @@ std::optional<MonthlyUsage> monthlyUsage(const StatusFields& fields)
     const float limitBytes = bytesOfGigabytes(limit);
     const float thresholdBytes = bytesOfGigabytes(number(fields.monthlyThreshold));
     const float used = number(fields.monthlySent) + number(fields.monthlyReceived);
-    return MonthlyUsage{limit, gigabytesOfBytes(used), gigabytesOfBytes(limitBytes - used),
-                        used > thresholdBytes, used > limitBytes};
+    return MonthlyUsage{limit, gigabytesOfBytes(used), gigabytesOfBytes(limitBytes - used), used > thresholdBytes,
+                        used > limitBytes};
 }
 
-ThreeDayUsage threeDayUsage(const StatusFields& fields)
+ThreeDayUsage threeDayUsage(const StatusFields &fields)
 {
     const float limit = number(fields.threeDayLimit);
     const float used = number(fields.threeDaySent) + number(fields.threeDayReceived);

@@ -9,7 +9,7 @@ namespace tarvo {
 /// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there
 /// is none.
 ///         "inf", "nan" and hexadecimal are no numbers; one too large for a float is infinite
-float leadingNumber(const QString& text);
+float leadingNumber(const QString &text);
 
 /// The fields of a status page that the snapshot is made of, as texts. A field that neither style has is nil.
 struct StatusFields {
@@ -23,12 +23,12 @@ struct StatusFields {
     std::optional<QString> threeDayReceived;
     std::optional<QString> roamingSetting;
 
-    bool operator==(const StatusFields&) const = default;
+    bool operator==(const StatusFields &) const = default;
 };
 
 /// Reads the fields from a status page: in the older style, and where that gives nothing or an empty text, in
 /// the JSON style.
-StatusFields readStatusFields(const QString& content);
+StatusFields readStatusFields(const QString &content);
 
 /// Data used in a month against its limit and reminder threshold. Amounts in gigabytes of 2^30 bytes.
 struct MonthlyUsage {
@@ -38,7 +38,7 @@ struct MonthlyUsage {
     bool thresholdPassed = false;
     bool limitPassed = false;
 
-    bool operator==(const MonthlyUsage&) const = default;
+    bool operator==(const MonthlyUsage &) const = default;
 };
 
 /// Data used in three days against its limit, in gigabytes.
@@ -46,12 +46,12 @@ struct ThreeDayUsage {
     float limit = 0;
     bool limitPassed = false;
 
-    bool operator==(const ThreeDayUsage&) const = default;
+    bool operator==(const ThreeDayUsage &) const = default;
 };
 
-bool isRoaming(const StatusFields& fields);
+bool isRoaming(const StatusFields &fields);
 /// @return nil when the reminder is not switched on
-std::optional<MonthlyUsage> monthlyUsage(const StatusFields& fields);
-ThreeDayUsage threeDayUsage(const StatusFields& fields);
+std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields);
+ThreeDayUsage threeDayUsage(const StatusFields &fields);
 
 } // namespace tarvo

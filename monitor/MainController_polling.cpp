@@ -41,7 +41,7 @@ void MainController::newUpdateStatus()
         timerHandler(timer);
 }
 
-void MainController::timerHandler(const std::shared_ptr<RepeatingTimer>& timer)
+void MainController::timerHandler(const std::shared_ptr<RepeatingTimer> &timer)
 {
     bool ours = false;
     whileAttached([&] { ours = timer == modemStatusTimer_; });
@@ -98,7 +98,7 @@ void MainController::stopGetModemStatus()
     setStatusToolTip(QString());
 }
 
-void MainController::checkModemMainState(const QString& content)
+void MainController::checkModemMainState(const QString &content)
 {
     const auto home = configurationText(QStringLiteral("OperatorHomePage"));
     const auto mainState = getModemInfoFromKeyForWeb5(QStringLiteral("modem_main_state\":"), content);

@@ -5,7 +5,7 @@ namespace tarvo {
 
 namespace {
 
-void applyUsage(ModemState& state, const std::optional<MonthlyUsage>& month, const ThreeDayUsage& threeDays)
+void applyUsage(ModemState &state, const std::optional<MonthlyUsage> &month, const ThreeDayUsage &threeDays)
 {
     state.isHaveDataLimitReachedForOneMonth_ = month && month->thresholdPassed;
     state.isHaveDataLimitExceedForOneMonth_ = month && month->limitPassed;
@@ -18,7 +18,7 @@ void applyUsage(ModemState& state, const std::optional<MonthlyUsage>& month, con
     state.isHaveDataLimitExceedForThreedays_ = threeDays.limitPassed;
 }
 
-void raiseNotices(ModemState& state)
+void raiseNotices(ModemState &state)
 {
     if (state.isHaveNewVersion_)
         state.haveNewVersionFlag_ = true;
@@ -29,7 +29,7 @@ void raiseNotices(ModemState& state)
 
 } // namespace
 
-void MainController::setAllStatusByUrlContents(const QString& content)
+void MainController::setAllStatusByUrlContents(const QString &content)
 {
     const StatusFields fields = readStatusFields(content);
     const bool attached = whileAttached([&] {

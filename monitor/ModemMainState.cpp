@@ -4,7 +4,7 @@
 
 namespace tarvo {
 
-StartUpAction startUpAction(const std::optional<QString>& mainState, int counter)
+StartUpAction startUpAction(const std::optional<QString> &mainState, int counter)
 {
     static const QStringList needUser{
         QStringLiteral("modem_sim_undetected"), QStringLiteral("modem_sim_destroy"),

@@ -17,11 +17,11 @@ struct StartUpAction {
     StartUpPage page = StartUpPage::None;
     bool opened = false; ///< the modem's pages count as opened from now on
 
-    bool operator==(const StartUpAction&) const = default;
+    bool operator==(const StartUpAction &) const = default;
 };
 
 /// @param mainState  the value of `modem_main_state`; nil asks for nothing
 /// @param counter    the controller's `m_counter`
-StartUpAction startUpAction(const std::optional<QString>& mainState, int counter);
+StartUpAction startUpAction(const std::optional<QString> &mainState, int counter);
 
 } // namespace tarvo

@@ -9,7 +9,7 @@ Clock::TimePoint nextFireTime(Clock::TimePoint due, std::chrono::milliseconds in
     return due + interval * ((now - due) / interval + 1);
 }
 
-RepeatingTimer::RepeatingTimer(Clock& clock, std::chrono::milliseconds interval)
+RepeatingTimer::RepeatingTimer(Clock &clock, std::chrono::milliseconds interval)
     : m_clock(clock)
     , m_interval(interval)
     , m_due(clock.now() + interval)

@@ -17,7 +17,7 @@ Clock::TimePoint nextFireTime(Clock::TimePoint due, std::chrono::milliseconds in
 /// threads wait, each fire goes to one of them.
 class RepeatingTimer {
 public:
-    RepeatingTimer(Clock& clock, std::chrono::milliseconds interval);
+    RepeatingTimer(Clock &clock, std::chrono::milliseconds interval);
 
     /// Waits for the next fire. @return false when @p stop ended the wait
     bool waitForFire(std::stop_token stop);
@@ -27,7 +27,7 @@ private:
     /// @return whether the fire at @p due was still to be had
     bool take(Clock::TimePoint due);
 
-    Clock& m_clock;
+    Clock &m_clock;
     const std::chrono::milliseconds m_interval;
     mutable std::mutex m_mutex;
     Clock::TimePoint m_due;

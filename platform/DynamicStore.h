@@ -13,8 +13,7 @@ namespace tarvo {
 
 /// Keys of the store and names of the properties in its values.
 ///
-/// The state domain says what the network is like now; the setup domain says what is configured and in which
-/// order.
+/// The state domain says what the network is like now; the setup domain says what is configured and in which order.
 namespace store {
 inline const QString interfaceListKey = QStringLiteral("State:/Network/Interface");
 inline const QString anyServiceIPv4Pattern = QStringLiteral("State:/Network/Service/[^/]+/IPv4");
@@ -33,9 +32,9 @@ inline const QString kSCPropNetServiceOrder = QStringLiteral("ServiceOrder");
 inline const QString kSCPropNetInterfaceDeviceName = QStringLiteral("DeviceName");
 
 /// The key of one service's IPv4 state.
-QString serviceIPv4Key(const QString& serviceID);
+QString serviceIPv4Key(const QString &serviceID);
 /// The key of one service's interface setup.
-QString serviceInterfaceSetupKey(const QString& serviceID);
+QString serviceInterfaceSetupKey(const QString &serviceID);
 } // namespace store
 
 /// One client's view of the network state. Lives on the thread of the store that made it, and not longer.
@@ -45,32 +44,32 @@ public:
 
     /// Asks for the session's callback whenever the value of a key that matches changes.
     /// @param patterns regular expressions that must match the whole key; they replace earlier ones
-    virtual void setNotificationPatterns(const QStringList& patterns) = 0;
+    virtual void setNotificationPatterns(const QStringList &patterns) = 0;
 
     /// @return the value of @p key; nil when the store has no such key
-    virtual std::optional<QVariantMap> copyValue(const QString& key) const = 0;
+    virtual std::optional<QVariantMap> copyValue(const QString &key) const = 0;
 
     /// @return all entries whose whole key matches any of @p patterns
-    virtual QMap<QString, QVariantMap> copyMultiple(const QStringList& patterns) const = 0;
+    virtual QMap<QString, QVariantMap> copyMultiple(const QStringList &patterns) const = 0;
 
     /// @return the keys that match @p pattern whole, in the store's order
-    virtual QStringList copyKeyList(const QString& pattern) const = 0;
+    virtual QStringList copyKeyList(const QString &pattern) const = 0;
 };
 
 /// The network state of the machine as key/value entries, with notification of changes.
 ///
-/// Used on the main thread only. Callbacks come from the event loop, one changed key at a time, and only when
-/// the key's value really changed or was announced afresh.
+/// Used on the main thread only. Callbacks come from the event loop, one changed key at a time, and only when the
+/// key's value really changed or was announced afresh.
 class DynamicStore {
 public:
     /// Told the session that was notified and the key that changed (one element).
-    using Callback = std::function<void(DynamicStoreSession& session, const QStringList& changedKeys)>;
+    using Callback = std::function<void(DynamicStoreSession &session, const QStringList &changedKeys)>;
 
     virtual ~DynamicStore() = default;
 
     /// Opens a session. An empty @p callback makes a session that only reads.
     /// @return the session, owned by the caller; null when the network state cannot be had
-    virtual std::unique_ptr<DynamicStoreSession> createSession(const QString& name, Callback callback) = 0;
+    virtual std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) = 0;
 };
 
 } // namespace tarvo

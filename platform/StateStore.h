@@ -14,26 +14,26 @@ public:
     using Entries = QMap<QString, QVariantMap>;
 
     StateStore() = default;
-    StateStore(const StateStore&) = delete;
-    StateStore& operator=(const StateStore&) = delete;
+    StateStore(const StateStore &) = delete;
+    StateStore &operator=(const StateStore &) = delete;
 
-    std::unique_ptr<DynamicStoreSession> createSession(const QString& name, Callback callback) override;
+    std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
 
-    const Entries& entries() const { return m_entries; }
+    const Entries &entries() const { return m_entries; }
 
     /// Replaces the whole state, then tells each session of each key whose value differs, in key order.
     void replaceEntries(Entries entries);
 
     /// Tells the sessions of every key that matches @p pattern whole, although nothing changed.
-    void announce(const QString& pattern);
+    void announce(const QString &pattern);
 
 private:
     class Session;
 
-    void notify(const QStringList& changedKeys);
+    void notify(const QStringList &changedKeys);
 
     Entries m_entries;
-    std::vector<Session*> m_sessions;
+    std::vector<Session *> m_sessions;
 };
 
 } // namespace tarvo

@@ -16,32 +16,28 @@ inline constexpr double squareStatusItemLength = -2.0;
 
 /// One item in the desktop's status bar; it is taken out of the bar when it is destroyed.
 ///
-/// What the item shows is its view: the button's icon and tool tip are the item's, the button's actions are
-/// its context menu, a click on the item is a click on the button. Where the bar can hold a foreign window,
-/// the button itself sits there and sees the pointer; elsewhere the item mirrors it. An item without a view
-/// takes no room.
+/// What the item shows is its view: the button's icon and tool tip are the item's, the button's actions are its
+/// context menu, a click on the item is a click on the button. Where the bar can hold a foreign window, the button
+/// itself sits there and sees the pointer; elsewhere the item mirrors it. An item without a view takes no room.
 class StatusItem {
 public:
     virtual ~StatusItem() = default;
 
-    /// Shows @p view, which stays the caller's and must outlive the item or be replaced first; null shows
-    /// nothing.
-    virtual void setView(QAbstractButton* view) = 0;
+    /// Shows @p view, which stays the caller's and must outlive the item or be replaced first; null shows nothing.
+    virtual void setView(QAbstractButton *view) = 0;
 
     /// To be called when the view's icon, tool tip or actions changed.
     virtual void viewChanged() = 0;
 
     /// A text beside the icon, where the bar can show one.
-    virtual void setTitle(const QString& title) = 0;
+    virtual void setTitle(const QString &title) = 0;
 
-    /// @return where the item is, in global coordinates with y downwards; nil when it is not shown or the bar
-    /// does
+    /// @return where the item is, in global coordinates with y downwards; nil when it is not shown or the bar does
     ///         not tell
     virtual std::optional<QRect> frame() const = 0;
 };
 
-/// The desktop's status bar. Used on the main thread only. It may come late, go and come back: items outlive
-/// that.
+/// The desktop's status bar. Used on the main thread only. It may come late, go and come back: items outlive that.
 class StatusBar {
 public:
     virtual ~StatusBar() = default;

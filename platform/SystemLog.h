@@ -10,7 +10,7 @@ public:
     virtual ~SystemLog() = default;
 
     /// Writes @p line as it is: no level, no prefix, never a format.
-    virtual void write(const QString& line) = 0;
+    virtual void write(const QString &line) = 0;
 };
 
 } // namespace tarvo

@@ -15,15 +15,15 @@ public:
 
     virtual ~Workspace() = default;
 
-    /// Calls @p willSleep before the machine sleeps, which waits until it returned, and @p didWake after it
-    /// woke. Several observers are called in the order in which they came.
+    /// Calls @p willSleep before the machine sleeps, which waits until it returned, and @p didWake after it woke.
+    /// Several observers are called in the order in which they came.
     virtual void addSleepObserver(Handler willSleep, Handler didWake) = 0;
 
     /// Hands @p url to the desktop's handler. @return false when it is no valid URL or nothing handles it
-    virtual bool openURL(const QUrl& url) = 0;
+    virtual bool openURL(const QUrl &url) = 0;
 
     /// Starts the application whose executable or bundle is at @p path. @return whether it was started
-    virtual bool launchApplication(const QString& path) = 0;
+    virtual bool launchApplication(const QString &path) = 0;
 };
 
 } // namespace tarvo

@@ -9,7 +9,7 @@ RecordingLog::RecordingLog(Listener listener)
 {
 }
 
-void RecordingLog::write(const QString& line)
+void RecordingLog::write(const QString &line)
 {
     {
         const std::scoped_lock lock(m_mutex);
@@ -26,18 +26,18 @@ QStringList RecordingLog::lines() const
     return m_lines;
 }
 
-bool RecordingLog::contains(const QString& line) const
+bool RecordingLog::contains(const QString &line) const
 {
     return count(line) > 0;
 }
 
-qsizetype RecordingLog::count(const QString& line) const
+qsizetype RecordingLog::count(const QString &line) const
 {
     const std::scoped_lock lock(m_mutex);
     return m_lines.count(line);
 }
 
-bool RecordingLog::waitFor(const QString& line, qsizetype times, std::chrono::milliseconds limit) const
+bool RecordingLog::waitFor(const QString &line, qsizetype times, std::chrono::milliseconds limit) const
 {
     std::unique_lock lock(m_mutex);
     return m_changed.wait_for(lock, limit, [&] { return m_lines.count(line) >= times; });

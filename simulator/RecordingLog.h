@@ -15,20 +15,20 @@ namespace tarvo {
 class RecordingLog final : public SystemLog {
 public:
     /// Told of every line, on the thread that writes it.
-    using Listener = std::function<void(const QString& line)>;
+    using Listener = std::function<void(const QString &line)>;
 
     /// @param listener  may be empty
     explicit RecordingLog(Listener listener = {});
 
-    void write(const QString& line) override;
+    void write(const QString &line) override;
 
     QStringList lines() const;
     /// @return whether a whole line is equal to @p line
-    bool contains(const QString& line) const;
+    bool contains(const QString &line) const;
     /// @return how many whole lines are equal to @p line
-    qsizetype count(const QString& line) const;
+    qsizetype count(const QString &line) const;
     /// Waits, for at most @p limit, until @p line has been written @p times. @return whether it has
-    bool waitFor(const QString& line, qsizetype times = 1,
+    bool waitFor(const QString &line, qsizetype times = 1,
                  std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
     void clear();
 

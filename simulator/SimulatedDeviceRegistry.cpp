@@ -6,7 +6,7 @@ namespace {
 const QString bsdNameKey = QStringLiteral("BSD Name");
 }
 
-IOServiceHandle SimulatedDeviceRegistry::addDevice(const Device& device)
+IOServiceHandle SimulatedDeviceRegistry::addDevice(const Device &device)
 {
     m_devices.insert(++m_lastHandle, device);
     return m_lastHandle;
@@ -20,49 +20,46 @@ void SimulatedDeviceRegistry::removeDevice(IOServiceHandle service)
     m_devices.remove(service);
 }
 
-IOServiceHandle SimulatedDeviceRegistry::addModem(const QString& bsdName, int vendorID, int productID,
-                                                  const QByteArray& interfaceClass)
+IOServiceHandle SimulatedDeviceRegistry::addModem(const QString &bsdName, int vendorID, int productID,
+                                                  const QByteArray &interfaceClass)
 {
-    const auto device = addDevice(
-        {.parent = 0,
-         .className = "IOUSBDevice",
-         .properties = {{QStringLiteral("idVendor"), vendorID}, {QStringLiteral("idProduct"), productID}}});
+    const auto device =
+        addDevice({.parent = 0,
+                   .className = "IOUSBDevice",
+                   .properties = {{QStringLiteral("idVendor"), vendorID}, {QStringLiteral("idProduct"), productID}}});
     const auto usbInterface = addDevice({.parent = device, .className = interfaceClass, .properties = {}});
-    addDevice(
-        {.parent = usbInterface, .className = "IOEthernetInterface", .properties = {{bsdNameKey, bsdName}}});
+    addDevice({.parent = usbInterface, .className = "IOEthernetInterface", .properties = {{bsdNameKey, bsdName}}});
     return device;
 }
 
-IOServiceHandle SimulatedDeviceRegistry::serviceMatchingBSDName(const QString& bsdName)
+IOServiceHandle SimulatedDeviceRegistry::serviceMatchingBSDName(const QString &bsdName)
 {
-    for (const auto& [handle, device] : m_devices.asKeyValueRange()) {
+    for (const auto &[handle, device] : m_devices.asKeyValueRange()) {
         if (device.properties.value(bsdNameKey) == bsdName)
             return handle;
     }
     return 0;
 }
 
-std::optional<QList<IOServiceHandle>>
-SimulatedDeviceRegistry::servicesMatchingClass(const QByteArray& className)
+std::optional<QList<IOServiceHandle>> SimulatedDeviceRegistry::servicesMatchingClass(const QByteArray &className)
 {
     if (!m_readable)
         return std::nullopt;
     QList<IOServiceHandle> services;
-    for (const auto& [handle, device] : m_devices.asKeyValueRange()) {
+    for (const auto &[handle, device] : m_devices.asKeyValueRange()) {
         if (device.className == className)
             services.append(handle);
     }
     return services;
 }
 
-std::optional<QVariant> SimulatedDeviceRegistry::searchProperty(IOServiceHandle service, const QString& key,
+std::optional<QVariant> SimulatedDeviceRegistry::searchProperty(IOServiceHandle service, const QString &key,
                                                                 RegistrySearch direction)
 {
     return direction == RegistrySearch::Upward ? searchUpward(service, key) : searchDownward(service, key);
 }
 
-std::optional<QVariant> SimulatedDeviceRegistry::searchUpward(IOServiceHandle service,
-                                                              const QString& key) const
+std::optional<QVariant> SimulatedDeviceRegistry::searchUpward(IOServiceHandle service, const QString &key) const
 {
     for (auto device = m_devices.constFind(service); device != m_devices.cend();
          device = m_devices.constFind(device->parent)) {
@@ -72,8 +69,7 @@ std::optional<QVariant> SimulatedDeviceRegistry::searchUpward(IOServiceHandle se
     return std::nullopt;
 }
 
-std::optional<QVariant> SimulatedDeviceRegistry::searchDownward(IOServiceHandle service,
-                                                                const QString& key) const
+std::optional<QVariant> SimulatedDeviceRegistry::searchDownward(IOServiceHandle service, const QString &key) const
 {
     if (const auto properties = m_devices.value(service).properties; properties.contains(key))
         return properties.value(key);
@@ -88,7 +84,7 @@ std::optional<QVariant> SimulatedDeviceRegistry::searchDownward(IOServiceHandle 
 QList<IOServiceHandle> SimulatedDeviceRegistry::childrenOf(IOServiceHandle service) const
 {
     QList<IOServiceHandle> children;
-    for (const auto& [handle, device] : m_devices.asKeyValueRange()) {
+    for (const auto &[handle, device] : m_devices.asKeyValueRange()) {
         if (device.parent == service)
             children.append(handle);
     }

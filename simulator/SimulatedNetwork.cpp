@@ -4,43 +4,42 @@
 
 namespace tarvo {
 
-SimulatedNetwork::SimulatedNetwork(StateStore& store)
+SimulatedNetwork::SimulatedNetwork(StateStore &store)
     : m_store(store)
 {
     publish();
 }
 
-QString SimulatedNetwork::serviceOf(const QString& interfaceName)
+QString SimulatedNetwork::serviceOf(const QString &interfaceName)
 {
     return QStringLiteral("service-") + interfaceName;
 }
 
-void SimulatedNetwork::addInterface(const QString& interfaceName)
+void SimulatedNetwork::addInterface(const QString &interfaceName)
 {
     m_interfaces.append({.name = interfaceName});
     publish();
 }
 
-void SimulatedNetwork::setIPv4(const QString& interfaceName, const std::optional<QString>& router)
+void SimulatedNetwork::setIPv4(const QString &interfaceName, const std::optional<QString> &router)
 {
     change(interfaceName, true, router);
 }
 
-void SimulatedNetwork::clearIPv4(const QString& interfaceName)
+void SimulatedNetwork::clearIPv4(const QString &interfaceName)
 {
     change(interfaceName, false, std::nullopt);
 }
 
-void SimulatedNetwork::removeInterface(const QString& interfaceName)
+void SimulatedNetwork::removeInterface(const QString &interfaceName)
 {
-    m_interfaces.removeIf([&](const Interface& interface) { return interface.name == interfaceName; });
+    m_interfaces.removeIf([&](const Interface &interface) { return interface.name == interfaceName; });
     publish();
 }
 
-void SimulatedNetwork::change(const QString& interfaceName, bool hasIPv4,
-                              const std::optional<QString>& router)
+void SimulatedNetwork::change(const QString &interfaceName, bool hasIPv4, const std::optional<QString> &router)
 {
-    for (Interface& interface : m_interfaces) {
+    for (Interface &interface : m_interfaces) {
         if (interface.name == interfaceName)
             interface = {.name = interfaceName, .hasIPv4 = hasIPv4, .router = router};
     }
@@ -52,7 +51,7 @@ void SimulatedNetwork::publish()
     StateStore::Entries entries;
     QStringList names;
     QStringList services;
-    for (const Interface& interface : std::as_const(m_interfaces)) {
+    for (const Interface &interface : std::as_const(m_interfaces)) {
         const QString service = serviceOf(interface.name);
         names.append(interface.name);
         services.append(service);

@@ -16,18 +16,18 @@ class StateStore;
 class SimulatedNetwork {
 public:
     /// @param store  outlives this object, which owns its whole content
-    explicit SimulatedNetwork(StateStore& store);
+    explicit SimulatedNetwork(StateStore &store);
 
     /// The name of the service that uses @p interfaceName.
-    static QString serviceOf(const QString& interfaceName);
+    static QString serviceOf(const QString &interfaceName);
 
     /// A new interface appears, with no address yet.
-    void addInterface(const QString& interfaceName);
+    void addInterface(const QString &interfaceName);
     /// The interface has IPv4 state, with a default gateway unless @p router is nil.
-    void setIPv4(const QString& interfaceName, const std::optional<QString>& router);
+    void setIPv4(const QString &interfaceName, const std::optional<QString> &router);
     /// The interface loses its IPv4 state.
-    void clearIPv4(const QString& interfaceName);
-    void removeInterface(const QString& interfaceName);
+    void clearIPv4(const QString &interfaceName);
+    void removeInterface(const QString &interfaceName);
 
 private:
     struct Interface {
@@ -36,10 +36,10 @@ private:
         std::optional<QString> router{};
     };
 
-    void change(const QString& interfaceName, bool hasIPv4, const std::optional<QString>& router);
+    void change(const QString &interfaceName, bool hasIPv4, const std::optional<QString> &router);
     void publish();
 
-    StateStore& m_store;
+    StateStore &m_store;
     QList<Interface> m_interfaces;
 };
 

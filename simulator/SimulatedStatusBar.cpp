@@ -4,7 +4,7 @@
 
 namespace tarvo {
 
-SimulatedStatusItem::SimulatedStatusItem(SimulatedStatusBar& bar, double length)
+SimulatedStatusItem::SimulatedStatusItem(SimulatedStatusBar &bar, double length)
     : m_bar(bar)
     , m_length(length)
 {
@@ -17,7 +17,7 @@ SimulatedStatusItem::~SimulatedStatusItem()
     std::erase(m_bar.m_items, this);
 }
 
-void SimulatedStatusItem::setView(QAbstractButton* view)
+void SimulatedStatusItem::setView(QAbstractButton *view)
 {
     m_view = view;
 }
@@ -32,10 +32,10 @@ std::unique_ptr<StatusItem> SimulatedStatusBar::createItem(double length)
     return std::make_unique<SimulatedStatusItem>(*this, length);
 }
 
-SimulatedStatusItem* SimulatedStatusBar::itemWithView() const
+SimulatedStatusItem *SimulatedStatusBar::itemWithView() const
 {
-    const auto found = std::ranges::find_if(
-        m_items, [](const SimulatedStatusItem* item) { return item->view() != nullptr; });
+    const auto found =
+        std::ranges::find_if(m_items, [](const SimulatedStatusItem *item) { return item->view() != nullptr; });
     return found == m_items.end() ? nullptr : *found;
 }
 

@@ -11,26 +11,26 @@ class SimulatedStatusBar;
 /// An item that is in no real bar.
 class SimulatedStatusItem final : public StatusItem {
 public:
-    SimulatedStatusItem(SimulatedStatusBar& bar, double length);
+    SimulatedStatusItem(SimulatedStatusBar &bar, double length);
     ~SimulatedStatusItem() override;
-    SimulatedStatusItem(const SimulatedStatusItem&) = delete;
-    SimulatedStatusItem& operator=(const SimulatedStatusItem&) = delete;
+    SimulatedStatusItem(const SimulatedStatusItem &) = delete;
+    SimulatedStatusItem &operator=(const SimulatedStatusItem &) = delete;
 
-    void setView(QAbstractButton* view) override;
+    void setView(QAbstractButton *view) override;
     void viewChanged() override { ++m_viewChanges; }
-    void setTitle(const QString& title) override { m_title = title; }
+    void setTitle(const QString &title) override { m_title = title; }
     std::optional<QRect> frame() const override;
 
     double length() const { return m_length; }
-    QAbstractButton* view() const { return m_view; }
-    const QString& title() const { return m_title; }
+    QAbstractButton *view() const { return m_view; }
+    const QString &title() const { return m_title; }
     /// @return how often the item was told that its view changed
     int viewChanges() const { return m_viewChanges; }
 
 private:
-    SimulatedStatusBar& m_bar;
+    SimulatedStatusBar &m_bar;
     double m_length;
-    QAbstractButton* m_view = nullptr;
+    QAbstractButton *m_view = nullptr;
     QString m_title;
     int m_viewChanges = 0;
 };
@@ -41,19 +41,19 @@ public:
     std::unique_ptr<StatusItem> createItem(double length) override;
 
     /// @return the items that exist, the oldest first
-    const std::vector<SimulatedStatusItem*>& items() const { return m_items; }
+    const std::vector<SimulatedStatusItem *> &items() const { return m_items; }
     /// @return the oldest item that has a view; null when there is none
-    SimulatedStatusItem* itemWithView() const;
+    SimulatedStatusItem *itemWithView() const;
     /// @return how many items were ever created
     int itemsCreated() const { return m_itemsCreated; }
 
     /// Says where the items with a view are; nil hides them. They are hidden at first.
-    void setFrame(const std::optional<QRect>& frame) { m_frame = frame; }
+    void setFrame(const std::optional<QRect> &frame) { m_frame = frame; }
 
 private:
     friend class SimulatedStatusItem;
 
-    std::vector<SimulatedStatusItem*> m_items;
+    std::vector<SimulatedStatusItem *> m_items;
     int m_itemsCreated = 0;
     std::optional<QRect> m_frame;
 };

@@ -12,7 +12,7 @@ void SimulatedWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
     m_observers.emplace_back(std::move(willSleep), std::move(didWake));
 }
 
-bool SimulatedWorkspace::openURL(const QUrl& url)
+bool SimulatedWorkspace::openURL(const QUrl &url)
 {
     if (!url.isValid())
         return false;
@@ -20,7 +20,7 @@ bool SimulatedWorkspace::openURL(const QUrl& url)
     return m_opener ? m_opener(url) : true;
 }
 
-bool SimulatedWorkspace::launchApplication(const QString& path)
+bool SimulatedWorkspace::launchApplication(const QString &path)
 {
     m_launchedPaths.append(path);
     return true;
@@ -28,13 +28,13 @@ bool SimulatedWorkspace::launchApplication(const QString& path)
 
 void SimulatedWorkspace::sleep()
 {
-    for (const auto& [willSleep, didWake] : m_observers)
+    for (const auto &[willSleep, didWake] : m_observers)
         willSleep();
 }
 
 void SimulatedWorkspace::wake()
 {
-    for (const auto& [willSleep, didWake] : m_observers)
+    for (const auto &[willSleep, didWake] : m_observers)
         didWake();
 }
 

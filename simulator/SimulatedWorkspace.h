@@ -13,22 +13,22 @@ namespace tarvo {
 /// A desktop that only notes what it is asked to open, and sleeps when told to.
 class SimulatedWorkspace final : public Workspace {
 public:
-    using Opener = std::function<bool(const QUrl& url)>;
+    using Opener = std::function<bool(const QUrl &url)>;
 
     /// @param opener  also handed every valid URL; its answer is then the answer of `openURL`. May be empty
     explicit SimulatedWorkspace(Opener opener = {});
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
-    bool openURL(const QUrl& url) override;
-    bool launchApplication(const QString& path) override;
+    bool openURL(const QUrl &url) override;
+    bool launchApplication(const QString &path) override;
 
     /// Tells the observers that the machine is about to sleep; it sleeps when this returns.
     void sleep();
     /// Tells the observers that the machine has woken.
     void wake();
 
-    const QList<QUrl>& openedURLs() const { return m_openedURLs; }
-    const QStringList& launchedPaths() const { return m_launchedPaths; }
+    const QList<QUrl> &openedURLs() const { return m_openedURLs; }
+    const QStringList &launchedPaths() const { return m_launchedPaths; }
 
 private:
     Opener m_opener;

@@ -43,7 +43,7 @@ SyslogLog::~SyslogLog()
     closelog();
 }
 
-void SyslogLog::write(const QString& line)
+void SyslogLog::write(const QString &line)
 {
     const QByteArray bytes = line.toUtf8();
     syslog(LOG_INFO, "%s", bytes.constData());
