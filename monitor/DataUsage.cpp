@@ -52,7 +52,7 @@ float gigabytesOfBytes(float bytes)
 float leadingNumber(const QString &text)
 {
     static const QRegularExpression pattern(
-        QStringLiteral(R"(^\s*\+?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
+        QStringLiteral(R"(^\s*(?:\+(?!-))?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
     const QRegularExpressionMatch match = pattern.match(text);
     if (!match.hasMatch())
         return 0;

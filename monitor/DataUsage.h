@@ -13,15 +13,15 @@ float leadingNumber(const QString &text);
 
 /// The fields of a status page that the snapshot is made of, as texts. A field that neither style has is nil.
 struct StatusFields {
-    std::optional<QString> reminderSwitch;
-    std::optional<QString> monthlyLimit; ///< gigabytes
-    std::optional<QString> monthlyThreshold; ///< read like a limit in gigabytes
-    std::optional<QString> threeDayLimit; ///< gigabytes
-    std::optional<QString> monthlySent; ///< bytes, as the four below
-    std::optional<QString> monthlyReceived;
-    std::optional<QString> threeDaySent;
-    std::optional<QString> threeDayReceived;
-    std::optional<QString> roamingSetting;
+    std::optional<QString> reminderSwitch{};
+    std::optional<QString> monthlyLimit{}; ///< gigabytes
+    std::optional<QString> monthlyThreshold{}; ///< read like a limit in gigabytes
+    std::optional<QString> threeDayLimit{}; ///< gigabytes
+    std::optional<QString> monthlySent{}; ///< bytes, as the four below
+    std::optional<QString> monthlyReceived{};
+    std::optional<QString> threeDaySent{};
+    std::optional<QString> threeDayReceived{};
+    std::optional<QString> roamingSetting{};
 
     bool operator==(const StatusFields &) const = default;
 };
