@@ -3,6 +3,7 @@
 #include "modemapi/AnswerFields.h"
 
 #include <QByteArray>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <array>
@@ -61,7 +62,7 @@ float leadingNumber(const QString &text)
     const auto result = std::from_chars(digits.cbegin(), digits.cend(), value);
     if (result.ec != std::errc::result_out_of_range)
         return value;
-    const double wide = digits.toDouble();
+    const double wide = QLocale::c().toDouble(match.capturedView(1)); // infinite when it overflows
     return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F) : 0.0F;
 }
 
