@@ -1,0 +1,46 @@
+#include "ui/CustomView.h"
+
+#include "platform/SystemLog.h"
+#include "ui/Images.h"
+
+#include <QEnterEvent>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+CustomView::CustomView(SystemLog &systemLog)
+    : systemLog_(systemLog)
+{
+    setFlat(true);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    setAccessibleName(u"Tarvo"_s);
+}
+
+void CustomView::setImage(const QString &name)
+{
+    if (name == image_)
+        return;
+    image_ = name;
+    setIcon(imageNamed(name));
+    Q_EMIT appearanceChanged();
+}
+
+void CustomView::setTip(const QString &tip)
+{
+    if (tip == toolTip())
+        return;
+    setToolTip(tip);
+    setAccessibleDescription(tip);
+    Q_EMIT appearanceChanged();
+}
+
+void CustomView::enterEvent(QEnterEvent *event)
+{
+    QPushButton::enterEvent(event);
+    systemLog_.write(u"mouseEntered"_s);
+    Q_EMIT mouseEntered();
+}
+
+} // namespace tarvo

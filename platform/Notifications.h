@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace tarvo {
+
+/// What a desktop notification shows.
+struct Notification {
+    QString title;
+    QString text;
+    QString iconName; ///< a name of the desktop's icon theme
+};
+
+/// The desktop's notification service. Used on the main thread only; no operation blocks.
+class Notifications {
+public:
+    virtual ~Notifications() = default;
+
+    /// @return whether the desktop has such a service at this moment
+    virtual bool available() const = 0;
+
+    /// Shows @p notification, in the place of the one that is shown; it stays until `close`, unless the user or the
+    /// service dismisses it before.
+    /// @param failed  called later when the service turned it down; not after `close`
+    virtual void show(const Notification &notification, std::function<void()> failed) = 0;
+
+    /// Takes the notification away; nothing when there is none.
+    virtual void close() = 0;
+};
+
+} // namespace tarvo
