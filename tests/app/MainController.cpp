@@ -1,0 +1,213 @@
+#include "simulator/ReceivedRequest.h"
+#include "tests/support/Companion.h"
+#include "tests/support/PrintQt.h"
+
+#include <QElapsedTimer>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QByteArray statusPagePath = "logo_data.asp";
+
+/// A status page over the monthly limit of one gigabyte.
+const QByteArray overLimit = R"("flow_reminder_switch":"on","max_usage_set_for_month":"1",)"
+                             R"("reminder_threshold_for_data_usage":"9","monthly_velta_tx":"3221225472")";
+
+} // namespace
+
+TEST_F(Companion, StartsWithTwoItemsAndTheReadyImage)
+{
+    EXPECT_EQ(systemLog.lines().first(), u"Tarvo init success"_s);
+    ASSERT_EQ(statusBar.items().size(), 2U);
+    EXPECT_EQ(statusBar.items()[0]->length(), variableStatusItemLength);
+    EXPECT_EQ(statusBar.items()[0]->view(), nullptr);
+    EXPECT_EQ(statusBar.items()[1]->length(), squareStatusItemLength);
+    EXPECT_EQ(shownImage(), u"ready"_s);
+    controller.startToolbarStatus();
+    EXPECT_EQ(statusBar.itemsCreated(), 2);
+}
+
+TEST_F(Companion, PollsAReadyModemOnceASecond)
+{
+    plugIn(modem);
+    const QStringList lines = systemLog.lines();
+    EXPECT_EQ(
+        lines.mid(lines.indexOf(u"startGetModemInfo"_s)).filter(QRegularExpression(u"^(?!start newUpdateStatus)"_s)),
+        (QStringList{u"startGetModemInfo"_s, u"ECMReady"_s, modem.server.authority(), u"en5"_s}));
+    EXPECT_EQ(shownImage(), u"online"_s);
+    EXPECT_FALSE(controller.state().stopProcModemStatus_);
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    EXPECT_TRUE(modem.device.requests().isEmpty()) << "the first pass comes after a second";
+    for (int second = 1; second <= 3; ++second) {
+        tick(modem, second);
+        ASSERT_TRUE(clock.waitForSleepers(1));
+        EXPECT_EQ(modem.device.requests(statusPagePath).size(), second);
+    }
+    EXPECT_TRUE(controller.state().ifOpenUrlWhileDevicePlugIn_);
+}
+
+TEST_F(Companion, ASecondReadyReportTakesOverWithoutASecondTick)
+{
+    Modem other;
+    plugIn(modem);
+    tick(modem, 1);
+    controller.state().hasOpenedWebUI_ = true;
+    network.setIPv4(u"en5"_s, other.server.authority());
+    EXPECT_FALSE(controller.state().hasOpenedWebUI_);
+    tick(other, 1);
+    tick(other, 2);
+    EXPECT_EQ(modem.device.requests(statusPagePath).size(), 1);
+    EXPECT_EQ(other.device.requests(statusPagePath).size(), 2);
+}
+
+TEST_F(Companion, AReportWithoutRouterChangesNothing)
+{
+    controller.procECMReady({std::nullopt, 7, u"en5"_s});
+    EXPECT_TRUE(controller.state().stopProcModemStatus_);
+    EXPECT_FALSE(systemLog.contains(u"startGetModemInfo"_s));
+    controller.procECMReady({modem.server.authority(), 7, std::nullopt});
+    tick(modem, 1);
+}
+
+TEST_F(Companion, APageBecomesTheSnapshot)
+{
+    modem.device.setFixedAnswer(statusPagePath, overLimit);
+    plugIn(modem);
+    tick(modem, 1);
+    EXPECT_TRUE(eventually([&] { return controller.state().haveDataLimitFlag_.load(); }));
+    EXPECT_TRUE(controller.state().isHaveDataLimitExceedForOneMonth_);
+    EXPECT_EQ(controller.state().m_surplusData, -2.0F);
+}
+
+TEST_F(Companion, UnplugResetsAndReplugPollsAgain)
+{
+    modem.device.setFixedAnswer(statusPagePath, overLimit);
+    plugIn(modem);
+    tick(modem, 1);
+    ASSERT_TRUE(eventually([&] { return controller.state().haveDataLimitFlag_.load(); }));
+    unplug();
+    EXPECT_TRUE(systemLog.contains(u"en5"_s));
+    EXPECT_TRUE(systemLog.contains(u"DeviceRemoved,stopGetModemStatus"_s));
+    EXPECT_TRUE(controller.state().stopProcModemStatus_);
+    EXPECT_FALSE(controller.state().isHaveDataLimitExceedForOneMonth_);
+    EXPECT_EQ(shownImage(), u"ready"_s);
+    clock.advance(5s);
+    EXPECT_EQ(modem.device.requests(statusPagePath).size(), 1);
+    plugIn(modem);
+    EXPECT_EQ(statusBar.itemsCreated(), 2) << "the icon stayed";
+    tick(modem, 2);
+}
+
+TEST_F(Companion, TheIconGoesWithTheModemUnlessItShallStay)
+{
+    QVariantMap settings = usualSettings();
+    settings.remove(u"NeedDisplayWhenDeviceRemoved"_s);
+    configure(settings);
+    controller.stopGetModemStatus();
+    EXPECT_TRUE(statusBar.items().empty());
+    controller.stopGetModemStatus();
+    plugIn(modem);
+    EXPECT_EQ(statusBar.items().size(), 2U);
+    EXPECT_EQ(shownImage(), u"online"_s);
+}
+
+TEST_F(Companion, NothingOfAnOldPassReachesTheNextModem)
+{
+    Modem next;
+    modem.device.setFixedAnswer(statusPagePath, overLimit);
+    modem.server.setFault({FaultKind::SlowAnswer, statusPagePath, 200ms});
+    plugIn(modem);
+    tick(modem, 1);
+    const auto begun = std::chrono::steady_clock::now();
+    unplug();
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 200ms) << "unplugging must not wait for the request";
+    plugIn(next, u"en6"_s);
+    tick(next, 1);
+    tick(next, 2);
+    EXPECT_FALSE(controller.state().isHaveDataLimitExceedForOneMonth_);
+    EXPECT_EQ(modem.device.requests().size(), 1);
+}
+
+TEST_F(Companion, SleepStopsPollingAndWakeTakesItUpWithTheSameRouter)
+{
+    plugIn(modem);
+    tick(modem, 1);
+    workspace.sleep();
+    EXPECT_TRUE(controller.state().stopProcModemStatus_);
+    workspace.wake();
+    EXPECT_TRUE(systemLog.contains(u"ethernet router is ready"_s));
+    tick(modem, 2);
+
+    workspace.sleep();
+    unplug();
+    systemLog.clear();
+    workspace.wake();
+    EXPECT_TRUE(systemLog.contains(u"no ethernet router is found"_s));
+    EXPECT_FALSE(systemLog.contains(u"startGetModemInfo"_s));
+}
+
+TEST_F(Companion, AReadyReportAfterWakeClearsWhatTheSleepHasSet)
+{
+    plugIn(modem);
+    workspace.sleep();
+    workspace.wake();
+    EXPECT_TRUE(controller.state().haveDataLimitFlag_);
+    store.announce(store::anyServiceIPv4Pattern);
+    EXPECT_FALSE(controller.state().haveDataLimitFlag_ || controller.state().stopProcModemStatus_);
+    tick(modem, 1);
+    tick(modem, 2);
+    EXPECT_EQ(modem.device.requests(statusPagePath).size(), 2);
+}
+
+TEST_F(Companion, AFailedPassIsLoggedAndTheNextOneIsTried)
+{
+    modem.server.setFault({FaultKind::CloseAtOnce});
+    plugIn(modem);
+    tick(modem, 1);
+    EXPECT_TRUE(eventually([&] { return !systemLog.lines().filter(QRegularExpression(u"^error: ."_s)).isEmpty(); }));
+    modem.server.setFault({});
+    tick(modem, 2);
+    EXPECT_TRUE(modem.device.waitForRequests(1, "profile_type")) << "the pass goes on after the page";
+}
+
+TEST_F(Companion, WithRefererAnEmptyAnswerIsStillAnAnswer)
+{
+    QVariantMap settings = usualSettings();
+    settings.insert(u"AddRefererIntoHttpHeader"_s, true);
+    configure(settings);
+    modem.server.setFault({FaultKind::CloseAtOnce, statusPagePath});
+    plugIn(modem);
+    tick(modem, 1);
+    EXPECT_TRUE(modem.device.waitForRequests(1, "profile_type"));
+}
+
+TEST_F(Companion, StartUpStatesOpenTheModemsPagesOnce)
+{
+    plugIn(modem);
+    controller.checkModemMainState(u"\"modem_main_state\":\"modem_waitpin\""_s);
+    EXPECT_TRUE(controller.state().hasOpenedWebUI_);
+    EXPECT_TRUE(eventually([&] { return workspace.openedURLs().size() == 1; }));
+    EXPECT_EQ(workspace.openedURLs().first(), QUrl(u"http://"_s + modem.server.authority()));
+    EXPECT_TRUE(systemLog.contains(u"modemMainState state is modem_waitpin"_s));
+}
+
+TEST_F(Companion, SendsTheClock)
+{
+    plugIn(modem);
+    controller.setPcDate();
+    const auto sent = modem.device.requests("RESET_NTP_TIME");
+    ASSERT_EQ(sent.size(), 1);
+    EXPECT_TRUE(QString::fromUtf8(sent[0].body)
+                    .contains(QRegularExpression(u"&pc_current_time=\\d{4}-\\d\\d-\\d\\d_\\d\\d:\\d\\d:\\d\\d&AD="_s)));
+}
+
+TEST_F(Companion, QuitAsksTheApplicationAndLetsGoOfTheWatcher)
+{
+    EXPECT_FALSE(controller.windowShouldClose());
+    EXPECT_EQ(controller.applicationShouldTerminate(), 1);
+    controller.machineDidWake(); // without a watcher: nothing to ask
+    EXPECT_EQ(systemLog.lines().last(), u"machineDidWake"_s);
+}

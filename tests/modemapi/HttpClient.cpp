@@ -1,0 +1,147 @@
+#include "modemapi/HttpClient.h"
+
+#include "simulator/ModemServer.h"
+#include "simulator/ReceivedRequest.h"
+#include "simulator/SimulatedModem.h"
+#include "tests/support/PrintQt.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+using namespace tarvo;
+using namespace std::chrono_literals;
+
+namespace {
+
+class Http : public testing::Test {
+protected:
+    QUrl url(const QString &path = QStringLiteral("logo_data.asp")) const
+    {
+        return {QStringLiteral("http://%1/%2").arg(server.authority(), path)};
+    }
+
+    HttpAnswer get(const QUrl &from) { return client.exchange({from, {}, {}, {}}, {}); }
+    HttpAnswer post(const QByteArray &body) { return client.exchange({url(QStringLiteral("set")), {}, body, {}}, {}); }
+
+    SimulatedModem modem;
+    ModemServer server{modem};
+    HttpClient client;
+};
+
+} // namespace
+
+TEST_F(Http, KeepsItsConnectionBetweenReadsButNeverPostsOnAnOldOne)
+{
+    modem.setFixedAnswer("logo", "page");
+    EXPECT_EQ(get(url()).data, "page");
+    EXPECT_EQ(get(url()).data, "page");
+    EXPECT_EQ(post("a=b").error, std::nullopt);
+    const auto requests = modem.requests();
+    ASSERT_EQ(requests.size(), 3);
+    EXPECT_EQ(requests[0].connection, requests[1].connection);
+    EXPECT_NE(requests[1].connection, requests[2].connection);
+    EXPECT_EQ(requests[2].method, "POST");
+    EXPECT_EQ(requests[2].body, "a=b");
+    EXPECT_EQ(requests[2].header("Expect"), std::nullopt);
+}
+
+TEST_F(Http, SendsHeadersAsTheyAreAndNoneThatWouldSmuggleMore)
+{
+    client.exchange({url(), {"Referer: http://x/?a=%20", "X: 1\r\nInjected: 2"}, {}, {}}, {});
+    ASSERT_EQ(modem.requests().size(), 1);
+    EXPECT_EQ(modem.requests()[0].header("Referer"), "http://x/?a=%20");
+    EXPECT_EQ(modem.requests()[0].header("Injected"), std::nullopt);
+}
+
+TEST_F(Http, FaultyAnswersAreErrorsAndGiveNoData)
+{
+    modem.setFixedAnswer("logo", "page");
+    for (const FaultKind kind : {FaultKind::HalfAnswer, FaultKind::EndlessAnswer, FaultKind::CloseAtOnce}) {
+        server.setFault({kind});
+        const HttpAnswer answer = get(url());
+        EXPECT_TRUE(answer.error) << static_cast<int>(kind);
+        EXPECT_TRUE(answer.data.isEmpty()) << static_cast<int>(kind);
+    }
+    server.setFault({});
+    EXPECT_EQ(get(url()).data, "page") << "the client must have recovered";
+    server.setFault({FaultKind::Refuse});
+    EXPECT_TRUE(get(url()).error);
+}
+
+TEST_F(Http, AReadSurvivesAConnectionThatWasClosedMeanwhileAPostIsSentOnce)
+{
+    server.setFault({FaultKind::CloseKeptAlive});
+    EXPECT_FALSE(get(url()).error);
+    EXPECT_FALSE(get(url()).error);
+    server.setFault({FaultKind::CloseAtOnce});
+    EXPECT_TRUE(post("once").error);
+    EXPECT_EQ(modem.requests("once").size(), 1);
+}
+
+TEST_F(Http, FollowsRedirectsOfReadsOnTheSameServerOnly)
+{
+    SimulatedModem stranger;
+    ModemServer elsewhere(stranger);
+    modem.setFixedAnswer("logo", "page");
+
+    server.setFault({FaultKind::Redirect, "old", 0ms, url().toEncoded()});
+    EXPECT_EQ(get(url(QStringLiteral("old"))).data, "page");
+    server.setFault({FaultKind::Redirect, {}, 0ms, url().toEncoded()});
+    EXPECT_TRUE(get(url()).error) << "a redirect in a circle ends";
+
+    server.setFault({FaultKind::Redirect, {}, 0ms, "http://" + elsewhere.authority().toLatin1() + "/x"});
+    EXPECT_TRUE(get(url()).error);
+    post("form");
+    EXPECT_TRUE(stranger.requests().isEmpty());
+}
+
+TEST_F(Http, OnlySpeaksHttp)
+{
+    EXPECT_TRUE(get(QUrl(QStringLiteral("file:///etc/hostname"))).error);
+    EXPECT_TRUE(get(QUrl(QStringLiteral("ftp://127.0.0.1/"))).error);
+    EXPECT_TRUE(get(QUrl()).error);
+}
+
+TEST_F(Http, IgnoresTheProxyOfTheEnvironment)
+{
+    qputenv("http_proxy", "http://127.0.0.1:9");
+    HttpClient fresh;
+    EXPECT_FALSE(fresh.exchange({url(), {}, {}, {}}, {}).error);
+    qunsetenv("http_proxy");
+}
+
+TEST_F(Http, PreparesEachNewSocketOnce)
+{
+    int sockets = 0;
+    const HttpRequest request{url(), {}, {}, [&](int socket) { sockets += socket >= 0 ? 1 : 100; }};
+    client.exchange(request, {});
+    client.exchange(request, {});
+    EXPECT_EQ(sockets, 1);
+}
+
+TEST_F(Http, AStopEndsATransferThatWouldNeverEnd)
+{
+    server.setFault({FaultKind::NoAnswer});
+    std::stop_source stop;
+    std::thread stopper([&] {
+        EXPECT_TRUE(modem.waitForRequests(1));
+        stop.request_stop();
+    });
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(client.exchange({url(), {}, {}, {}}, stop.get_token()).error, QStringLiteral("stopped"));
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, HttpClient::timeout) << "not by the time-out";
+    stopper.join();
+
+    const qsizetype before = modem.requests().size();
+    client.exchange({url(), {}, {}, {}}, stop.get_token());
+    EXPECT_EQ(modem.requests().size(), before) << "stopped work must not even ask";
+}
+
+TEST_F(Http, AModemThatSaysNothingIsGivenUp)
+{
+    server.setFault({FaultKind::NoAnswer});
+    EXPECT_TRUE(get(url()).error);
+}

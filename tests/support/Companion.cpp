@@ -1,0 +1,113 @@
+#include "tests/support/Companion.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "ui/CustomView.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The application that widgets need, and settings of the tests' own.
+class Application : public testing::Environment {
+public:
+    void SetUp() override
+    {
+        QDir(m_home.path()).mkpath(u"tarvo"_s);
+        QFile file(m_home.filePath(u"tarvo/Config.plist"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
+        file.close();
+        qputenv("XDG_CONFIG_HOME", m_home.path().toLocal8Bit());
+        m_application = std::make_unique<QApplication>(m_argc, m_argv);
+    }
+
+    void TearDown() override { m_application.reset(); }
+
+private:
+    QTemporaryDir m_home;
+    char m_name[6] = "tests";
+    char *m_argv[2] = {m_name, nullptr};
+    int m_argc = 1;
+    std::unique_ptr<QApplication> m_application;
+};
+
+const auto *const application = testing::AddGlobalTestEnvironment(new Application);
+
+/// Makes the settings before the controller reads them.
+Services configured(Services services)
+{
+    configure(usualSettings());
+    return services;
+}
+
+} // namespace
+
+bool eventually(const std::function<bool()> &condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.hasExpired(10000))
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    return true;
+}
+
+void configure(const QVariantMap &settings)
+{
+    *ConfigManager::sharedConfigManager().getConfiguration() = settings;
+}
+
+QVariantMap usualSettings()
+{
+    return {{u"IsDisplayNetStatusInToolBar"_s, true},
+            {u"NeedDisplayWhenDeviceRemoved"_s, true},
+            {u"device_info"_s, QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s}}}}};
+}
+
+Companion::Companion()
+    : controller(configured({store, registry, workspace, statusBar, clock, systemLog, {}, {}}))
+{
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+}
+
+void Companion::plugIn(const Modem &which, const QString &name)
+{
+    registry.addModem(name, 4660, 1);
+    network.addInterface(name);
+    network.setIPv4(name, which.server.authority());
+}
+
+void Companion::unplug(const QString &name)
+{
+    network.clearIPv4(name);
+    network.removeInterface(name);
+}
+
+void Companion::tick(const Modem &which, qsizetype times)
+{
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    clock.advance(1s);
+    ASSERT_TRUE(which.device.waitForRequests(times, "logo_data.asp"));
+}
+
+QString Companion::shownImage() const
+{
+    const SimulatedStatusItem *item = statusBar.itemWithView();
+    const auto *view = item ? qobject_cast<CustomView *>(item->view()) : nullptr;
+    return view ? view->image() : QString();
+}
+
+} // namespace tarvo

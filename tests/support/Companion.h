@@ -1,0 +1,64 @@
+#pragma once
+
+#include "RouterObserver/RouterObserver.h"
+#include "app/MainController.h"
+#include "platform/StateStore.h"
+#include "simulator/ManualClock.h"
+#include "simulator/ModemServer.h"
+#include "simulator/RecordingLog.h"
+#include "simulator/SimulatedDeviceRegistry.h"
+#include "simulator/SimulatedModem.h"
+#include "simulator/SimulatedNetwork.h"
+#include "simulator/SimulatedStatusBar.h"
+#include "simulator/SimulatedWorkspace.h"
+
+#include <QVariantMap>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace tarvo {
+
+/// Lets the event loop run until @p condition holds. @return false when it did not within ten seconds
+bool eventually(const std::function<bool()> &condition);
+
+/// A simulated modem and its server.
+struct Modem {
+    SimulatedModem device;
+    ModemServer server{device};
+};
+
+/// Replaces all of the product's settings with @p settings.
+void configure(const QVariantMap &settings);
+
+/// The settings that the tests start from: modems of the vendor 4660 are supported, the icon is shown and stays.
+QVariantMap usualSettings();
+
+/// The real controller among simulated surroundings: manual time, a network of entries, modems on loopback.
+struct Companion : testing::Test {
+    Companion();
+
+    /// Plugs @p which in as the interface @p name; its report has been made when this returns.
+    void plugIn(const Modem &which, const QString &name = QStringLiteral("en5"));
+    void unplug(const QString &name = QStringLiteral("en5"));
+
+    /// Lets one second pass, once the worker waits for it, and waits until @p which has been asked for its status page
+    /// @p times in all.
+    void tick(const Modem &which, qsizetype times);
+
+    /// @return the name of the image that the icon shows; empty without an icon
+    QString shownImage() const;
+
+    Modem modem;
+    StateStore store;
+    SimulatedNetwork network{store};
+    SimulatedDeviceRegistry registry;
+    SimulatedWorkspace workspace;
+    SimulatedStatusBar statusBar;
+    ManualClock clock;
+    RecordingLog systemLog;
+    MainController controller;
+};
+
+} // namespace tarvo
