@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QtGlobal>
+
+#include <optional>
+
+namespace tarvo {
+
+/// How a modem writes its status page.
+enum class PageStyle {
+    Json, ///< {"key":"value",...}
+    ScriptText, ///< key: 'value', a line each
+};
+
+/// All that a simulated modem is and knows. Field names in the comments are those of its answers.
+struct ModemCondition {
+    PageStyle pageStyle = PageStyle::Json;
+    QString statusPagePath = QStringLiteral("logo_data.asp");
+
+    QString crVersion = QStringLiteral("CR_1.0.7"); ///< `cr_version`
+    QString waInnerVersion = QStringLiteral("WA_2.3.1"); ///< `wa_inner_version`
+    bool grantsSessions = true; ///< whether `RD` has a value
+
+    QString mainState = QStringLiteral("modem_init_complete"); ///< `modem_main_state`
+    QString pppStatus = QStringLiteral("ppp_connected"); ///< `ppp_status`
+    QString dialMode = QStringLiteral("auto_dial"); ///< `dial_mode`
+    bool roamingAllowed = false; ///< `international_roaming_setting`
+    QString firmwarePackage = QStringLiteral("version_idle"); ///< `dm_find_package`
+
+    bool reminderOn = true; ///< `flow_reminder_switch`
+    double monthlyLimit = 10; ///< GiB
+    double reminderThreshold = 8; ///< GiB
+    double threeDayLimit = 3; ///< GiB
+    quint64 monthlySent = 0; ///< bytes, like the next three
+    quint64 monthlyReceived = 0;
+    quint64 threeDaysSent = 0;
+    quint64 threeDaysReceived = 0;
+    quint64 trafficPerPage = 0; ///< bytes received between two status pages: how fast the counters run
+
+    bool startsWebUI = false; ///< `webui_auto_start`
+    bool needsConnectionPassword = false; ///< `connection_password_require`
+    QString passwordConfirm = QStringLiteral("0"); ///< `apn_id_password_confirm`
+    QString passwordSave = QStringLiteral("1"); ///< `apn_id_password_save`
+    QString defaultApnUser = QStringLiteral("user"); ///< "username" of the default access point
+    int defaultApnPasswordStatus = 1; ///< "password_status" of it
+
+    bool isPCProfileType = true; ///< `profile_type`
+    QStringList webProfiles{QStringLiteral("Internet")}; ///< the modem's own access points, by index
+    QList<QJsonObject> pcApns; ///< the access points that a computer has added, the oldest first
+    QString defaultProfileName; ///< `pc_default_profilename`
+    std::optional<int> defaultApnIndex; ///< as last set by a computer
+    bool apnReady = false; ///< a computer has said that its access points are complete
+    bool lowPower = false;
+    QString pcTime; ///< as last set by a computer
+};
+
+/// The status page with @p condition's values.
+QByteArray statusPage(const ModemCondition& condition);
+
+/// The answer to a get command.
+/// @param query  what follows "cmd=", with further query parts
+QByteArray getAnswer(const ModemCondition& condition, const QByteArray& query);
+
+/// Carries out a set command whose sender has been checked.
+/// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them
+/// escaped
+/// @return whether the modem accepts it
+bool applySetCommand(ModemCondition& condition, const QByteArray& form);
+
+} // namespace tarvo

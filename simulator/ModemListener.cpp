@@ -1,0 +1,164 @@
+#include "simulator/ModemListener.h"
+
+#include "simulator/SimulatedModem.h"
+
+#include <QTcpSocket>
+#include <QTimer>
+
+namespace tarvo {
+
+namespace {
+
+const QByteArray notUtf8 = "{\"ppp_status\":\"\xff\xfe\xc3\x28\"}";
+constexpr qint64 endlessChunk = 64 * 1024;
+
+QByteArray headOf(const ModemReply& reply, const QByteArray& furtherLines)
+{
+    return "HTTP/1.1 " + QByteArray::number(reply.status) + (reply.status < 300 ? " OK" : " Other")
+        + "\r\nContent-Type: " + reply.contentType + "\r\n" + furtherLines + "\r\n";
+}
+
+QByteArray wholeAnswer(const ModemReply& reply, const QByteArray& furtherLines = {})
+{
+    return headOf(reply, furtherLines + "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n")
+        + reply.body;
+}
+
+} // namespace
+
+/// One client's connection; it goes when the client does.
+class ModemListener::Connection final : public QObject {
+public:
+    Connection(ModemListener& owner, QTcpSocket* socket, quint64 number)
+        : QObject(&owner)
+        , m_owner(owner)
+        , m_socket(socket)
+        , m_number(number)
+    {
+        socket->setParent(this);
+        connect(socket, &QTcpSocket::readyRead, this, &Connection::read);
+        connect(socket, &QTcpSocket::bytesWritten, this, &Connection::writeOn);
+        connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+    }
+
+private:
+    void read()
+    {
+        m_buffer += m_socket->readAll();
+        ReceivedRequest request;
+        TakeResult result;
+        while ((result = takeRequest(m_buffer, request)) == TakeResult::Taken) {
+            request.connection = m_number;
+            ++m_requests;
+            serve(request);
+        }
+        if (result == TakeResult::Malformed)
+            m_socket->abort();
+    }
+
+    void serve(const ReceivedRequest& request)
+    {
+        const ModemFault fault = m_owner.m_fault;
+        const ModemReply reply = m_owner.m_modem.answer(request);
+        if (request.holds(fault.part))
+            sendWith(fault, reply);
+        else
+            m_socket->write(wholeAnswer(reply));
+    }
+
+    void sendWith(const ModemFault& fault, ModemReply reply)
+    {
+        switch (fault.kind) {
+        case FaultKind::None:
+        case FaultKind::Refuse:
+            m_socket->write(wholeAnswer(reply));
+            return;
+        case FaultKind::NoAnswer:
+            return;
+        case FaultKind::SlowAnswer:
+            QTimer::singleShot(fault.delay, this, [this, reply] { m_socket->write(wholeAnswer(reply)); });
+            return;
+        case FaultKind::HalfAnswer: {
+            const QByteArray answer = wholeAnswer(reply);
+            m_socket->write(answer.left(answer.size() - (reply.body.size() + 1) / 2));
+            m_socket->disconnectFromHost();
+            return;
+        }
+        case FaultKind::EndlessAnswer:
+            m_endless = true;
+            m_socket->write(headOf(reply, "Connection: close\r\n"));
+            return;
+        case FaultKind::WrongBytes:
+            reply.body = notUtf8;
+            m_socket->write(wholeAnswer(reply));
+            return;
+        case FaultKind::CloseAtOnce:
+            m_socket->disconnectFromHost();
+            return;
+        case FaultKind::CloseKeptAlive:
+            if (m_requests > 1)
+                m_socket->disconnectFromHost();
+            else
+                m_socket->write(wholeAnswer(reply));
+            return;
+        case FaultKind::Redirect:
+            reply = {.status = 302, .body = {}};
+            m_socket->write(wholeAnswer(reply, "Location: " + fault.location + "\r\n"));
+            return;
+        }
+    }
+
+    void writeOn()
+    {
+        if (m_endless && m_socket->bytesToWrite() < endlessChunk)
+            m_socket->write(QByteArray(endlessChunk, 'x'));
+    }
+
+    ModemListener& m_owner;
+    QTcpSocket* m_socket;
+    quint64 m_number;
+    int m_requests = 0;
+    bool m_endless = false;
+    QByteArray m_buffer;
+};
+
+ModemListener::ModemListener(SimulatedModem& modem, const QHostAddress& address, quint16 port)
+    : m_modem(modem)
+    , m_address(address)
+    , m_port(port)
+{
+    connect(&m_server, &QTcpServer::newConnection, this, &ModemListener::accept);
+}
+
+std::optional<QString> ModemListener::listen()
+{
+    if (!m_server.listen(m_address, m_port))
+        return m_server.errorString();
+    m_port = m_server.serverPort();
+    return std::nullopt;
+}
+
+void ModemListener::setFault(const ModemFault& fault)
+{
+    m_fault = fault;
+    if (fault.kind == FaultKind::Refuse)
+        close();
+    else if (!m_server.isListening())
+        listen();
+}
+
+void ModemListener::close()
+{
+    m_server.close();
+    const auto sockets = findChildren<QTcpSocket*>();
+    for (QTcpSocket* socket : sockets)
+        socket->abort();
+}
+
+void ModemListener::accept()
+{
+    while (QTcpSocket* socket = m_server.nextPendingConnection())
+        new Connection(*this, socket, ++m_accepted);
+}
+
+} // namespace tarvo

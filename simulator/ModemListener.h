@@ -1,0 +1,40 @@
+#pragma once
+
+#include "simulator/ModemServer.h"
+
+#include <QHostAddress>
+#include <QObject>
+#include <QTcpServer>
+
+namespace tarvo {
+
+struct ModemReply;
+struct ReceivedRequest;
+class SimulatedModem;
+
+/// The half of the modem's server that lives on its thread.
+class ModemListener final : public QObject {
+public:
+    ModemListener(SimulatedModem& modem, const QHostAddress& address, quint16 port);
+
+    /// @return why listening failed; nil when it did not
+    std::optional<QString> listen();
+    quint16 port() const { return m_port; }
+    void setFault(const ModemFault& fault);
+    /// Closes everything.
+    void close();
+
+private:
+    class Connection;
+
+    void accept();
+
+    SimulatedModem& m_modem;
+    const QHostAddress m_address;
+    quint16 m_port;
+    QTcpServer m_server{this};
+    ModemFault m_fault;
+    quint64 m_accepted = 0;
+};
+
+} // namespace tarvo

@@ -1,0 +1,173 @@
+#include "simulator/ModemServer.h"
+#include "simulator/SimulatedModem.h"
+
+#include <QCryptographicHash>
+#include <QTcpSocket>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tarvo {
+namespace {
+
+const QByteArray formType = "application/x-www-form-urlencoded; charset=utf-8";
+const QByteArray setTarget = "/goform/goform_set_cmd_process?";
+const QByteArray sessionTarget =
+    "/goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1";
+
+QByteArray md5(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex();
+}
+
+class ModemServerTest : public testing::Test {
+protected:
+    QByteArray ownReferer(const QByteArray& target) const
+    {
+        return "Referer: http://" + server.authority().toUtf8() + target + "\r\n";
+    }
+
+    QByteArray head(const QByteArray& method, const QByteArray& target) const
+    {
+        return method + ' ' + target + " HTTP/1.1\r\nHost: " + server.authority().toUtf8() + "\r\n";
+    }
+
+    void send(const QByteArray& bytes)
+    {
+        if (socket.state() == QAbstractSocket::UnconnectedState)
+            socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
+        if (socket.waitForConnected(5000))
+            socket.write(bytes);
+    }
+
+    /// Reads until @p end has come, the connection is closed, or @p limit is over.
+    QByteArray read(const QByteArray& end, int limit = 5000)
+    {
+        QByteArray answer;
+        while (!answer.contains(end) && socket.waitForReadyRead(limit))
+            answer += socket.readAll();
+        return answer;
+    }
+
+    QByteArray get(const QByteArray& target, const QByteArray& headers = {})
+    {
+        send(head("GET", target) + headers + "\r\n");
+        return read("}");
+    }
+
+    QByteArray session()
+    {
+        const QByteArray answer = get(sessionTarget, ownReferer(sessionTarget));
+        const QByteArray key = "\"RD\":\"";
+        const qsizetype start = answer.indexOf(key) + key.size();
+        return answer.mid(start, answer.indexOf('"', start) - start);
+    }
+
+    static QByteArray form(const QByteArray& rd)
+    {
+        return "goformId=PC_APN_READY_SET&AD=" + md5(md5("WA_2.3.1CR_1.0.7") + rd);
+    }
+
+    QByteArray post(const QByteArray& body, const QByteArray& headers)
+    {
+        send(head("POST", setTarget) + headers + "Content-Length: " + QByteArray::number(body.size())
+             + "\r\n\r\n" + body);
+        return read("}");
+    }
+
+    SimulatedModem modem;
+    ModemServer server{modem};
+    QTcpSocket socket;
+};
+
+TEST_F(ModemServerTest, TakesTheRightTokenOnce)
+{
+    const QByteArray headers = ownReferer(setTarget) + "Content-Type: " + formType + "\r\n";
+    const QByteArray body = form(session());
+    EXPECT_TRUE(post(body, headers).contains("success"));
+    EXPECT_TRUE(modem.condition().apnReady);
+    EXPECT_TRUE(post(body, headers).contains("failure"));
+    EXPECT_EQ(modem.refusals(), QStringList{QStringLiteral("no session")});
+    EXPECT_EQ(modem.requests().back().connection, 1U) << "the connection is kept open";
+}
+
+TEST_F(ModemServerTest, RefusesWhatIsNotExactlyRight)
+{
+    const QByteArray type = "Content-Type: " + formType + "\r\n";
+    EXPECT_TRUE(post(form(session() + '0'), ownReferer(setTarget) + type).contains("failure"));
+    EXPECT_TRUE(post(form(session()), ownReferer("/") + type).contains("failure"));
+    EXPECT_TRUE(
+        post(form(session()), ownReferer(setTarget) + "Content-Type: text/plain\r\n").contains("failure"));
+    EXPECT_EQ(modem.refusals(),
+              (QStringList{QStringLiteral("wrong token"), QStringLiteral("wrong Referer"),
+                           QStringLiteral("wrong content type")}));
+    EXPECT_TRUE(get(sessionTarget).contains("\"RD\":\"\"")) << "no session without a Referer";
+    EXPECT_FALSE(modem.condition().apnReady);
+}
+
+TEST_F(ModemServerTest, KeepsWhatStandsUnescapedInARecord)
+{
+    const QByteArray record = R"({"index":4,"profile":"A&AD=B+C%20"})";
+    const QByteArray rd = session();
+    post("goformId=ADD_APN&apn=" + record + "&AD=" + md5(md5("WA_2.3.1CR_1.0.7") + rd),
+         ownReferer(setTarget) + "Content-Type: " + formType + "\r\n");
+    ASSERT_EQ(modem.condition().pcApns.size(), 1);
+    EXPECT_EQ(modem.condition().pcApns[0].value(QStringLiteral("profile")), QStringLiteral("A&AD=B+C%20"));
+}
+
+TEST_F(ModemServerTest, DoesWhatTheFaultSays)
+{
+    const QByteArray whole = get("/logo_data.asp");
+    const QByteArray body = whole.mid(whole.indexOf("\r\n\r\n") + 4);
+    socket.abort();
+
+    server.setFault({.kind = FaultKind::HalfAnswer});
+    const QByteArray half = get("/logo_data.asp");
+    EXPECT_TRUE(half.contains("Content-Length: " + QByteArray::number(body.size()) + "\r\n"));
+    EXPECT_EQ(half.size() - half.indexOf("\r\n\r\n") - 4, body.size() / 2);
+
+    server.setFault({.kind = FaultKind::CloseKeptAlive});
+    socket.abort();
+    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
+    EXPECT_TRUE(get("/logo_data.asp").isEmpty());
+
+    server.setFault({.kind = FaultKind::WrongBytes});
+    socket.abort();
+    EXPECT_TRUE(get("/logo_data.asp").contains('\xff'));
+
+    server.setFault({.kind = FaultKind::Redirect, .location = "/elsewhere"});
+    socket.abort();
+    send(head("GET", "/") + "\r\n");
+    EXPECT_TRUE(read("\r\n\r\n").startsWith("HTTP/1.1 302 "));
+}
+
+TEST_F(ModemServerTest, NeverStopsAnEndlessAnswer)
+{
+    server.setFault({.kind = FaultKind::EndlessAnswer});
+    send(head("GET", "/logo_data.asp") + "\r\n");
+    qint64 received = 0;
+    while (received < 8 * 1024 * 1024 && socket.waitForReadyRead(5000))
+        received += socket.readAll().size();
+    EXPECT_GE(received, 8 * 1024 * 1024);
+}
+
+TEST_F(ModemServerTest, RefusesUntilTheFaultIsOver)
+{
+    server.setFault({.kind = FaultKind::Refuse});
+    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
+    EXPECT_FALSE(socket.waitForConnected(5000));
+    server.setFault({});
+    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
+}
+
+TEST_F(ModemServerTest, SparesRequestsThatTheFaultDoesNotName)
+{
+    server.setFault({.kind = FaultKind::CloseAtOnce, .part = "default_apn"});
+    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
+    EXPECT_TRUE(get("/goform/goform_get_cmd_process?cmd=default_apn").isEmpty());
+    EXPECT_TRUE(modem.waitForRequests(2));
+}
+
+} // namespace
+} // namespace tarvo
