@@ -16,6 +16,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// The event loop that the server's thread needs.
+class Application : public testing::Environment {
+    char m_name[6] = "tests";
+    char *m_argv[2] = {m_name, nullptr};
+    int m_argc = 1;
+    QCoreApplication m_application{m_argc, m_argv};
+};
+
+const auto *const application = testing::AddGlobalTestEnvironment(new Application);
+
 class Http : public testing::Test {
 protected:
     QUrl url(const QString &path = QStringLiteral("logo_data.asp")) const
