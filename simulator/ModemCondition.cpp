@@ -24,7 +24,7 @@ QString oneZero(bool value)
     return value ? u"1"_s : u"0"_s;
 }
 
-Fields statusFields(const ModemCondition& condition)
+Fields statusFields(const ModemCondition &condition)
 {
     return {
         {u"modem_main_state"_s, condition.mainState},
@@ -46,7 +46,7 @@ Fields statusFields(const ModemCondition& condition)
     };
 }
 
-Fields allFields(const ModemCondition& condition)
+Fields allFields(const ModemCondition &condition)
 {
     return statusFields(condition)
         + Fields{
@@ -58,76 +58,72 @@ Fields allFields(const ModemCondition& condition)
         };
 }
 
-QByteArray compactJson(const QJsonObject& object)
+QByteArray compactJson(const QJsonObject &object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-QByteArray jsonText(const Fields& fields)
+QByteArray jsonText(const Fields &fields)
 {
     QJsonObject object;
-    for (const auto& [key, value] : fields)
+    for (const auto &[key, value] : fields)
         object.insert(key, value);
     return compactJson(object);
 }
 
-QByteArray scriptText(const Fields& fields)
+QByteArray scriptText(const Fields &fields)
 {
     QString text;
-    for (const auto& [key, value] : fields)
+    for (const auto &[key, value] : fields)
         text += u"%1: '%2',\n"_s.arg(key, value);
     return text.toUtf8();
 }
 
-QByteArray defaultApn(const ModemCondition& condition)
+QByteArray defaultApn(const ModemCondition &condition)
 {
     return compactJson({{u"profile"_s, condition.defaultProfileName},
                         {u"username"_s, condition.defaultApnUser},
                         {u"password_status"_s, condition.defaultApnPasswordStatus}});
 }
 
-QByteArray apnList(const ModemCondition& condition)
+QByteArray apnList(const ModemCondition &condition)
 {
     QJsonArray data;
-    for (const QJsonObject& apn : condition.pcApns)
+    for (const QJsonObject &apn : condition.pcApns)
         data.append(apn);
     return compactJson({{u"data"_s, data}});
 }
 
 /// The value of a field whose text runs up to the next ampersand.
-QString formValue(const QByteArray& form, const QByteArray& name)
+QString formValue(const QByteArray &form, const QByteArray &name)
 {
     const auto parts = form.split('&');
-    for (const QByteArray& part : parts) {
+    for (const QByteArray &part : parts) {
         if (part.startsWith(name + '='))
             return QString::fromUtf8(part.mid(name.size() + 1));
     }
     return {};
 }
 
-bool addApn(ModemCondition& condition, const QByteArray& form)
+bool addApn(ModemCondition &condition, const QByteArray &form)
 {
-    const QByteArray fieldStart =
-        "&apn="; // the record is not escaped and may hold ampersands: it is all that follows
+    const QByteArray fieldStart = "&apn="; // the record is not escaped and may hold ampersands: it is all that follows
     const qsizetype start = form.indexOf(fieldStart);
-    const auto record =
-        start < 0 ? QJsonDocument() : QJsonDocument::fromJson(form.mid(start + fieldStart.size()));
+    const auto record = start < 0 ? QJsonDocument() : QJsonDocument::fromJson(form.mid(start + fieldStart.size()));
     if (!record.isObject())
         return false;
     condition.pcApns.append(record.object());
     return true;
 }
 
-bool setDefaultApn(ModemCondition& condition, const QByteArray& form)
+bool setDefaultApn(ModemCondition &condition, const QByteArray &form)
 {
     bool isNumber = false;
     const int index = formValue(form, "index").toInt(&isNumber);
     if (!isNumber)
         return false;
     condition.defaultApnIndex = index;
-    const auto hasIndex = [index](const QJsonObject& apn) {
-        return apn.value(u"index"_s).toInt(-1) == index;
-    };
+    const auto hasIndex = [index](const QJsonObject &apn) { return apn.value(u"index"_s).toInt(-1) == index; };
     const auto apn = std::ranges::find_if(std::as_const(condition.pcApns), hasIndex);
     if (apn != condition.pcApns.cend())
         condition.defaultProfileName = apn->value(u"profile"_s).toString();
@@ -136,14 +132,14 @@ bool setDefaultApn(ModemCondition& condition, const QByteArray& form)
     return true;
 }
 
-bool setSwitches(ModemCondition& condition, const QByteArray& form)
+bool setSwitches(ModemCondition &condition, const QByteArray &form)
 {
     condition.passwordConfirm = formValue(form, "apn_id_password_confirm");
     condition.passwordSave = formValue(form, "apn_id_password_save");
     return true;
 }
 
-bool setTime(ModemCondition& condition, const QByteArray& form)
+bool setTime(ModemCondition &condition, const QByteArray &form)
 {
     condition.pcTime = formValue(form, "pc_current_time");
     return !condition.pcTime.isEmpty();
@@ -151,30 +147,29 @@ bool setTime(ModemCondition& condition, const QByteArray& form)
 
 } // namespace
 
-QByteArray statusPage(const ModemCondition& condition)
+QByteArray statusPage(const ModemCondition &condition)
 {
     const Fields fields = statusFields(condition);
     return condition.pageStyle == PageStyle::Json ? jsonText(fields) : scriptText(fields);
 }
 
-QByteArray getAnswer(const ModemCondition& condition, const QByteArray& query)
+QByteArray getAnswer(const ModemCondition &condition, const QString &command, const QString &session)
 {
-    const QString command = QString::fromUtf8(query.split('&').first());
     if (command == u"default_apn")
         return defaultApn(condition);
     if (command == u"pc_apn_list_query")
         return apnList(condition);
-    const Fields known = allFields(condition);
+    const Fields known = allFields(condition) + Fields{{u"RD"_s, session}};
     const QStringList wanted = command.split(u',');
     Fields answer;
-    for (const QString& key : wanted) {
+    for (const QString &key : wanted) {
         const auto field = std::ranges::find(known, key, &std::pair<QString, QString>::first);
         answer.append({key, field == known.end() ? QString() : field->second});
     }
     return jsonText(answer);
 }
 
-bool applySetCommand(ModemCondition& condition, const QByteArray& form)
+bool applySetCommand(ModemCondition &condition, const QByteArray &form)
 {
     const QString command = formValue(form, "goformId");
     if (command == u"ADD_APN")

@@ -60,16 +60,17 @@ struct ModemCondition {
 };
 
 /// The status page with @p condition's values.
-QByteArray statusPage(const ModemCondition& condition);
+QByteArray statusPage(const ModemCondition &condition);
 
 /// The answer to a get command.
-/// @param query  what follows "cmd=", with further query parts
-QByteArray getAnswer(const ModemCondition& condition, const QByteArray& query);
+/// @param command  the command's name, or names of fields with commas between them
+/// @param session  the value of `RD`
+QByteArray getAnswer(const ModemCondition &condition, const QString &command, const QString &session);
 
 /// Carries out a set command whose sender has been checked.
 /// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them
 /// escaped
 /// @return whether the modem accepts it
-bool applySetCommand(ModemCondition& condition, const QByteArray& form);
+bool applySetCommand(ModemCondition &condition, const QByteArray &form);
 
 } // namespace tarvo

@@ -12,13 +12,13 @@ namespace {
 const QByteArray notUtf8 = "{\"ppp_status\":\"\xff\xfe\xc3\x28\"}";
 constexpr qint64 endlessChunk = 64 * 1024;
 
-QByteArray headOf(const ModemReply& reply, const QByteArray& furtherLines)
+QByteArray headOf(const ModemReply &reply, const QByteArray &furtherLines)
 {
     return "HTTP/1.1 " + QByteArray::number(reply.status) + (reply.status < 300 ? " OK" : " Other")
         + "\r\nContent-Type: " + reply.contentType + "\r\n" + furtherLines + "\r\n";
 }
 
-QByteArray wholeAnswer(const ModemReply& reply, const QByteArray& furtherLines = {})
+QByteArray wholeAnswer(const ModemReply &reply, const QByteArray &furtherLines = {})
 {
     return headOf(reply, furtherLines + "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n")
         + reply.body;
@@ -29,7 +29,7 @@ QByteArray wholeAnswer(const ModemReply& reply, const QByteArray& furtherLines =
 /// One client's connection; it goes when the client does.
 class ModemListener::Connection final : public QObject {
 public:
-    Connection(ModemListener& owner, QTcpSocket* socket, quint64 number)
+    Connection(ModemListener &owner, QTcpSocket *socket, quint64 number)
         : QObject(&owner)
         , m_owner(owner)
         , m_socket(socket)
@@ -56,7 +56,7 @@ private:
             m_socket->abort();
     }
 
-    void serve(const ReceivedRequest& request)
+    void serve(const ReceivedRequest &request)
     {
         const ModemFault fault = m_owner.m_fault;
         const ModemReply reply = m_owner.m_modem.answer(request);
@@ -66,7 +66,7 @@ private:
             m_socket->write(wholeAnswer(reply));
     }
 
-    void sendWith(const ModemFault& fault, ModemReply reply)
+    void sendWith(const ModemFault &fault, ModemReply reply)
     {
         switch (fault.kind) {
         case FaultKind::None:
@@ -114,15 +114,15 @@ private:
             m_socket->write(QByteArray(endlessChunk, 'x'));
     }
 
-    ModemListener& m_owner;
-    QTcpSocket* m_socket;
+    ModemListener &m_owner;
+    QTcpSocket *m_socket;
     quint64 m_number;
     int m_requests = 0;
     bool m_endless = false;
     QByteArray m_buffer;
 };
 
-ModemListener::ModemListener(SimulatedModem& modem, const QHostAddress& address, quint16 port)
+ModemListener::ModemListener(SimulatedModem &modem, const QHostAddress &address, quint16 port)
     : m_modem(modem)
     , m_address(address)
     , m_port(port)
@@ -138,7 +138,7 @@ std::optional<QString> ModemListener::listen()
     return std::nullopt;
 }
 
-void ModemListener::setFault(const ModemFault& fault)
+void ModemListener::setFault(const ModemFault &fault)
 {
     m_fault = fault;
     if (fault.kind == FaultKind::Refuse)
@@ -150,14 +150,14 @@ void ModemListener::setFault(const ModemFault& fault)
 void ModemListener::close()
 {
     m_server.close();
-    const auto sockets = findChildren<QTcpSocket*>();
-    for (QTcpSocket* socket : sockets)
+    const auto sockets = findChildren<QTcpSocket *>();
+    for (QTcpSocket *socket : sockets)
         socket->abort();
 }
 
 void ModemListener::accept()
 {
-    while (QTcpSocket* socket = m_server.nextPendingConnection())
+    while (QTcpSocket *socket = m_server.nextPendingConnection())
         new Connection(*this, socket, ++m_accepted);
 }
 

@@ -15,12 +15,12 @@ class SimulatedModem;
 /// The half of the modem's server that lives on its thread.
 class ModemListener final : public QObject {
 public:
-    ModemListener(SimulatedModem& modem, const QHostAddress& address, quint16 port);
+    ModemListener(SimulatedModem &modem, const QHostAddress &address, quint16 port);
 
     /// @return why listening failed; nil when it did not
     std::optional<QString> listen();
     quint16 port() const { return m_port; }
-    void setFault(const ModemFault& fault);
+    void setFault(const ModemFault &fault);
     /// Closes everything.
     void close();
 
@@ -29,7 +29,7 @@ private:
 
     void accept();
 
-    SimulatedModem& m_modem;
+    SimulatedModem &m_modem;
     const QHostAddress m_address;
     quint16 m_port;
     QTcpServer m_server{this};

@@ -8,7 +8,7 @@ namespace tarvo {
 
 using namespace Qt::StringLiterals;
 
-std::optional<FaultKind> faultKind(const QString& name)
+std::optional<FaultKind> faultKind(const QString &name)
 {
     static const QMap<QString, FaultKind> kinds{
         {u"none"_s, FaultKind::None},
@@ -26,7 +26,7 @@ std::optional<FaultKind> faultKind(const QString& name)
     return kind == kinds.cend() ? std::nullopt : std::optional(*kind);
 }
 
-ModemServer::ModemServer(SimulatedModem& modem, const QHostAddress& address, quint16 port)
+ModemServer::ModemServer(SimulatedModem &modem, const QHostAddress &address, quint16 port)
     : m_address(address)
     , m_listener(new ModemListener(modem, address, port))
 {
@@ -50,7 +50,7 @@ QString ModemServer::authority() const
     return u"%1:%2"_s.arg(m_address.toString()).arg(m_port);
 }
 
-void ModemServer::setFault(const ModemFault& fault)
+void ModemServer::setFault(const ModemFault &fault)
 {
     QMetaObject::invokeMethod(
         m_listener, [&] { m_listener->setFault(fault); }, Qt::BlockingQueuedConnection);

@@ -36,34 +36,34 @@ struct ModemFault {
 };
 
 /// @return the fault's kind for a name such as "slow" or "half"; nil when the name is unknown
-std::optional<FaultKind> faultKind(const QString& name);
+std::optional<FaultKind> faultKind(const QString &name);
 
 /// Serves a simulated modem over HTTP/1.1 with connections that are kept open, on a thread of its own.
 class ModemServer {
 public:
     /// Listens at once. @param modem  outlives the server
     /// @param port  0 takes any free port
-    explicit ModemServer(SimulatedModem& modem, const QHostAddress& address = QHostAddress::LocalHost,
+    explicit ModemServer(SimulatedModem &modem, const QHostAddress &address = QHostAddress::LocalHost,
                          quint16 port = 0);
     ~ModemServer();
-    ModemServer(const ModemServer&) = delete;
-    ModemServer& operator=(const ModemServer&) = delete;
+    ModemServer(const ModemServer &) = delete;
+    ModemServer &operator=(const ModemServer &) = delete;
 
     /// @return why nothing is listened to; nil when all is well
-    const std::optional<QString>& error() const { return m_error; }
+    const std::optional<QString> &error() const { return m_error; }
     quint16 port() const { return m_port; }
     /// @return "address:port", as it stands in a URL
     QString authority() const;
 
     /// Takes effect, when this returns, for all requests that are answered from then on.
-    void setFault(const ModemFault& fault);
+    void setFault(const ModemFault &fault);
 
 private:
     QHostAddress m_address;
     quint16 m_port = 0;
     std::optional<QString> m_error;
     QThread m_thread;
-    ModemListener* m_listener; ///< lives on the thread, and is deleted when that ends
+    ModemListener *m_listener; ///< lives on the thread, and is deleted when that ends
 };
 
 } // namespace tarvo

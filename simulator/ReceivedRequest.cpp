@@ -9,7 +9,7 @@ constexpr qsizetype maximumHeadSize = 64 * 1024;
 constexpr qsizetype maximumBodySize = 4 * 1024 * 1024;
 
 /// @return the body's announced length; nil when it is no acceptable number
-std::optional<qsizetype> bodySize(const ReceivedRequest& request)
+std::optional<qsizetype> bodySize(const ReceivedRequest &request)
 {
     const auto text = request.header("Content-Length");
     if (!text)
@@ -20,10 +20,10 @@ std::optional<qsizetype> bodySize(const ReceivedRequest& request)
 }
 } // namespace
 
-std::optional<QByteArray> ReceivedRequest::header(const QByteArray& name) const
+std::optional<QByteArray> ReceivedRequest::header(const QByteArray &name) const
 {
     const auto lines = head.split('\n');
-    for (const QByteArray& line : lines) {
+    for (const QByteArray &line : lines) {
         const qsizetype colon = line.indexOf(':');
         if (colon >= 0 && line.left(colon).compare(name, Qt::CaseInsensitive) == 0)
             return line.mid(colon + 1).trimmed();
@@ -43,12 +43,12 @@ QByteArray ReceivedRequest::query() const
     return mark < 0 ? QByteArray() : target.mid(mark + 1);
 }
 
-bool ReceivedRequest::holds(const QByteArray& part) const
+bool ReceivedRequest::holds(const QByteArray &part) const
 {
     return target.contains(part) || body.contains(part);
 }
 
-TakeResult takeRequest(QByteArray& buffer, ReceivedRequest& request)
+TakeResult takeRequest(QByteArray &buffer, ReceivedRequest &request)
 {
     const qsizetype headEnd = buffer.indexOf("\r\n\r\n");
     if (headEnd < 0)

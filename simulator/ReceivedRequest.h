@@ -19,12 +19,12 @@ struct ReceivedRequest {
 
     /// @return the value of the first header named @p name, whatever its letters' case; nil when there is
     /// none
-    std::optional<QByteArray> header(const QByteArray& name) const;
+    std::optional<QByteArray> header(const QByteArray &name) const;
     QByteArray path() const;
     /// @return what follows the question mark; empty when there is none
     QByteArray query() const;
     /// @return whether target or body holds @p part; an empty part is in every request
-    bool holds(const QByteArray& part) const;
+    bool holds(const QByteArray &part) const;
 };
 
 enum class TakeResult {
@@ -35,6 +35,6 @@ enum class TakeResult {
 
 /// Cuts the first complete request off @p buffer; heads of up to 64 KiB and bodies of up to 4 MiB are
 /// accepted.
-TakeResult takeRequest(QByteArray& buffer, ReceivedRequest& request);
+TakeResult takeRequest(QByteArray &buffer, ReceivedRequest &request);
 
 } // namespace tarvo

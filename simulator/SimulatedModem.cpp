@@ -16,21 +16,20 @@ const QByteArray getPath = "/goform/goform_get_cmd_process";
 const QByteArray setPath = "/goform/goform_set_cmd_process";
 const QByteArray tokenField = "&AD=";
 
-QByteArray md5(const QByteArray& bytes)
+QByteArray md5(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex();
 }
 
-bool hasOwnReferer(const ReceivedRequest& request)
+bool hasOwnReferer(const ReceivedRequest &request)
 {
     const QByteArray ownAddress = "http://" + request.header("Host").value_or("") + request.target;
     return request.header("Referer") == ownAddress;
 }
 
-bool hasFormType(const ReceivedRequest& request)
+bool hasFormType(const ReceivedRequest &request)
 {
-    return request.header("Content-Type").value_or("").toLower()
-        == "application/x-www-form-urlencoded; charset=utf-8";
+    return request.header("Content-Type").value_or("").toLower() == "application/x-www-form-urlencoded; charset=utf-8";
 }
 
 } // namespace
@@ -46,13 +45,13 @@ ModemCondition SimulatedModem::condition() const
     return m_condition;
 }
 
-void SimulatedModem::change(const std::function<void(ModemCondition& condition)>& changer)
+void SimulatedModem::change(const std::function<void(ModemCondition &condition)> &changer)
 {
     const std::scoped_lock lock(m_mutex);
     changer(m_condition);
 }
 
-void SimulatedModem::setFixedAnswer(const QByteArray& part, const QByteArray& body)
+void SimulatedModem::setFixedAnswer(const QByteArray &part, const QByteArray &body)
 {
     const std::scoped_lock lock(m_mutex);
     m_fixedAnswers.append({part, body});
@@ -64,7 +63,7 @@ void SimulatedModem::clearFixedAnswers()
     m_fixedAnswers.clear();
 }
 
-ModemReply SimulatedModem::answer(const ReceivedRequest& request)
+ModemReply SimulatedModem::answer(const ReceivedRequest &request)
 {
     if (m_listener)
         m_listener(request);
@@ -76,14 +75,14 @@ ModemReply SimulatedModem::answer(const ReceivedRequest& request)
     return page(request);
 }
 
-std::optional<QByteArray> SimulatedModem::fixedAnswer(const ReceivedRequest& request) const
+std::optional<QByteArray> SimulatedModem::fixedAnswer(const ReceivedRequest &request) const
 {
     const auto found =
-        std::ranges::find_if(m_fixedAnswers, [&](const auto& answer) { return request.holds(answer.first); });
+        std::ranges::find_if(m_fixedAnswers, [&](const auto &answer) { return request.holds(answer.first); });
     return found == m_fixedAnswers.end() ? std::nullopt : std::optional(found->second);
 }
 
-ModemReply SimulatedModem::page(const ReceivedRequest& request)
+ModemReply SimulatedModem::page(const ReceivedRequest &request)
 {
     const QByteArray path = request.path();
     if (path == getPath)
@@ -100,37 +99,36 @@ ModemReply SimulatedModem::page(const ReceivedRequest& request)
     return {.status = 404, .contentType = "text/html; charset=utf-8", .body = "<h1>Not found</h1>\n"};
 }
 
-QByteArray SimulatedModem::get(const ReceivedRequest& request)
+QByteArray SimulatedModem::get(const ReceivedRequest &request)
 {
+    const QByteArray prefix = "cmd=";
     const QByteArray query = request.query();
-    if (!query.startsWith("cmd="))
+    if (!query.startsWith(prefix))
         return "{}";
-    const QByteArray answer = getAnswer(m_condition, query.mid(4));
-    return query.split('&').first().endsWith(",RD")
-        ? QByteArray(answer).replace("\"RD\":\"\"", "\"RD\":\"" + newSession(request) + '"')
-        : answer;
+    const QString command = QString::fromUtf8(query.mid(prefix.size()).split('&').first());
+    if (command.split(u',').contains(u"RD"_s))
+        renewSession(request);
+    return getAnswer(m_condition, command, QString::fromUtf8(m_session));
 }
 
-QByteArray SimulatedModem::newSession(const ReceivedRequest& request)
+void SimulatedModem::renewSession(const ReceivedRequest &request)
 {
     const bool granted = m_condition.grantsSessions && hasOwnReferer(request);
     m_session = granted ? QUuid::createUuid().toByteArray(QUuid::Id128) : QByteArray();
-    return m_session;
 }
 
-QByteArray SimulatedModem::set(const ReceivedRequest& request)
+QByteArray SimulatedModem::set(const ReceivedRequest &request)
 {
     const QString reason = reasonToRefuse(request);
     if (!reason.isEmpty()) {
         m_refusals.append(reason);
         return R"({"result":"failure"})";
     }
-    const bool accepted =
-        applySetCommand(m_condition, request.body.left(request.body.lastIndexOf(tokenField)));
+    const bool accepted = applySetCommand(m_condition, request.body.left(request.body.lastIndexOf(tokenField)));
     return accepted ? R"({"result":"success"})" : R"({"result":"failure"})";
 }
 
-QString SimulatedModem::reasonToRefuse(const ReceivedRequest& request)
+QString SimulatedModem::reasonToRefuse(const ReceivedRequest &request)
 {
     const QByteArray session = std::exchange(m_session, {});
     if (request.method != "POST")
@@ -149,25 +147,24 @@ QString SimulatedModem::reasonToRefuse(const ReceivedRequest& request)
     return {};
 }
 
-QList<ReceivedRequest> SimulatedModem::requests(const QByteArray& part) const
+QList<ReceivedRequest> SimulatedModem::requests(const QByteArray &part) const
 {
     const std::scoped_lock lock(m_mutex);
     QList<ReceivedRequest> found;
     std::ranges::copy_if(m_requests, std::back_inserter(found),
-                         [&](const auto& request) { return request.holds(part); });
+                         [&](const auto &request) { return request.holds(part); });
     return found;
 }
 
-bool SimulatedModem::waitForRequests(qsizetype count, const QByteArray& part,
-                                     std::chrono::milliseconds limit) const
+bool SimulatedModem::waitForRequests(qsizetype count, const QByteArray &part, std::chrono::milliseconds limit) const
 {
     std::unique_lock lock(m_mutex);
     return m_changed.wait_for(lock, limit, [&] { return countRequests(part) >= count; });
 }
 
-qsizetype SimulatedModem::countRequests(const QByteArray& part) const
+qsizetype SimulatedModem::countRequests(const QByteArray &part) const
 {
-    return std::ranges::count_if(m_requests, [&](const auto& request) { return request.holds(part); });
+    return std::ranges::count_if(m_requests, [&](const auto &request) { return request.holds(part); });
 }
 
 void SimulatedModem::clearRequests()

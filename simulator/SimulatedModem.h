@@ -33,39 +33,39 @@ struct ModemReply {
 class SimulatedModem {
 public:
     /// Told of each request before it is answered, on the thread that answers.
-    using Listener = std::function<void(const ReceivedRequest& request)>;
+    using Listener = std::function<void(const ReceivedRequest &request)>;
 
     /// @param listener  may be empty
     explicit SimulatedModem(Listener listener = {});
 
     ModemCondition condition() const;
-    void change(const std::function<void(ModemCondition& condition)>& changer);
+    void change(const std::function<void(ModemCondition &condition)> &changer);
 
     /// From now on every request that holds @p part, in its target or body, is answered with @p body and
     /// changes nothing; the first such part wins.
-    void setFixedAnswer(const QByteArray& part, const QByteArray& body);
+    void setFixedAnswer(const QByteArray &part, const QByteArray &body);
     void clearFixedAnswers();
 
-    ModemReply answer(const ReceivedRequest& request);
+    ModemReply answer(const ReceivedRequest &request);
 
     /// @return the requests that hold @p part, the oldest first
-    QList<ReceivedRequest> requests(const QByteArray& part = {}) const;
+    QList<ReceivedRequest> requests(const QByteArray &part = {}) const;
     /// Waits, for at most @p limit, until at least @p count requests that hold @p part have come. @return
     /// whether they have
-    bool waitForRequests(qsizetype count, const QByteArray& part = {},
+    bool waitForRequests(qsizetype count, const QByteArray &part = {},
                          std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
     void clearRequests();
     /// @return why set commands were refused, the oldest first
     QStringList refusals() const;
 
 private:
-    std::optional<QByteArray> fixedAnswer(const ReceivedRequest& request) const;
-    ModemReply page(const ReceivedRequest& request);
-    QByteArray get(const ReceivedRequest& request);
-    QByteArray set(const ReceivedRequest& request);
-    QByteArray newSession(const ReceivedRequest& request);
-    QString reasonToRefuse(const ReceivedRequest& request);
-    qsizetype countRequests(const QByteArray& part) const;
+    std::optional<QByteArray> fixedAnswer(const ReceivedRequest &request) const;
+    ModemReply page(const ReceivedRequest &request);
+    QByteArray get(const ReceivedRequest &request);
+    QByteArray set(const ReceivedRequest &request);
+    void renewSession(const ReceivedRequest &request);
+    QString reasonToRefuse(const ReceivedRequest &request);
+    qsizetype countRequests(const QByteArray &part) const;
 
     const Listener m_listener;
     mutable std::mutex m_mutex;

@@ -1,5 +1,7 @@
 #include "simulator/ModemServer.h"
+
 #include "simulator/SimulatedModem.h"
+#include "tests/support/PrintQt.h"
 
 #include <QCryptographicHash>
 #include <QTcpSocket>
@@ -13,27 +15,26 @@ namespace {
 
 const QByteArray formType = "application/x-www-form-urlencoded; charset=utf-8";
 const QByteArray setTarget = "/goform/goform_set_cmd_process?";
-const QByteArray sessionTarget =
-    "/goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1";
+const QByteArray sessionTarget = "/goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1";
 
-QByteArray md5(const QByteArray& bytes)
+QByteArray md5(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex();
 }
 
 class ModemServerTest : public testing::Test {
 protected:
-    QByteArray ownReferer(const QByteArray& target) const
+    QByteArray ownReferer(const QByteArray &target) const
     {
         return "Referer: http://" + server.authority().toUtf8() + target + "\r\n";
     }
 
-    QByteArray head(const QByteArray& method, const QByteArray& target) const
+    QByteArray head(const QByteArray &method, const QByteArray &target) const
     {
         return method + ' ' + target + " HTTP/1.1\r\nHost: " + server.authority().toUtf8() + "\r\n";
     }
 
-    void send(const QByteArray& bytes)
+    void send(const QByteArray &bytes)
     {
         if (socket.state() == QAbstractSocket::UnconnectedState)
             socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
@@ -42,7 +43,7 @@ protected:
     }
 
     /// Reads until @p end has come, the connection is closed, or @p limit is over.
-    QByteArray read(const QByteArray& end, int limit = 5000)
+    QByteArray read(const QByteArray &end, int limit = 5000)
     {
         QByteArray answer;
         while (!answer.contains(end) && socket.waitForReadyRead(limit))
@@ -50,7 +51,7 @@ protected:
         return answer;
     }
 
-    QByteArray get(const QByteArray& target, const QByteArray& headers = {})
+    QByteArray get(const QByteArray &target, const QByteArray &headers = {})
     {
         send(head("GET", target) + headers + "\r\n");
         return read("}");
@@ -64,15 +65,15 @@ protected:
         return answer.mid(start, answer.indexOf('"', start) - start);
     }
 
-    static QByteArray form(const QByteArray& rd)
+    static QByteArray form(const QByteArray &rd)
     {
         return "goformId=PC_APN_READY_SET&AD=" + md5(md5("WA_2.3.1CR_1.0.7") + rd);
     }
 
-    QByteArray post(const QByteArray& body, const QByteArray& headers)
+    QByteArray post(const QByteArray &body, const QByteArray &headers)
     {
-        send(head("POST", setTarget) + headers + "Content-Length: " + QByteArray::number(body.size())
-             + "\r\n\r\n" + body);
+        send(head("POST", setTarget) + headers + "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n"
+             + body);
         return read("}");
     }
 
@@ -97,8 +98,7 @@ TEST_F(ModemServerTest, RefusesWhatIsNotExactlyRight)
     const QByteArray type = "Content-Type: " + formType + "\r\n";
     EXPECT_TRUE(post(form(session() + '0'), ownReferer(setTarget) + type).contains("failure"));
     EXPECT_TRUE(post(form(session()), ownReferer("/") + type).contains("failure"));
-    EXPECT_TRUE(
-        post(form(session()), ownReferer(setTarget) + "Content-Type: text/plain\r\n").contains("failure"));
+    EXPECT_TRUE(post(form(session()), ownReferer(setTarget) + "Content-Type: text/plain\r\n").contains("failure"));
     EXPECT_EQ(modem.refusals(),
               (QStringList{QStringLiteral("wrong token"), QStringLiteral("wrong Referer"),
                            QStringLiteral("wrong content type")}));
