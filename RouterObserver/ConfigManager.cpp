@@ -1,0 +1,229 @@
+#include "RouterObserver/ConfigManager.h"
+
+#include "RouterObserver/PropertyList.h"
+#include "RouterObserver/PropertyListLimits.h"
+#include "platform/Assertion.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMetaType>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QVariantList>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList settingFolders()
+{
+    return QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation)
+        + QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)
+        + QStringList{QCoreApplication::applicationDirPath() + u"/../share"_s};
+}
+
+std::optional<QString> findSettingFile()
+{
+    for (const QString &folder : settingFolders()) {
+        const QString path = folder + u"/tarvo/Config.plist"_s;
+        if (QFileInfo::exists(path))
+            return QFileInfo(path).absoluteFilePath();
+    }
+    return std::nullopt;
+}
+
+PropertyListReading readSettingFile(const QString &path)
+{
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        return {std::nullopt, u"it is no regular file"_s};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {std::nullopt, file.errorString()};
+    auto reading = readPropertyList(file.read(maxPropertyListSize + 1));
+    if (reading.root && reading.root->typeId() != QMetaType::QVariantMap)
+        return {std::nullopt, u"its root is no dictionary"_s};
+    return reading;
+}
+
+bool isList(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QVariantList;
+}
+
+bool isMap(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QVariantMap;
+}
+
+std::optional<QVariant> entryOf(const QVariantMap &map, const QString &key)
+{
+    const auto entry = map.constFind(key);
+    return entry == map.cend() ? std::nullopt : std::optional(*entry);
+}
+
+QVariant elementEqualTo(const QVariantList &list, const QString &key)
+{
+    const auto position = static_cast<quint32>(list.indexOf(QVariant(key)));
+    if (position >= static_cast<quint64>(list.size()))
+        throw std::out_of_range("no element of the array equals the key");
+    return list[position];
+}
+
+bool textAsFlag(const QString &text)
+{
+    const auto first = std::ranges::find_if_not(text, [](QChar c) { return c.isSpace(); });
+    return first != text.end() && u"YyTt123456789"_s.contains(*first);
+}
+
+} // namespace
+
+ConfigManager &ConfigManager::sharedConfigManager()
+{
+    // Never destroyed: threads that outlive `main` may still read it.
+    static auto *const instance = new ConfigManager;
+    return *instance;
+}
+
+ConfigManager::ConfigManager()
+    : settingPath_(findSettingFile())
+{
+    load();
+}
+
+ConfigManager::ConfigManager(const std::optional<QString> &filePath)
+    : settingPath_(filePath)
+{
+    TARVO_ASSERT(filePath, "filePath != nil", "-[ConfigManager initWithFilePath:]", "RouterObserver/ConfigManager", 46);
+    load();
+}
+
+void ConfigManager::load()
+{
+    if (!settingPath_)
+        return;
+    const auto reading = readSettingFile(*settingPath_);
+    if (reading.root)
+        configDict_ = reading.root->toMap();
+    else
+        loadProblem_ = u"%1: %2"_s.arg(*settingPath_, reading.problem);
+}
+
+std::optional<QVariant> ConfigManager::getConfigurationByModule(const std::optional<QString> &module) const
+{
+    return module && configDict_ ? entryOf(*configDict_, *module) : std::nullopt;
+}
+
+std::optional<QVariant> ConfigManager::getConfigurationByModuleAndKey(const std::optional<QString> &module,
+                                                                      const std::optional<QString> &moduleKey) const
+{
+    const auto value = getConfigurationByModule(module);
+    if (!value || !moduleKey)
+        return std::nullopt;
+    if (isMap(*value))
+        return entryOf(value->toMap(), *moduleKey);
+    if (isList(*value))
+        return elementEqualTo(value->toList(), *moduleKey);
+    return std::nullopt;
+}
+
+bool ConfigManager::setConfigurationByModule(const std::optional<QString> &module,
+                                             const std::optional<QVariant> &object)
+{
+    if (!module || !object || !configDict_)
+        return false;
+    configDict_->insert(*module, *object);
+    return true;
+}
+
+bool ConfigManager::setConfigurationByModuleKeyAndValue(const std::optional<QString> &module,
+                                                        const std::optional<QString> &key, const QVariant &value)
+{
+    if (!module || !key || !configDict_ || !configDict_->contains(*module))
+        return false;
+    QVariant &content = (*configDict_)[*module];
+    if (isMap(content)) {
+        auto map = content.toMap();
+        map.insert(*key, value);
+        content = map;
+    } else if (isList(content) && !content.toList().contains(value)) {
+        auto list = content.toList();
+        list.append(value);
+        content = list;
+    }
+    return true;
+}
+
+bool ConfigManager::removeConfigurationByModule(const std::optional<QString> &module)
+{
+    if (!module || !configDict_ || configDict_->isEmpty())
+        return false;
+    configDict_->remove(*module);
+    return true;
+}
+
+bool ConfigManager::removeConfigurationByModuleAndKey(const std::optional<QString> &module,
+                                                      const std::optional<QString> &moduleKey)
+{
+    const auto value = getConfigurationByModule(module);
+    if (!value || !moduleKey)
+        return false;
+    if (isMap(*value)) {
+        auto map = value->toMap();
+        map.remove(*moduleKey);
+        configDict_->insert(*module, map);
+    }
+    return true;
+}
+
+QVariantMap *ConfigManager::getConfiguration()
+{
+    return configDict_ ? &*configDict_ : nullptr;
+}
+
+void ConfigManager::flush() const
+{
+    const auto bytes = configDict_ ? writePropertyList(*configDict_) : std::nullopt;
+    if (!bytes)
+        return;
+    QSaveFile file(*settingPath_); // keeps the permissions of the file it replaces
+    if (!file.open(QIODevice::WriteOnly) || file.write(*bytes) != bytes->size())
+        return;
+    file.commit();
+}
+
+bool boolValue(const std::optional<QVariant> &value)
+{
+    if (!value)
+        return false;
+    switch (value->typeId()) {
+    case QMetaType::QString:
+        return textAsFlag(value->toString());
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Double:
+        return value->toDouble() != 0;
+    default:
+        return false;
+    }
+}
+
+bool configurationFlag(const QString &module)
+{
+    return boolValue(ConfigManager::sharedConfigManager().getConfigurationByModule(module));
+}
+
+std::optional<QString> configurationText(const QString &module)
+{
+    const auto value = ConfigManager::sharedConfigManager().getConfigurationByModule(module);
+    return value && value->typeId() == QMetaType::QString ? std::optional(value->toString()) : std::nullopt;
+}
+
+} // namespace tarvo

@@ -1,0 +1,241 @@
+#include "RouterObserver/RouterObserver.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "platform/Assertion.h"
+#include "platform/SystemLog.h"
+
+#include <QMetaType>
+#include <QVariantList>
+
+#include <algorithm>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The longest interface name that is looked up, in bytes of UTF-8.
+constexpr qsizetype maxBSDNameSize = 255;
+
+std::optional<QVariantList> deviceIdentifiers(const QString &key)
+{
+    const auto &configuration = ConfigManager::sharedConfigManager();
+    const auto module = u"device_info"_s;
+    const auto info = configuration.getConfigurationByModule(module);
+    if (!info || info->typeId() != QMetaType::QVariantMap)
+        return std::nullopt;
+    const auto identifiers = configuration.getConfigurationByModuleAndKey(module, key);
+    return identifiers ? std::optional(identifiers->toList()) : std::nullopt;
+}
+
+bool isListed(const QString &key, qint64 identifier)
+{
+    const auto identifiers = deviceIdentifiers(key);
+    return identifiers && identifiers->contains(QVariant(QString::number(static_cast<qint32>(identifier))));
+}
+
+std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
+{
+    const auto name = ipv4State.constFind(store::kSCPropInterfaceName);
+    return name == ipv4State.cend() ? std::nullopt : std::optional(name->toString());
+}
+
+ReadyDictionary readyDictionary(const QVariantMap &ipv4State, IOServiceHandle service)
+{
+    ReadyDictionary ready{.router{}, .kOmbraIOService = service, .kOmbraBSDName = interfaceNameOf(ipv4State)};
+    if (ipv4State.contains(store::kSCPropNetIPv4Router))
+        ready.router = ipv4State[store::kSCPropNetIPv4Router].toString();
+    return ready;
+}
+
+} // namespace
+
+RouterObserver::RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog)
+    : dynamicStore_(dynamicStore)
+    , deviceRegistry_(deviceRegistry)
+    , systemLog_(systemLog)
+    , preferences_{dynamicStore}
+{
+}
+
+RouterObserver::~RouterObserver() = default;
+
+bool RouterObserver::startWatchNetworkInterface(const std::shared_ptr<const RouterReports> &observer)
+{
+    observer_ = observer;
+    auto session = dynamicStore_.createSession(u"RouterObserver"_s, [this](auto &changed, const QStringList &keys) {
+        updateSupportedNetworkInterface(changed, keys);
+    });
+    if (!session)
+        return false;
+    interfaceMonitorRls_ = std::move(session);
+    const QStringList keys{store::interfaceListKey};
+    interfaceMonitorRls_->setNotificationPatterns(keys);
+    updateSupportedNetworkInterface(*interfaceMonitorRls_, keys);
+    return true;
+}
+
+void RouterObserver::updateSupportedNetworkInterface(DynamicStoreSession &session, const QStringList &keys)
+{
+    const auto value = session.copyValue(keys.value(0));
+    if (!value)
+        return;
+    const QStringList interfaces = value->value(store::kSCDynamicStorePropNetInterfaces).toStringList();
+    const bool newSupportedInterface = addSupportedInterfaces(interfaces);
+    reportVanishedInterfaces(interfaces);
+    preInterfaces_ = interfaces;
+    if (newSupportedInterface)
+        startWatchSupportedInterfaceIPv4(observer_);
+}
+
+bool RouterObserver::addSupportedInterfaces(const QStringList &interfaces)
+{
+    const qsizetype before = supportedBSDNames_.size();
+    for (const QString &bsdName : interfaces) {
+        if (isSupportedEnthernetBSDName(bsdName))
+            supportedBSDNames_.insert(bsdName);
+    }
+    return supportedBSDNames_.size() > before;
+}
+
+void RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)
+{
+    const QSet<QString> present(interfaces.begin(), interfaces.end());
+    for (const QString &bsdName : preInterfaces_) {
+        if (present.contains(bsdName) || !supportedBSDNames_.contains(bsdName))
+            continue;
+        interfaceRemoved(bsdName);
+        supportedBSDNames_.remove(bsdName);
+    }
+}
+
+void RouterObserver::startWatchSupportedInterfaceIPv4(const std::shared_ptr<const RouterReports> &observer)
+{
+    if (watchIPv4On_)
+        return;
+    observer_ = observer;
+    auto session = dynamicStore_.createSession(u"RouterObserver"_s, [this](auto &changed, const QStringList &keys) {
+        updateSupportedInterfaceIPv4(changed, keys);
+    });
+    if (!session)
+        return;
+    ipv4MonitorRls_ = std::move(session);
+    const QStringList keys{store::anyServiceIPv4Pattern};
+    ipv4MonitorRls_->setNotificationPatterns(keys);
+    updateSupportedInterfaceIPv4(*ipv4MonitorRls_, keys);
+    watchIPv4On_ = true;
+}
+
+void RouterObserver::updateSupportedInterfaceIPv4(DynamicStoreSession &session, const QStringList &keys)
+{
+    const auto entries = session.copyMultiple(keys);
+    for (const QString &key : session.copyKeyList(keys.value(0))) {
+        if (key.isEmpty())
+            continue;
+        const auto entry = entries.value(key);
+        const auto bsdName = interfaceNameOf(entry);
+        const IOServiceHandle service = bsdName ? getIOServiceOfBSDName(*bsdName) : 0;
+        if (service == 0 || !isSupportedIOService(service))
+            continue;
+        resetModemPlugedInTime();
+        ipv4Observer(readyDictionary(entry, service));
+        return;
+    }
+    releaseModemPlugedInTime();
+}
+
+void RouterObserver::stopWatchSupportedInterfaceIPv4()
+{
+    if (ipv4MonitorRls_)
+        ipv4MonitorRls_->setNotificationPatterns({});
+    watchIPv4On_ = false;
+}
+
+void RouterObserver::ipv4Observer(const ReadyDictionary &ready) const
+{
+    if (observer_ && observer_->procECMReady)
+        observer_->procECMReady(ready);
+}
+
+void RouterObserver::interfaceRemoved(const QString &bsdName) const
+{
+    if (observer_ && observer_->procInterfaceRemoved)
+        observer_->procInterfaceRemoved(bsdName);
+}
+
+void RouterObserver::resetModemPlugedInTime()
+{
+    modemPlugedInTime_ = QDateTime::currentDateTimeUtc();
+}
+
+void RouterObserver::releaseModemPlugedInTime()
+{
+    modemPlugedInTime_.reset();
+}
+
+std::optional<QDateTime> RouterObserver::getModemPlugedInTime() const
+{
+    return modemPlugedInTime_;
+}
+
+bool RouterObserver::isInterfaceRouterReady(const QByteArray &className)
+{
+    const auto services = deviceRegistry_.servicesMatchingClass(className);
+    if (!services)
+        return false;
+    const bool ready = std::ranges::any_of(*services, [this](IOServiceHandle service) {
+        return isSupportedIOService(service) && hasEthernetRouter(service);
+    });
+    systemLog_.write(ready ? u"ethernet router is ready"_s : u"no ethernet router is found"_s);
+    return ready;
+}
+
+bool RouterObserver::hasEthernetRouter(IOServiceHandle service)
+{
+    const auto bsdName = getBSDNameOfService(deviceRegistry_, service);
+    if (!bsdName || !bsdName->startsWith(u"en"))
+        return false;
+    systemLog_.write(u"bsd name has ethernet interface"_s);
+    const auto serviceID = MacTool_GetServiceIDByBSDName(preferences_, bsdName);
+    return MacTool_GetIPV4Router(dynamicStore_, serviceID).has_value();
+}
+
+bool RouterObserver::isSupportedVendorID(qint64 vendorID) const
+{
+    return isListed(u"vendor_ids"_s, vendorID);
+}
+
+bool RouterObserver::isSupportedProductID(qint64 productID) const
+{
+    return isListed(u"product_ids"_s, productID);
+}
+
+bool RouterObserver::isExcludedProductID(qint64 productID) const
+{
+    return isListed(u"eliminate_product_ids"_s, productID);
+}
+
+bool RouterObserver::isSupportedIOService(IOServiceHandle service) const
+{
+    const auto vendor = deviceRegistry_.searchProperty(service, u"idVendor"_s, RegistrySearch::Upward);
+    if (!vendor || !isSupportedVendorID(vendor->toLongLong()))
+        return false;
+    const auto product = deviceRegistry_.searchProperty(service, u"idProduct"_s, RegistrySearch::Upward);
+    return !product || !isExcludedProductID(product->toLongLong());
+}
+
+IOServiceHandle RouterObserver::getIOServiceOfBSDName(const QString &bsdName) const
+{
+    return bsdName.toUtf8().size() > maxBSDNameSize ? 0 : deviceRegistry_.serviceMatchingBSDName(bsdName);
+}
+
+bool RouterObserver::isSupportedEnthernetBSDName(const std::optional<QString> &bsdName) const
+{
+    TARVO_ASSERT(bsdName, "bsdNameRef != NULL", "-[RouterObserver isSupportedEnthernetBSDName:]",
+                 "RouterObserver/RouterObserver", 144);
+    const IOServiceHandle service = getIOServiceOfBSDName(*bsdName);
+    return service != 0 && isSupportedIOService(service);
+}
+
+} // namespace tarvo

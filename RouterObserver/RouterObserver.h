@@ -71,6 +71,12 @@ public:
     bool isSupportedEnthernetBSDName(const std::optional<QString> &bsdName) const;
 
 private:
+    /// Adds the supported ones among @p interfaces to the known. @return whether one of them is new
+    bool addSupportedInterfaces(const QStringList &interfaces);
+    /// Reports and forgets the supported interfaces that were there at the last update and are not in @p interfaces.
+    void reportVanishedInterfaces(const QStringList &interfaces);
+    bool hasEthernetRouter(IOServiceHandle service);
+
     DynamicStore &dynamicStore_;
     DeviceRegistry &deviceRegistry_;
     SystemLog &systemLog_;
