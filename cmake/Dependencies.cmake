@@ -21,14 +21,16 @@ pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>
 # The USB device behind a network interface.
 pkg_check_modules(LIBUDEV REQUIRED IMPORTED_TARGET libudev)
 
-# Docking the icon into a system tray that speaks XEmbed.
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape)
+# Docking the icon into a system tray that speaks XEmbed, and telling which process such a tray is.
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape xcb-res)
 
 find_package(Threads REQUIRED)
 
 if(TARVO_BUILD_TESTS)
   # The simulated modem's web server.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+  # Waits that run the event loop, and pointer events, in the tests of windows.
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   # The test framework.
   find_package(GTest REQUIRED)
   # USB devices that are not there, beside real network interfaces.

@@ -1,0 +1,33 @@
+#include "tests/support/VirtualDesktop.h"
+
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+
+namespace tarvo {
+
+VirtualDesktop::VirtualDesktop()
+{
+    for (const char *variable : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
+        qputenv(variable, m_home.path().toLocal8Bit());
+    m_screen.emplace(
+        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
+    qputenv("DISPLAY", QByteArray::fromStdString(":" + m_screen->readLine()));
+    m_bus.emplace(std::vector<std::string>{"dbus-daemon", "--session", "--print-address", "--nofork"});
+    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(m_bus->readLine()));
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    m_application.emplace(m_argumentCount, m_arguments);
+    m_application->setQuitOnLastWindowClosed(false);
+}
+
+QImage screenshot()
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+}
+
+bool waitFor(const std::function<bool()> &condition)
+{
+    return QTest::qWaitFor(condition, 15'000);
+}
+
+} // namespace tarvo
