@@ -5,9 +5,12 @@
 #include "platform/StatusBar.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
+#include "ui/Balloon.h"
+#include "ui/BalloonPresenter.h"
 #include "ui/CustomView.h"
 
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QMetaObject>
 #include <QTimer>
 

@@ -7,25 +7,32 @@
 #include "app/ThreadGroup.h"
 #include "app/WorkScope.h"
 #include "modemapi/HttpClient.h"
+#include "monitor/FirmwareCheck.h"
 
 #include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <stop_token>
 
+class QMessageBox;
 class QTimer;
 
 namespace tarvo {
 
+class AlertPanelController;
+class Balloon;
+class BalloonPresenter;
 class CustomView;
 class RepeatingTimer;
 class StatusItem;
+struct WebUIFields;
 
 /// Owns all that the running companion knows, and carries out what it does.
 ///
@@ -129,6 +136,9 @@ public:
 
     /// Asks the modem for new firmware and keeps the answer in `isHaveNewVersion_` (polling worker).
     void checkFotaUpdateWhenConnected();
+    /// Runs that check when @p content, the status page, reads connected: for the first time in the calling thread's
+    /// attachment, then every ten minutes (polling worker).
+    void checkFotaUpdateWhenDue(const QString &content);
     /// Shows the update panel; returns at once.
     void showAlertMsgForUpdate();
 
@@ -147,7 +157,9 @@ public:
     QString getDisplayStatusByType(int type);
     /// The balloon sequence (display thread).
     void displayUIStatus();
+    /// Marks the icon for three seconds when @p timer is `firstStatusTimer_` (main thread).
     void statusCheck(const QTimer *timer);
+    void disSendcondStatus();
 
     // --- Web pages: ui/MainController_webui.cpp --------------------------------------------------------------------
 
@@ -215,7 +227,18 @@ private:
     /// Opens the page configured as @p module; nothing when there is none.
     void openConfiguredPage(const QString &module);
 
+    /// Waits, unless the calling thread's work ends before.
+    void pause(std::chrono::seconds duration);
+    /// One step of the balloon sequence: shows what is new for one display type, then waits.
+    void displayNews(int type);
+    void closeBalloon(const QString &text);
+    /// Asks the modem for its default access point. @return whether the user has to complete it
+    bool needsUserForApn(const WebUIFields &fields);
+    /// Opens the modem's pages, unless they were opened by themselves since the device came.
+    void openWebUIOnce();
     bool isBalloonShown() const;
+    void showAbout();
+    void addMenuActions();
     void createStatusItems(const QString &imageName);
     void removeStatusItems();
     /// Sets the icon's image by name (main thread).
@@ -231,6 +254,11 @@ private:
     std::unique_ptr<CustomView> cview_;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<StatusItem> statusDisplay_;
+    std::unique_ptr<QMessageBox> aboutDialog_;
+    std::shared_ptr<AlertPanelController> alertPanel_;
+    std::unique_ptr<BalloonPresenter> balloonPresenter_;
+    std::unique_ptr<Balloon> attachedWindow; ///< the balloon while it is shown
+    FirmwareCheckSchedule firmwareChecks_; ///< of the polling worker, guarded by `attachmentMutex_`
 
     Guarded<std::optional<QString>> routerAddr_;
     /// The interface behind which the router is; requests are tied to it.

@@ -9,6 +9,7 @@ namespace tarvo {
 class Clock;
 class DeviceRegistry;
 class DynamicStore;
+class Notifications;
 class StatusBar;
 class SystemLog;
 class Workspace;
@@ -27,6 +28,12 @@ struct Services {
 
     /// Asks the application to end; called on the main thread.
     std::function<void()> terminate;
+
+    /// The desktop's notification service; null where there cannot be one.
+    Notifications *notifications = nullptr;
+
+    /// @return whether windows may be translucent; called on the main thread. Empty means that they may not.
+    std::function<bool()> isScreenComposited{};
 };
 
 } // namespace tarvo

@@ -1,0 +1,81 @@
+#include "ui/AlertPanelController.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "ui/Images.h"
+#include "ui_AlertPanel.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tarvo {
+
+namespace {
+std::weak_ptr<AlertPanelController> sharedPanel;
+}
+
+std::shared_ptr<AlertPanelController> AlertPanelController::shareAlertPanel()
+{
+    auto panel = sharedPanel.lock();
+    if (!panel) {
+        panel.reset(new AlertPanelController);
+        sharedPanel = panel;
+    }
+    return panel;
+}
+
+AlertPanelController::AlertPanelController()
+    : wndAlert_(std::make_unique<QDialog>())
+{
+    Ui::AlertPanel interface;
+    interface.setupUi(wndAlert_.get());
+    labelMsg_ = interface.labelMsg_;
+    btnOK_ = interface.btnOK_;
+    btnCancel_ = interface.btnCancel_;
+    interface.labelIcon_->setPixmap(imageNamed(QStringLiteral("newVersion")).pixmap(48));
+    wndAlert_->setWindowIcon(applicationImage());
+    awakeFromNib();
+}
+
+AlertPanelController::~AlertPanelController() = default;
+
+void AlertPanelController::awakeFromNib()
+{
+    connect(btnOK_, &QPushButton::clicked, this, &AlertPanelController::btnOKAction);
+    connect(btnCancel_, &QPushButton::clicked, this, &AlertPanelController::btnCancelAction);
+}
+
+void AlertPanelController::runAlertPanelTitle(const QString &title, const QString &msg, const QString &strDefaultBtn,
+                                              const std::optional<QString> &strAlternateBtn)
+{
+    labelMsg_->setText(msg);
+    wndAlert_->setWindowTitle(title);
+    wndAlert_->setAccessibleDescription(msg);
+    btnOK_->setText(strDefaultBtn);
+    btnCancel_->setVisible(strAlternateBtn.has_value());
+    btnCancel_->setText(strAlternateBtn.value_or(QString()));
+    btnOK_->setFocus();
+
+    wndAlert_->adjustSize();
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        QRect frame = wndAlert_->rect();
+        frame.moveCenter(screen->availableGeometry().center());
+        wndAlert_->move(frame.topLeft());
+    }
+    wndAlert_->show();
+    wndAlert_->raise();
+    wndAlert_->activateWindow(); // a request that the window manager may turn into a mere hint
+}
+
+void AlertPanelController::btnOKAction()
+{
+    wndAlert_->done(QDialog::Accepted);
+    if (const auto page = configurationText(QStringLiteral("FotaNewVersionHomePage")))
+        Q_EMIT pageWanted(*page);
+}
+
+void AlertPanelController::btnCancelAction()
+{
+    wndAlert_->done(QDialog::Rejected);
+}
+
+} // namespace tarvo
