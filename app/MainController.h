@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RouterObserver/RouterObserver.h"
+#include "apn/DefaultApn.h"
 #include "app/Guarded.h"
 #include "app/ModemState.h"
 #include "app/Services.h"
@@ -231,6 +232,9 @@ private:
     /// Opens the page configured as @p module; nothing when there is none.
     void openConfiguredPage(const QString& module);
 
+    /// @return how many access points of this computer the modem holds; 0 when it does not tell
+    quint32 countPCApns();
+
     bool isBalloonShown() const;
     void createStatusItems(const QString& imageName);
     void removeStatusItems();
@@ -251,7 +255,7 @@ private:
     Guarded<std::optional<QString>> routerAddr_;
     /// The interface behind which the router is; requests are tied to it.
     Guarded<std::optional<QString>> routerInterface_;
-    Guarded<QString> notFoundDefaultApn_;
+    Guarded<QString> notFoundDefaultApn_{notFoundApnTemplate()};
 
     /// Held while flags are written on behalf of an attachment, never while waiting.
     std::mutex attachmentMutex_;
