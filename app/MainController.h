@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RouterObserver/RouterObserver.h"
+#include "apn/DefaultApn.h"
 #include "app/Guarded.h"
 #include "app/ModemState.h"
 #include "app/Services.h"
@@ -236,6 +237,9 @@ private:
     bool needsUserForApn(const WebUIFields &fields);
     /// Opens the modem's pages, unless they were opened by themselves since the device came.
     void openWebUIOnce();
+    /// @return how many access points of this computer the modem holds; 0 when it does not tell
+    quint32 countPCApns();
+
     bool isBalloonShown() const;
     void showAbout();
     void addMenuActions();
@@ -263,7 +267,7 @@ private:
     Guarded<std::optional<QString>> routerAddr_;
     /// The interface behind which the router is; requests are tied to it.
     Guarded<std::optional<QString>> routerInterface_;
-    Guarded<QString> notFoundDefaultApn_;
+    Guarded<QString> notFoundDefaultApn_{notFoundApnTemplate()};
 
     /// Held while flags are written on behalf of an attachment, never while waiting.
     std::mutex attachmentMutex_;

@@ -1,0 +1,114 @@
+#include "apn/ProfileFile.h"
+
+#include <QFile>
+#include <QStringDecoder>
+
+#include <fcntl.h>
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+namespace tarvo {
+
+namespace {
+
+constexpr auto recordSize = static_cast<qsizetype>(profileRecordSize);
+constexpr auto blockSize = static_cast<qsizetype>(profileBlockSize);
+
+ProfileBytes unreadable(const std::error_code& error)
+{
+    return {std::nullopt, QStringLiteral("it cannot be read: ") + QString::fromStdString(error.message())};
+}
+
+/// @return the text up to the first zero byte; nil when it is no UTF-8
+std::optional<QString> textOf(const PlainBlock& plain)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8,
+                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    QString text = decoder(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))));
+    return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
+}
+
+} // namespace
+
+CipherInputs::CipherInputs(QByteArrayView file)
+    : m_file(file)
+{
+}
+
+std::optional<ProfileBlock> CipherInputs::at(qsizetype record)
+{
+    findTextFrom(record);
+    // A line end at or after the block's end leaves the record's own bytes at the start of the text, so
+    // whether that is UTF-8 matters only for one before it. Each text is therefore checked once, not once a
+    // record.
+    const bool cutsBlock = m_lastLineEnd >= record && m_lastLineEnd - record < blockSize;
+    if (cutsBlock && m_file.sliced(record, m_textEnd - record).isValidUtf8())
+        return std::nullopt;
+    const auto* bytes = reinterpret_cast<const unsigned char*>(m_file.data()) + record;
+    return ProfileBlock(bytes, profileBlockSize);
+}
+
+void CipherInputs::findTextFrom(qsizetype record)
+{
+    if (record < m_textEnd)
+        return;
+    const qsizetype zero = m_file.indexOf('\0', record);
+    m_textEnd = zero < 0 ? m_file.size() : zero;
+    const qsizetype lineEnd = m_file.sliced(record, m_textEnd - record).lastIndexOf("\r\n");
+    m_lastLineEnd = lineEnd < 0 ? -1 : record + lineEnd;
+}
+
+ProfileBytes readProfileBytes(const QString& path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    std::error_code error;
+    const auto status = std::filesystem::status(name.toStdString(), error);
+    if (!std::filesystem::exists(status))
+        return unreadable(error);
+    if (!std::filesystem::is_regular_file(status))
+        return {std::nullopt, QStringLiteral("it is no regular file")};
+
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return unreadable(std::error_code(errno, std::generic_category()));
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    QByteArray bytes = file.read(maximumProfileSize + 1);
+    if (file.error() != QFile::NoError)
+        return {std::nullopt, QStringLiteral("it cannot be read: ") + file.errorString()};
+    if (bytes.size() > maximumProfileSize)
+        return {std::nullopt, QStringLiteral("it is larger than %1 bytes").arg(maximumProfileSize)};
+    return {std::move(bytes), {}};
+}
+
+ProfileText decodeProfile(QByteArrayView file, const ProfileKey& key)
+{
+    if (file.size() % recordSize != 0)
+        return {std::nullopt, QStringLiteral("its length is no multiple of %1 bytes").arg(recordSize)};
+    CipherInputs inputs(file);
+    QString text;
+    for (qsizetype record = 0; record < file.size(); record += recordSize) {
+        const auto input = inputs.at(record);
+        const auto plain = input ? key.decrypt(*input) : std::nullopt;
+        if (!plain)
+            return {std::nullopt, QStringLiteral("record %1 does not decode").arg(record / recordSize + 1)};
+        const auto piece = textOf(*plain);
+        if (!piece)
+            return {std::nullopt, QStringLiteral("record %1 holds no UTF-8").arg(record / recordSize + 1)};
+        text += *piece;
+    }
+    return {std::move(text), {}};
+}
+
+ProfileText readProfile(const QString& path, const ProfileKey& key)
+{
+    const ProfileBytes file = readProfileBytes(path);
+    if (!file.bytes)
+        return {std::nullopt, file.problem};
+    return decodeProfile(*file.bytes, key);
+}
+
+} // namespace tarvo

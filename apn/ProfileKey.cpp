@@ -1,0 +1,82 @@
+#include "apn/ProfileKey.h"
+
+#include "platform/Assertion.h"
+
+#include <ProfileSettings.h>
+#include <openssl/err.h>
+#include <openssl/evp.h>
+#include <openssl/rsa.h>
+#include <openssl/x509.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvo {
+
+namespace {
+
+struct ContextDeleter {
+    void operator()(EVP_PKEY_CTX* context) const { EVP_PKEY_CTX_free(context); }
+};
+using Context = std::unique_ptr<EVP_PKEY_CTX, ContextDeleter>;
+
+/// Takes back the error reports that the library leaves on the thread for whoever asks next.
+class ErrorMark {
+public:
+    ErrorMark() { ERR_set_mark(); }
+    ~ErrorMark() { ERR_pop_to_mark(); }
+    ErrorMark(const ErrorMark&) = delete;
+    ErrorMark& operator=(const ErrorMark&) = delete;
+};
+
+Context recoveryContext(EVP_PKEY* key)
+{
+    Context context(EVP_PKEY_CTX_new(key, nullptr));
+    if (!context || EVP_PKEY_verify_recover_init(context.get()) <= 0
+        || EVP_PKEY_CTX_set_rsa_padding(context.get(), RSA_PKCS1_PADDING) <= 0)
+        return nullptr;
+    return context;
+}
+
+} // namespace
+
+ProfileKey::ProfileKey(std::shared_ptr<EVP_PKEY> key)
+    : m_key(std::move(key))
+{
+}
+
+std::optional<ProfileKey> ProfileKey::fromDer(QByteArrayView der)
+{
+    const ErrorMark mark;
+    const auto* bytes = reinterpret_cast<const unsigned char*>(der.data());
+    const std::shared_ptr<EVP_PKEY> key(d2i_PUBKEY(nullptr, &bytes, static_cast<long>(der.size())),
+                                        EVP_PKEY_free);
+    if (!key || !EVP_PKEY_is_a(key.get(), "RSA")
+        || EVP_PKEY_get_size(key.get()) != static_cast<int>(profileBlockSize))
+        return std::nullopt;
+    return ProfileKey(key);
+}
+
+std::optional<PlainBlock> ProfileKey::decrypt(ProfileBlock block) const
+{
+    const ErrorMark mark;
+    const Context context = recoveryContext(m_key.get());
+    std::array<unsigned char, profileBlockSize> plain;
+    std::size_t size = plain.size();
+    if (!context
+        || EVP_PKEY_verify_recover(context.get(), plain.data(), &size, block.data(), block.size()) <= 0)
+        return std::nullopt;
+    PlainBlock text{};
+    std::copy_n(plain.begin(), std::min(size, maximumBlockTextSize), text.begin());
+    return text;
+}
+
+const ProfileKey& builtInProfileKey()
+{
+    static const std::optional<ProfileKey> key =
+        ProfileKey::fromDer(QByteArrayView(profilePublicKey, sizeof profilePublicKey));
+    TARVO_ASSERT(key, "key", "builtInProfileKey", "apn/ProfileKey", __LINE__);
+    return *key;
+}
+
+} // namespace tarvo

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArrayView>
+
+#include <openssl/types.h>
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace tarvo {
+
+/// Sizes in bytes. A profile is a run of records: one RSA block and a line end.
+inline constexpr std::size_t profileBlockSize = 128;
+inline constexpr std::size_t profileRecordSize = profileBlockSize + 2;
+/// A block less the 11 bytes of its padding (RFC 8017, 9.2).
+inline constexpr std::size_t maximumBlockTextSize = profileBlockSize - 11;
+
+using ProfileBlock = std::span<const unsigned char, profileBlockSize>;
+/// A block's plain text, and zero bytes up to the end; at least one.
+using PlainBlock = std::array<char, profileBlockSize + 1>;
+
+/// The public half of a key that makes profiles. May be used on several threads.
+class ProfileKey {
+public:
+    /// Reads a SubjectPublicKeyInfo (RFC 5280) in DER form.
+    /// @return nil unless it holds an RSA key whose blocks have the profiles' size
+    static std::optional<ProfileKey> fromDer(QByteArrayView der);
+
+    /// Applies the public-key operation with PKCS#1 v1.5 type 1 padding (RFC 8017, 8.2.2).
+    /// @return the plain text; nil when the block was not made with this key's private half
+    std::optional<PlainBlock> decrypt(ProfileBlock block) const;
+
+private:
+    explicit ProfileKey(std::shared_ptr<EVP_PKEY> key);
+
+    std::shared_ptr<EVP_PKEY> m_key;
+};
+
+/// The key that is built into the program, read once.
+const ProfileKey& builtInProfileKey();
+
+} // namespace tarvo

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <stop_token>
+
+namespace tarvo {
+
+/// What a profile folder holds.
+struct ProfileListing {
+    QStringList profiles; ///< the paths of the files that end in `.xml`, in the order of the file system
+    QStringList problems; ///< a line for each thing that was passed over, with its path and the reason
+};
+
+/// The line that says that the thing at @p path is passed over.
+/// @param problem  why, as the end of a sentence
+QString skippedLine(const QString& path, const QString& problem);
+
+/// Lists the profiles below @p root, sub-folders included. Links to folders are not followed, and folders
+/// that lie unreasonably deep are passed over.
+/// @param root  with its trailing slash; it need not exist
+/// @param stop  ends the listing early, with what has been found so far
+ProfileListing listProfiles(const QString& root, const std::stop_token& stop);
+
+} // namespace tarvo

@@ -1,0 +1,40 @@
+# What a packager decides about access-point profiles: where they are, and who may have made them.
+set(TARVO_PROFILE_FOLDER "/Library/Application Support/Skyvane/QX_Profile/" CACHE STRING
+  "Folder of the access-point profiles and of their list, profile.xml")
+set(TARVO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem" CACHE FILEPATH
+  "Public half of the key that makes profiles (RSA, 1024 bits, PEM); the demonstration key protects nothing")
+
+# Turns the key into DER and checks what it is, at configure time. Needs the program only then.
+find_program(OPENSSL_PROGRAM openssl REQUIRED)
+
+# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280).
+function(tarvo_profile_public_key out)
+  set(pem "${TARVO_PROFILE_PUBLIC_KEY}")
+  set(der "${CMAKE_CURRENT_BINARY_DIR}/profile-public-key.der")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${pem}")
+  if(NOT EXISTS "${pem}")
+    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: there is no file ${pem}")
+  endif()
+  execute_process(COMMAND "${OPENSSL_PROGRAM}" rsa -pubin -in "${pem}" -noout -text
+    OUTPUT_VARIABLE description ERROR_QUIET RESULT_VARIABLE failed)
+  if(failed)
+    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: ${pem} holds no RSA public key in PEM form")
+  endif()
+  if(NOT description MATCHES "\\(1024 bit\\)")
+    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: the key in ${pem} is not of 1024 bits, as profiles need")
+  endif()
+  execute_process(COMMAND "${OPENSSL_PROGRAM}" rsa -pubin -in "${pem}" -outform DER -out "${der}"
+    ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
+  file(READ "${der}" digits HEX)
+  string(REGEX REPLACE "(..)" "0x\\1, " bytes "${digits}")
+  set(${out} "${bytes}" PARENT_SCOPE)
+endfunction()
+
+# tarvo_profile_folder(OUT): the folder with its trailing slash.
+function(tarvo_profile_folder out)
+  if(NOT IS_ABSOLUTE "${TARVO_PROFILE_FOLDER}")
+    message(FATAL_ERROR "TARVO_PROFILE_FOLDER: ${TARVO_PROFILE_FOLDER} is no absolute path")
+  endif()
+  string(REGEX REPLACE "/+$" "" folder "${TARVO_PROFILE_FOLDER}")
+  set(${out} "${folder}/" PARENT_SCOPE)
+endfunction()
