@@ -78,6 +78,7 @@ void MainController::updateModemStatus()
     setAllApnFromPC();
     setApnReady();
     openWebUIForQX740(*content);
+    checkFotaUpdateWhenDue(*content);
     if (!stop.stop_requested() && configurationFlag(QStringLiteral("IsDisplayNetStatusInToolBar")))
         setAllStatusByUrlContents(*content);
 }

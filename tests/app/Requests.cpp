@@ -101,8 +101,9 @@ TEST_F(Requests, SuccessIsJudgedByTheAnswer)
         modem.device.clearFixedAnswers();
         modem.device.setFixedAnswer("goform_set_cmd", answer);
         EXPECT_EQ(controller.setWebRequestWithId(u"ID"_s), success) << answer.constData();
-        if (!success)
+        if (!success) {
             EXPECT_EQ(systemLog.lines().last(), line);
+        }
     }
     EXPECT_FALSE(controller.setWebRequestWithId(std::nullopt));
 }
