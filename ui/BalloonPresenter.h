@@ -30,7 +30,6 @@ public:
 
 private:
     std::unique_ptr<Balloon> showWindow(const QString &text, const std::optional<QRect> &iconFrame);
-    void layOut(const QString &text);
 
     Notifications *notifications_;
     std::function<bool()> isScreenComposited_;

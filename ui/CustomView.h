@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QString>
 
+class QAction;
 class QEnterEvent;
 
 namespace tarvo {
@@ -11,7 +12,7 @@ class SystemLog;
 
 /// The icon's button. It shows an image by name, without a border, and tells when the pointer comes over it.
 ///
-/// Its actions are the icon's context menu.
+/// Its actions are the icon's context menu. The first, which cannot be chosen, is the tool tip's text, while there is one.
 class CustomView : public QPushButton {
     Q_OBJECT
 
@@ -39,6 +40,8 @@ protected:
 private:
     SystemLog &systemLog_;
     QString image_;
+    QAction *tipAction_;
+    QAction *separator_;
 };
 
 } // namespace tarvo
