@@ -16,10 +16,10 @@ struct RecordSearch {
     QStringList problems{};
 };
 
-RecordSearch searchRecords(const std::optional<QString>& name, const QStringList& records)
+RecordSearch searchRecords(const std::optional<QString> &name, const QStringList &records)
 {
     RecordSearch search;
-    for (const QString& record : records) {
+    for (const QString &record : records) {
         if (record.isEmpty())
             continue;
         const ParsedJson parsed = parseJson(record);
@@ -50,8 +50,8 @@ QString notFoundApnTemplate()
         R"("ipv6_prefer_dns": "","ipv6_standby_dns": ""})");
 }
 
-DefaultApn chooseDefaultApn(const std::optional<QString>& name, const QStringList& webDefaults,
-                            const QStringList& records)
+DefaultApn chooseDefaultApn(const std::optional<QString> &name, const QStringList &webDefaults,
+                            const QStringList &records)
 {
     const bool isNamed = name && !name->isEmpty();
     const auto position = static_cast<int>(isNamed ? webDefaults.indexOf(*name) : -1);

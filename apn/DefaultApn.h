@@ -28,7 +28,7 @@ struct DefaultApn {
 /// @param name         the modem's default; nil and empty mean that it names none
 /// @param webDefaults  the names of the modem's own access points, in the order of their indexes
 /// @param records      the records that were sent, JSON objects
-DefaultApn chooseDefaultApn(const std::optional<QString>& name, const QStringList& webDefaults,
-                            const QStringList& records);
+DefaultApn chooseDefaultApn(const std::optional<QString> &name, const QStringList &webDefaults,
+                            const QStringList &records);
 
 } // namespace tarvo

@@ -21,14 +21,14 @@ QStringList webDefaultNames()
     return names ? names->split(u';') : QStringList();
 }
 
-qsizetype elementCount(const QJsonValue& value)
+qsizetype elementCount(const QJsonValue &value)
 {
     return value.isArray() ? value.toArray().size() : value.toObject().size();
 }
 
 } // namespace
 
-bool MainController::setApn(const QString& record)
+bool MainController::setApn(const QString &record)
 {
     if (!setWebRequestWithId(QStringLiteral("ADD_APN&apn=") + record))
         return false;
@@ -75,19 +75,18 @@ void MainController::setOnline()
         setWebRequestWithId(QStringLiteral("SET_ONLINE_MODE"));
 }
 
-int MainController::getDefaultApnIndex(const std::optional<QStringList>& records)
+int MainController::getDefaultApnIndex(const std::optional<QStringList> &records)
 {
     const auto answer = getWebRequestContent(QStringLiteral("pc_default_profilename&multi_data=1"));
     const auto name = getModemInfoFromKeyForWeb5(QStringLiteral("pc_default_profilename\":"), answer);
     log(QStringLiteral("pc_default_profilename:") + name.value_or(QStringLiteral("(null)")));
 
     const DefaultApn choice = chooseDefaultApn(name, webDefaultNames(), records.value_or(QStringList()));
-    for (const QString& problem : choice.problems)
+    for (const QString &problem : choice.problems)
         log(problem);
     if (choice.isUnknown)
         whileAttached([&] {
-            notFoundDefaultApn_.set(
-                notFoundDefaultApn_.get().replace(QStringLiteral("PC_PROFILE_NAME"), *name));
+            notFoundDefaultApn_.set(notFoundDefaultApn_.get().replace(QStringLiteral("PC_PROFILE_NAME"), *name));
         });
     return choice.index;
 }
@@ -135,7 +134,7 @@ void MainController::setAllApnFromPC()
     std::optional<QStringList> records;
     if (const auto total = getParsedApnContentFromTotalProfile(services_.systemLog))
         records = getValidParsedContentFromApnProfiles(*total, services_.systemLog, stop);
-    for (const QString& record : records.value_or(QStringList())) {
+    for (const QString &record : records.value_or(QStringList())) {
         if (stop.stop_requested())
             return;
         setApn(record);

@@ -4,7 +4,7 @@
 
 namespace tarvo {
 
-std::optional<QString> decryptApnFile(const QString& path)
+std::optional<QString> decryptApnFile(const QString &path)
 {
     const ProfileBytes file = readProfileBytes(path);
     if (!file.bytes)
@@ -17,7 +17,7 @@ std::optional<PlainBlock> decrypt(ProfileBlock block)
     return builtInProfileKey().decrypt(block);
 }
 
-std::optional<QString> getFileNameFromAbsolutePath(const QString& path)
+std::optional<QString> getFileNameFromAbsolutePath(const QString &path)
 {
     const QString name = path.section(u'/', -1, -1, QString::SectionSkipEmpty);
     const qsizetype dot = name.lastIndexOf(u'.');
@@ -27,7 +27,7 @@ std::optional<QString> getFileNameFromAbsolutePath(const QString& path)
     return found > 0 ? std::optional(name.first(found - 1)) : std::nullopt;
 }
 
-std::strong_ordering compareString(const QString& a, const QString& b)
+std::strong_ordering compareString(const QString &a, const QString &b)
 {
     return a.compare(b) <=> 0;
 }

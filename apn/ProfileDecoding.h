@@ -12,7 +12,7 @@ namespace tarvo {
 /// @return the decoded text of the profile at @p path; empty when the file is missing, unreadable or empty;
 /// nil
 ///         when it is damaged
-std::optional<QString> decryptApnFile(const QString& path);
+std::optional<QString> decryptApnFile(const QString &path);
 
 /// Decodes one block with the built-in key.
 /// @return its plain text, zero-terminated; nil when it does not decode
@@ -21,9 +21,9 @@ std::optional<PlainBlock> decrypt(ProfileBlock block);
 /// Cuts the last component of @p path before its extension. The cut is made one character before the
 /// extension's first occurrence in the name, not before the last: `profxml.xml` gives `pro`.
 /// @return nil when there is no such place: no extension, or a name that starts with it
-std::optional<QString> getFileNameFromAbsolutePath(const QString& path);
+std::optional<QString> getFileNameFromAbsolutePath(const QString &path);
 
 /// Orders texts by their code units, upper-case letters before lower-case ones.
-std::strong_ordering compareString(const QString& a, const QString& b);
+std::strong_ordering compareString(const QString &a, const QString &b);
 
 } // namespace tarvo

@@ -17,13 +17,13 @@ namespace {
 constexpr auto recordSize = static_cast<qsizetype>(profileRecordSize);
 constexpr auto blockSize = static_cast<qsizetype>(profileBlockSize);
 
-ProfileBytes unreadable(const std::error_code& error)
+ProfileBytes unreadable(const std::error_code &error)
 {
     return {std::nullopt, QStringLiteral("it cannot be read: ") + QString::fromStdString(error.message())};
 }
 
 /// @return the text up to the first zero byte; nil when it is no UTF-8
-std::optional<QString> textOf(const PlainBlock& plain)
+std::optional<QString> textOf(const PlainBlock &plain)
 {
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
@@ -47,7 +47,7 @@ std::optional<ProfileBlock> CipherInputs::at(qsizetype record)
     const bool cutsBlock = m_lastLineEnd >= record && m_lastLineEnd - record < blockSize;
     if (cutsBlock && m_file.sliced(record, m_textEnd - record).isValidUtf8())
         return std::nullopt;
-    const auto* bytes = reinterpret_cast<const unsigned char*>(m_file.data()) + record;
+    const auto *bytes = reinterpret_cast<const unsigned char *>(m_file.data()) + record;
     return ProfileBlock(bytes, profileBlockSize);
 }
 
@@ -61,7 +61,7 @@ void CipherInputs::findTextFrom(qsizetype record)
     m_lastLineEnd = lineEnd < 0 ? -1 : record + lineEnd;
 }
 
-ProfileBytes readProfileBytes(const QString& path)
+ProfileBytes readProfileBytes(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     std::error_code error;
@@ -84,7 +84,7 @@ ProfileBytes readProfileBytes(const QString& path)
     return {std::move(bytes), {}};
 }
 
-ProfileText decodeProfile(QByteArrayView file, const ProfileKey& key)
+ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key)
 {
     if (file.size() % recordSize != 0)
         return {std::nullopt, QStringLiteral("its length is no multiple of %1 bytes").arg(recordSize)};
@@ -103,7 +103,7 @@ ProfileText decodeProfile(QByteArrayView file, const ProfileKey& key)
     return {std::move(text), {}};
 }
 
-ProfileText readProfile(const QString& path, const ProfileKey& key)
+ProfileText readProfile(const QString &path, const ProfileKey &key)
 {
     const ProfileBytes file = readProfileBytes(path);
     if (!file.bytes)

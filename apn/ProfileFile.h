@@ -46,12 +46,12 @@ private:
 };
 
 /// Reads the regular file at @p path, links followed, whole. Never waits for a writer, as on a FIFO.
-ProfileBytes readProfileBytes(const QString& path);
+ProfileBytes readProfileBytes(const QString &path);
 
 /// Decodes the records in @p file, each by itself, and joins their texts.
-ProfileText decodeProfile(QByteArrayView file, const ProfileKey& key);
+ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key);
 
 /// Reads and decodes the file at @p path.
-ProfileText readProfile(const QString& path, const ProfileKey& key);
+ProfileText readProfile(const QString &path, const ProfileKey &key);
 
 } // namespace tarvo

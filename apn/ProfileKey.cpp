@@ -16,7 +16,7 @@ namespace tarvo {
 namespace {
 
 struct ContextDeleter {
-    void operator()(EVP_PKEY_CTX* context) const { EVP_PKEY_CTX_free(context); }
+    void operator()(EVP_PKEY_CTX *context) const { EVP_PKEY_CTX_free(context); }
 };
 using Context = std::unique_ptr<EVP_PKEY_CTX, ContextDeleter>;
 
@@ -25,11 +25,11 @@ class ErrorMark {
 public:
     ErrorMark() { ERR_set_mark(); }
     ~ErrorMark() { ERR_pop_to_mark(); }
-    ErrorMark(const ErrorMark&) = delete;
-    ErrorMark& operator=(const ErrorMark&) = delete;
+    ErrorMark(const ErrorMark &) = delete;
+    ErrorMark &operator=(const ErrorMark &) = delete;
 };
 
-Context recoveryContext(EVP_PKEY* key)
+Context recoveryContext(EVP_PKEY *key)
 {
     Context context(EVP_PKEY_CTX_new(key, nullptr));
     if (!context || EVP_PKEY_verify_recover_init(context.get()) <= 0
@@ -48,11 +48,9 @@ ProfileKey::ProfileKey(std::shared_ptr<EVP_PKEY> key)
 std::optional<ProfileKey> ProfileKey::fromDer(QByteArrayView der)
 {
     const ErrorMark mark;
-    const auto* bytes = reinterpret_cast<const unsigned char*>(der.data());
-    const std::shared_ptr<EVP_PKEY> key(d2i_PUBKEY(nullptr, &bytes, static_cast<long>(der.size())),
-                                        EVP_PKEY_free);
-    if (!key || !EVP_PKEY_is_a(key.get(), "RSA")
-        || EVP_PKEY_get_size(key.get()) != static_cast<int>(profileBlockSize))
+    const auto *bytes = reinterpret_cast<const unsigned char *>(der.data());
+    const std::shared_ptr<EVP_PKEY> key(d2i_PUBKEY(nullptr, &bytes, static_cast<long>(der.size())), EVP_PKEY_free);
+    if (!key || !EVP_PKEY_is_a(key.get(), "RSA") || EVP_PKEY_get_size(key.get()) != static_cast<int>(profileBlockSize))
         return std::nullopt;
     return ProfileKey(key);
 }
@@ -63,15 +61,14 @@ std::optional<PlainBlock> ProfileKey::decrypt(ProfileBlock block) const
     const Context context = recoveryContext(m_key.get());
     std::array<unsigned char, profileBlockSize> plain;
     std::size_t size = plain.size();
-    if (!context
-        || EVP_PKEY_verify_recover(context.get(), plain.data(), &size, block.data(), block.size()) <= 0)
+    if (!context || EVP_PKEY_verify_recover(context.get(), plain.data(), &size, block.data(), block.size()) <= 0)
         return std::nullopt;
     PlainBlock text{};
     std::copy_n(plain.begin(), std::min(size, maximumBlockTextSize), text.begin());
     return text;
 }
 
-const ProfileKey& builtInProfileKey()
+const ProfileKey &builtInProfileKey()
 {
     static const std::optional<ProfileKey> key =
         ProfileKey::fromDer(QByteArrayView(profilePublicKey, sizeof profilePublicKey));

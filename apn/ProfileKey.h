@@ -40,6 +40,6 @@ private:
 };
 
 /// The key that is built into the program, read once.
-const ProfileKey& builtInProfileKey();
+const ProfileKey &builtInProfileKey();
 
 } // namespace tarvo

@@ -21,7 +21,7 @@ public:
     }
 
     /// @param folder  with its trailing slash
-    void list(const QString& folder, int depth)
+    void list(const QString &folder, int depth)
     {
         if (depth > maximumDepth)
             return skip(folder, QStringLiteral("it lies too deep"));
@@ -39,7 +39,7 @@ public:
     ProfileListing takeListing() { return std::move(m_listing); }
 
 private:
-    void add(const QString& folder, const fs::directory_entry& entry, int depth)
+    void add(const QString &folder, const fs::directory_entry &entry, int depth)
     {
         std::error_code error; // what cannot be told of an entry shows when it is read
         const QString path = folder + QFile::decodeName(entry.path().filename().c_str());
@@ -52,10 +52,7 @@ private:
             list(path + u'/', depth + 1);
     }
 
-    void skip(const QString& path, const QString& problem)
-    {
-        m_listing.problems.append(skippedLine(path, problem));
-    }
+    void skip(const QString &path, const QString &problem) { m_listing.problems.append(skippedLine(path, problem)); }
 
     std::stop_token m_stop;
     ProfileListing m_listing;
@@ -63,12 +60,12 @@ private:
 
 } // namespace
 
-QString skippedLine(const QString& path, const QString& problem)
+QString skippedLine(const QString &path, const QString &problem)
 {
     return QStringLiteral("%1 is skipped: %2").arg(path, problem);
 }
 
-ProfileListing listProfiles(const QString& root, const std::stop_token& stop)
+ProfileListing listProfiles(const QString &root, const std::stop_token &stop)
 {
     Lister lister(stop);
     lister.list(root, 0);

@@ -15,12 +15,12 @@ struct ProfileListing {
 
 /// The line that says that the thing at @p path is passed over.
 /// @param problem  why, as the end of a sentence
-QString skippedLine(const QString& path, const QString& problem);
+QString skippedLine(const QString &path, const QString &problem);
 
 /// Lists the profiles below @p root, sub-folders included. Links to folders are not followed, and folders
 /// that lie unreasonably deep are passed over.
 /// @param root  with its trailing slash; it need not exist
 /// @param stop  ends the listing early, with what has been found so far
-ProfileListing listProfiles(const QString& root, const std::stop_token& stop);
+ProfileListing listProfiles(const QString &root, const std::stop_token &stop);
 
 } // namespace tarvo

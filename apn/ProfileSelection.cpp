@@ -14,12 +14,12 @@
 
 namespace tarvo {
 
-const char* APN_ROOT = defaultProfileFolder;
-const char* APN_TOTAL_PROFILE = defaultTotalProfile;
+const char *APN_ROOT = defaultProfileFolder;
+const char *APN_TOTAL_PROFILE = defaultTotalProfile;
 
 namespace {
 
-std::optional<QString> readOrSkip(const QString& path, SystemLog& systemLog)
+std::optional<QString> readOrSkip(const QString &path, SystemLog &systemLog)
 {
     const ProfileText profile = readProfile(path, builtInProfileKey());
     if (!profile.text)
@@ -28,10 +28,10 @@ std::optional<QString> readOrSkip(const QString& path, SystemLog& systemLog)
 }
 
 /// @return the paths of all profiles but the list itself
-QStringList candidates(SystemLog& systemLog, const std::stop_token& stop)
+QStringList candidates(SystemLog &systemLog, const std::stop_token &stop)
 {
     ProfileListing listing = listProfiles(QString::fromUtf8(APN_ROOT), stop);
-    for (const QString& problem : listing.problems)
+    for (const QString &problem : listing.problems)
         systemLog.write(problem);
     listing.profiles.removeAll(QString::fromUtf8(APN_TOTAL_PROFILE));
     return listing.profiles;
@@ -39,7 +39,7 @@ QStringList candidates(SystemLog& systemLog, const std::stop_token& stop)
 
 } // namespace
 
-std::optional<QString> getParsedApnContentFromTotalProfile(SystemLog& systemLog)
+std::optional<QString> getParsedApnContentFromTotalProfile(SystemLog &systemLog)
 {
     const QString path = QString::fromUtf8(APN_TOTAL_PROFILE);
     if (!QFile::exists(path)) {
@@ -49,8 +49,8 @@ std::optional<QString> getParsedApnContentFromTotalProfile(SystemLog& systemLog)
     return readOrSkip(path, systemLog);
 }
 
-QStringList getValidParsedContentFromApnProfiles(const QString& totalProfile, SystemLog& systemLog,
-                                                 const std::stop_token& stop)
+QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, SystemLog &systemLog,
+                                                 const std::stop_token &stop)
 {
     const QStringList names = totalProfile.split(u'*');
     const QSet<QString> allowed(names.begin(), names.end());
@@ -59,7 +59,7 @@ QStringList getValidParsedContentFromApnProfiles(const QString& totalProfile, Sy
         systemLog.write(QStringLiteral("can not find *.xml files!"));
 
     QStringList result;
-    for (const QString& path : paths) {
+    for (const QString &path : paths) {
         if (stop.stop_requested())
             break;
         const auto base = getFileNameFromAbsolutePath(path);
@@ -73,7 +73,7 @@ QStringList getValidParsedContentFromApnProfiles(const QString& totalProfile, Sy
     return result;
 }
 
-qint32 checkDefaultApn(const std::optional<QString>& name, QStringList& names)
+qint32 checkDefaultApn(const std::optional<QString> &name, QStringList &names)
 {
     const QStringList copy = names;
     const auto count = static_cast<qint32>(names.size());
@@ -82,8 +82,7 @@ qint32 checkDefaultApn(const std::optional<QString>& name, QStringList& names)
     if (!name || name->isEmpty())
         return 0;
     names.append(*name);
-    std::sort(names.begin(), names.end(),
-              [](const QString& a, const QString& b) { return compareString(a, b) < 0; });
+    std::sort(names.begin(), names.end(), [](const QString &a, const QString &b) { return compareString(a, b) < 0; });
     const auto i = static_cast<qint32>(names.indexOf(*name));
     const qint32 j = i < count ? i + 1 : 0;
     const auto k = static_cast<qint32>(copy.indexOf(names[j]));

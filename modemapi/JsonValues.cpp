@@ -9,7 +9,7 @@ namespace tarvo {
 
 namespace {
 
-qint64 integerFromText(const QString& text)
+qint64 integerFromText(const QString &text)
 {
     constexpr qint64 largest = std::numeric_limits<qint64>::max();
     const QString number = text.trimmed();
@@ -24,7 +24,7 @@ qint64 integerFromText(const QString& text)
     return negative ? -value : value;
 }
 
-qint64 integerFromNumber(const QJsonValue& value)
+qint64 integerFromNumber(const QJsonValue &value)
 {
     constexpr double limit = 9223372036854775808.0; // 2^63, the first that does not fit
     const double number = value.toDouble();
@@ -35,7 +35,7 @@ qint64 integerFromNumber(const QJsonValue& value)
 
 } // namespace
 
-ParsedJson parseJson(const QString& text)
+ParsedJson parseJson(const QString &text)
 {
     QJsonParseError error;
     QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
@@ -44,7 +44,7 @@ ParsedJson parseJson(const QString& text)
     return {std::move(document), {}};
 }
 
-qint64 integerValue(const QJsonValue& value)
+qint64 integerValue(const QJsonValue &value)
 {
     if (value.isString())
         return integerFromText(value.toString());

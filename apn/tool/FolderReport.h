@@ -14,6 +14,6 @@ struct FolderReport {
 };
 
 /// Reads @p folder, whose list is its `profile.xml`, the way the companion does.
-FolderReport reportFolder(const QString& folder, const ProfileKey& key);
+FolderReport reportFolder(const QString &folder, const ProfileKey &key);
 
 } // namespace tarvo

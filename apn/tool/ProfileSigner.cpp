@@ -23,11 +23,11 @@ Bio reader(QByteArrayView bytes)
     return Bio(BIO_new_mem_buf(bytes.data(), static_cast<int>(bytes.size())), BIO_free);
 }
 
-QByteArray publicDer(const EVP_PKEY* key)
+QByteArray publicDer(const EVP_PKEY *key)
 {
-    unsigned char* bytes = nullptr;
+    unsigned char *bytes = nullptr;
     const int size = i2d_PUBKEY(key, &bytes);
-    const QByteArray der(reinterpret_cast<const char*>(bytes), qMax(size, 0));
+    const QByteArray der(reinterpret_cast<const char *>(bytes), qMax(size, 0));
     OPENSSL_free(bytes);
     return der;
 }
@@ -70,15 +70,14 @@ std::optional<QByteArray> ProfileSigner::makeRecord(QByteArrayView plain) const
     std::size_t size = profileBlockSize;
     if (!context || EVP_PKEY_sign_init(context.get()) <= 0
         || EVP_PKEY_CTX_set_rsa_padding(context.get(), RSA_PKCS1_PADDING) <= 0
-        || EVP_PKEY_sign(context.get(), reinterpret_cast<unsigned char*>(block.data()), &size,
-                         reinterpret_cast<const unsigned char*>(plain.data()),
-                         static_cast<std::size_t>(plain.size()))
+        || EVP_PKEY_sign(context.get(), reinterpret_cast<unsigned char *>(block.data()), &size,
+                         reinterpret_cast<const unsigned char *>(plain.data()), static_cast<std::size_t>(plain.size()))
             <= 0)
         return std::nullopt;
     return block + "\r\n";
 }
 
-std::optional<QByteArray> ProfileSigner::pack(const QString& text) const
+std::optional<QByteArray> ProfileSigner::pack(const QString &text) const
 {
     const QByteArray utf8 = text.toUtf8();
     QByteArray file;

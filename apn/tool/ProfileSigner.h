@@ -28,7 +28,7 @@ public:
 
     /// Makes a whole profile. Records end between characters, because each is read as a text of its own.
     /// @return nil when it would not be read back as @p text
-    std::optional<QByteArray> pack(const QString& text) const;
+    std::optional<QByteArray> pack(const QString &text) const;
 
 private:
     explicit ProfileSigner(std::shared_ptr<EVP_PKEY> key);

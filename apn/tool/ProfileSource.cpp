@@ -32,7 +32,7 @@ constexpr std::array recordKeys = {
     RecordKey{u"ipv6_prefer_dns", Kind::Text}, RecordKey{u"ipv6_standby_dns", Kind::Text},
 };
 
-bool isInteger(const QJsonValue& value)
+bool isInteger(const QJsonValue &value)
 {
     static const QRegularExpression integer(QStringLiteral("^-?[0-9]+$"));
     if (value.isString())
@@ -40,7 +40,7 @@ bool isInteger(const QJsonValue& value)
     return value.isDouble() && value.toInteger(0) == value.toInteger(1);
 }
 
-QString keyProblem(const QJsonObject& record, const RecordKey& key)
+QString keyProblem(const QJsonObject &record, const RecordKey &key)
 {
     const QJsonValue value = record.value(key.name);
     if (value.isUndefined())
@@ -52,18 +52,17 @@ QString keyProblem(const QJsonObject& record, const RecordKey& key)
     return {};
 }
 
-bool isKnown(const QString& name)
+bool isKnown(const QString &name)
 {
-    return std::any_of(recordKeys.begin(), recordKeys.end(),
-                       [&](const RecordKey& key) { return key.name == name; });
+    return std::any_of(recordKeys.begin(), recordKeys.end(), [&](const RecordKey &key) { return key.name == name; });
 }
 
-QStringList keyProblems(const QJsonObject& record)
+QStringList keyProblems(const QJsonObject &record)
 {
     QStringList problems;
-    for (const RecordKey& key : recordKeys)
+    for (const RecordKey &key : recordKeys)
         problems.append(keyProblem(record, key));
-    for (const QString& name : record.keys()) {
+    for (const QString &name : record.keys()) {
         if (!isKnown(name))
             problems.append(QStringLiteral("key \"%1\" is unknown").arg(name));
     }
@@ -74,7 +73,7 @@ QStringList keyProblems(const QJsonObject& record)
 }
 
 /// A record goes to the modem inside a form (HTML, URL-encoded form data), where these have a meaning.
-QStringList formProblems(const QString& record)
+QStringList formProblems(const QString &record)
 {
     QStringList problems;
     for (const QChar reserved : QStringView(u"&+%")) {
@@ -86,19 +85,19 @@ QStringList formProblems(const QString& record)
     return problems;
 }
 
-QString withoutLineBreaks(const QString& json)
+QString withoutLineBreaks(const QString &json)
 {
     QString line; // JSON texts and numbers never go over a line's end
-    for (const QString& piece : json.split(u'\n'))
+    for (const QString &piece : json.split(u'\n'))
         line += piece.trimmed();
     return line;
 }
 
-ProfileSource nameList(const QJsonArray& values)
+ProfileSource nameList(const QJsonArray &values)
 {
     ProfileSource source{{}, true};
     QStringList names;
-    for (const QJsonValue& value : values) {
+    for (const QJsonValue &value : values) {
         if (!value.isString())
             source.problems.append(QStringLiteral("the list holds something that is no text"));
         names.append(value.toString());
@@ -114,7 +113,7 @@ ProfileSource nameList(const QJsonArray& values)
 
 } // namespace
 
-QStringList recordProblems(const QString& record)
+QStringList recordProblems(const QString &record)
 {
     const ParsedJson parsed = parseJson(record);
     if (!parsed.document)
@@ -124,7 +123,7 @@ QStringList recordProblems(const QString& record)
     return keyProblems(parsed.document->object()) + formProblems(record);
 }
 
-QStringList nameProblems(const QString& name)
+QStringList nameProblems(const QString &name)
 {
     if (name.isEmpty())
         return {QStringLiteral("a name is empty")};
@@ -135,7 +134,7 @@ QStringList nameProblems(const QString& name)
     return {};
 }
 
-ProfileSource readSource(const QString& json)
+ProfileSource readSource(const QString &json)
 {
     const ParsedJson parsed = parseJson(json);
     if (parsed.document && parsed.document->isArray())

@@ -25,19 +25,19 @@ const QString keyOption = QStringLiteral("key");
 const QString publicKeyOption = QStringLiteral("public-key");
 const QString outputOption = QStringLiteral("output");
 
-void print(std::FILE* stream, const QString& line)
+void print(std::FILE *stream, const QString &line)
 {
     QTextStream(stream) << line << Qt::endl;
 }
 
-int fail(const QString& subject, const QString& problem, int code = failed)
+int fail(const QString &subject, const QString &problem, int code = failed)
 {
     print(stderr, QStringLiteral("tarvo-profile: %1: %2").arg(subject, problem));
     return code;
 }
 
 /// @return the file's bytes; nil, with a message, when it cannot be read
-std::optional<QByteArray> readFile(const QString& path)
+std::optional<QByteArray> readFile(const QString &path)
 {
     ProfileBytes file = readProfileBytes(path);
     if (!file.bytes)
@@ -45,7 +45,7 @@ std::optional<QByteArray> readFile(const QString& path)
     return std::move(file.bytes);
 }
 
-int writeFile(const QString& path, const QByteArray& bytes)
+int writeFile(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
@@ -54,7 +54,7 @@ int writeFile(const QString& path, const QByteArray& bytes)
 }
 
 /// @return what is wrong with @p path as the place for @p source; empty when nothing is
-QString placeProblem(const QString& path, const ProfileSource& source)
+QString placeProblem(const QString &path, const ProfileSource &source)
 {
     const QString name = QFileInfo(path).fileName();
     if (source.isNameList != (name == u"profile.xml"))
@@ -64,7 +64,7 @@ QString placeProblem(const QString& path, const ProfileSource& source)
     return nameProblems(name.chopped(4)).join(u"; ");
 }
 
-int pack(const QCommandLineParser& arguments, const QString& path)
+int pack(const QCommandLineParser &arguments, const QString &path)
 {
     const QString keyPath = arguments.value(keyOption);
     const QString output = arguments.value(outputOption);
@@ -81,7 +81,7 @@ int pack(const QCommandLineParser& arguments, const QString& path)
     if (!json->isValidUtf8())
         return fail(path, QStringLiteral("it is no UTF-8"));
     const ProfileSource source = readSource(QString::fromUtf8(*json));
-    for (const QString& problem : source.problems)
+    for (const QString &problem : source.problems)
         fail(path, problem);
     if (!source.problems.isEmpty())
         return failed;
@@ -92,7 +92,7 @@ int pack(const QCommandLineParser& arguments, const QString& path)
                    : fail(path, QStringLiteral("it would not be read back; is it too long?"));
 }
 
-std::optional<ProfileKey> publicKey(const QCommandLineParser& arguments)
+std::optional<ProfileKey> publicKey(const QCommandLineParser &arguments)
 {
     const QString path = arguments.value(publicKeyOption);
     if (path.isEmpty())
@@ -106,7 +106,7 @@ std::optional<ProfileKey> publicKey(const QCommandLineParser& arguments)
     return key;
 }
 
-int unpack(const QCommandLineParser& arguments, const QString& path)
+int unpack(const QCommandLineParser &arguments, const QString &path)
 {
     const auto key = publicKey(arguments);
     if (!key)
@@ -121,7 +121,7 @@ int unpack(const QCommandLineParser& arguments, const QString& path)
     return inOrder;
 }
 
-int check(const QCommandLineParser& arguments, const QString& path)
+int check(const QCommandLineParser &arguments, const QString &path)
 {
     const auto key = publicKey(arguments);
     if (!key)
@@ -129,33 +129,31 @@ int check(const QCommandLineParser& arguments, const QString& path)
     if (!QFileInfo(path).isDir())
         return fail(path, QStringLiteral("it is no folder"));
     const FolderReport report = reportFolder(path, *key);
-    for (const QString& line : report.lines)
+    for (const QString &line : report.lines)
         print(stdout, line);
     return report.isInOrder ? inOrder : failed;
 }
 
-void describe(QCommandLineParser& parser)
+void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(
-        QStringLiteral("Makes and reads access-point profiles.\n\n"
-                       "  pack FILE     makes a profile of a JSON file\n"
-                       "  unpack FILE   shows a profile's text\n"
-                       "  check DIR     says what the companion makes of a folder"));
+    parser.setApplicationDescription(QStringLiteral("Makes and reads access-point profiles.\n\n"
+                                                    "  pack FILE     makes a profile of a JSON file\n"
+                                                    "  unpack FILE   shows a profile's text\n"
+                                                    "  check DIR     says what the companion makes of a folder"));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption({keyOption, QStringLiteral("Private key to pack with, PEM."), QStringLiteral("file")});
     parser.addOption({publicKeyOption,
                       QStringLiteral("Public key to read with, PEM; the companion's own when not given."),
                       QStringLiteral("file")});
-    parser.addOption(
-        {{QStringLiteral("o"), outputOption}, QStringLiteral("File to write."), QStringLiteral("file")});
+    parser.addOption({{QStringLiteral("o"), outputOption}, QStringLiteral("File to write."), QStringLiteral("file")});
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack, unpack or check"));
     parser.addPositionalArgument(QStringLiteral("path"), QStringLiteral("What to work on."));
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
