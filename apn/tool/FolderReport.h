@@ -1,0 +1,19 @@
+#pragma once
+
+#include "apn/ProfileKey.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace tarvo {
+
+/// What the companion would make of a profile folder.
+struct FolderReport {
+    QStringList lines; ///< one for each file, and one for each name without a file
+    bool isInOrder = true;
+};
+
+/// Reads @p folder, whose list is its `profile.xml`, the way the companion does.
+FolderReport reportFolder(const QString &folder, const ProfileKey &key);
+
+} // namespace tarvo
