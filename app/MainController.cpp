@@ -9,9 +9,7 @@
 #include "ui/BalloonPresenter.h"
 #include "ui/CustomView.h"
 
-#include <QFileInfo>
 #include <QMessageBox>
-#include <QMetaObject>
 #include <QTimer>
 
 #include <utility>
@@ -162,11 +160,10 @@ bool MainController::whileAttached(const std::function<void()> &step)
 
 void MainController::onMainThread(std::function<void()> step)
 {
-    auto posted = [stop = WorkScope::current(), step = std::move(step)] {
+    mainThread_.post([stop = WorkScope::current(), step = std::move(step)] {
         if (!stop.stop_requested())
             step();
-    };
-    QMetaObject::invokeMethod(&mainThread_, std::move(posted), Qt::QueuedConnection);
+    });
 }
 
 void MainController::endAttachment()

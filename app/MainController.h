@@ -9,9 +9,9 @@
 #include "app/WorkScope.h"
 #include "modemapi/HttpClient.h"
 #include "monitor/FirmwareCheck.h"
+#include "platform/StepQueue.h"
 
 #include <QByteArray>
-#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -251,7 +251,7 @@ private:
     void setStatusToolTip(const QString &toolTip);
 
     Services services_;
-    QObject mainThread_; ///< receives the steps that other threads post
+    StepQueue mainThread_; ///< receives the steps that other threads post
     ModemState state_;
 
     std::unique_ptr<RouterObserver> routerObserver_;

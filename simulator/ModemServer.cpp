@@ -1,7 +1,9 @@
 #include "simulator/ModemServer.h"
 
+#include "platform/StepQueue.h"
 #include "simulator/ModemListener.h"
 
+#include <QEventLoop>
 #include <QMap>
 
 namespace tarvo {
@@ -28,21 +30,40 @@ std::optional<FaultKind> faultKind(const QString &name)
 
 ModemServer::ModemServer(SimulatedModem &modem, const QHostAddress &address, quint16 port)
     : m_address(address)
-    , m_listener(new ModemListener(modem, address, port))
 {
-    m_thread.setObjectName(u"modem"_s);
-    m_listener->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, m_listener, &QObject::deleteLater);
-    m_thread.start();
-    QMetaObject::invokeMethod(
-        m_listener, [this] { m_error = m_listener->listen(); }, Qt::BlockingQueuedConnection);
-    m_port = m_listener->port();
+    std::promise<void> started;
+    m_thread = std::thread([&, port] { serve(modem, port, started); });
+    started.get_future().wait();
 }
 
 ModemServer::~ModemServer()
 {
-    m_thread.quit();
-    m_thread.wait();
+    m_steps->post([this] { m_loop->quit(); });
+    m_thread.join();
+}
+
+void ModemServer::serve(SimulatedModem &modem, quint16 port, std::promise<void> &started)
+{
+    ModemListener listener(modem, m_address, port);
+    StepQueue steps;
+    QEventLoop loop;
+    m_listener = &listener;
+    m_steps = &steps;
+    m_loop = &loop;
+    m_error = listener.listen();
+    m_port = listener.port();
+    started.set_value();
+    loop.exec();
+}
+
+void ModemServer::onThread(const std::function<void()> &step)
+{
+    std::promise<void> done;
+    m_steps->post([&] {
+        step();
+        done.set_value();
+    });
+    done.get_future().wait();
 }
 
 QString ModemServer::authority() const
@@ -52,8 +73,7 @@ QString ModemServer::authority() const
 
 void ModemServer::setFault(const ModemFault &fault)
 {
-    QMetaObject::invokeMethod(
-        m_listener, [&] { m_listener->setFault(fault); }, Qt::BlockingQueuedConnection);
+    onThread([&] { m_listener->setFault(fault); });
 }
 
 } // namespace tarvo

@@ -3,14 +3,19 @@
 #include <QByteArray>
 #include <QHostAddress>
 #include <QString>
-#include <QThread>
 
 #include <chrono>
+#include <functional>
+#include <future>
 #include <optional>
+#include <thread>
+
+class QEventLoop;
 
 namespace tarvo {
 
 class ModemListener;
+class StepQueue;
 class SimulatedModem;
 
 /// What a server does wrong.
@@ -59,11 +64,19 @@ public:
     void setFault(const ModemFault &fault);
 
 private:
+    /// The thread's body: listens, then serves until it is told to quit.
+    void serve(SimulatedModem &modem, quint16 port, std::promise<void> &started);
+    /// Runs @p step on the thread, and waits until it has.
+    void onThread(const std::function<void()> &step);
+
     QHostAddress m_address;
     quint16 m_port = 0;
     std::optional<QString> m_error;
-    QThread m_thread;
-    ModemListener *m_listener; ///< lives on the thread, and is deleted when that ends
+    /// These three live on the thread.
+    ModemListener *m_listener = nullptr;
+    StepQueue *m_steps = nullptr;
+    QEventLoop *m_loop = nullptr;
+    std::thread m_thread;
 };
 
 } // namespace tarvo
