@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <thread>
 
 using namespace tarvo;
@@ -18,10 +19,15 @@ namespace {
 
 /// The event loop that the server's thread needs.
 class Application : public testing::Environment {
+public:
+    void SetUp() override { m_application = std::make_unique<QCoreApplication>(m_argc, m_argv); }
+    void TearDown() override { m_application.reset(); }
+
+private:
     char m_name[6] = "tests";
     char *m_argv[2] = {m_name, nullptr};
     int m_argc = 1;
-    QCoreApplication m_application{m_argc, m_argv};
+    std::unique_ptr<QCoreApplication> m_application;
 };
 
 const auto *const application = testing::AddGlobalTestEnvironment(new Application);
