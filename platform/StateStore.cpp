@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <utility>
 
 namespace tarvo {
@@ -23,6 +25,18 @@ QString serviceInterfaceSetupKey(const QString &serviceID)
 
 namespace {
 
+/// @return text with which every key that matches @p pattern whole begins
+QStringView literalStart(const QString &pattern)
+{
+    static const QString special = QStringLiteral("\\^$.|?*+()[]{}");
+    if (pattern.contains(u'|'))
+        return {};
+    const auto end = std::ranges::find_if(pattern, [](QChar c) { return special.contains(c); });
+    const qsizetype length = std::distance(pattern.begin(), end);
+    const bool mayBeAbsent = end != pattern.end() && QStringLiteral("?*{").contains(*end);
+    return QStringView(pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
+}
+
 QRegularExpression wholeKey(const QString &pattern)
 {
     return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
@@ -38,6 +52,21 @@ QList<QRegularExpression> wholeKeys(const QStringList &patterns)
     QList<QRegularExpression> expressions;
     std::ranges::transform(patterns, std::back_inserter(expressions), wholeKey);
     return expressions;
+}
+
+/// Calls @p found with each entry whose whole key matches @p pattern, in key order. Looks only at the keys that begin
+/// like the pattern: most patterns are one key, or nearly so, in a state of thousands. A key matches itself, whatever
+/// its characters would mean in a pattern.
+void forEachMatch(const StateStore::Entries &entries, const QString &pattern,
+                  const std::function<void(const QString &key, const QVariantMap &value)> &found)
+{
+    const QStringView start = literalStart(pattern);
+    const QRegularExpression expression = wholeKey(pattern);
+    for (auto entry = entries.lowerBound(start.toString()); entry != entries.cend() && entry.key().startsWith(start);
+         ++entry) {
+        if (entry.key() == pattern || expression.match(entry.key()).hasMatch())
+            found(entry.key(), entry.value());
+    }
 }
 
 } // namespace
@@ -66,12 +95,10 @@ public:
 
     Entries copyMultiple(const QStringList &patterns) const override
     {
-        const auto expressions = wholeKeys(patterns);
         Entries copied;
-        for (const auto &[key, value] : m_store.m_entries.asKeyValueRange()) {
-            if (matchesAny(expressions, key))
-                copied.insert(key, value);
-        }
+        for (const QString &pattern : patterns)
+            forEachMatch(m_store.m_entries, pattern,
+                         [&](const QString &key, const QVariantMap &value) { copied.insert(key, value); });
         return copied;
     }
 
@@ -115,12 +142,8 @@ void StateStore::replaceEntries(Entries entries)
 
 void StateStore::announce(const QString &pattern)
 {
-    const auto expression = wholeKey(pattern);
     QStringList keys;
-    for (const auto &[key, value] : m_entries.asKeyValueRange()) {
-        if (expression.match(key).hasMatch())
-            keys.append(key);
-    }
+    forEachMatch(m_entries, pattern, [&](const QString &key, const QVariantMap &) { keys.append(key); });
     notify(keys);
 }
 

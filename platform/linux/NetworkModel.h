@@ -1,0 +1,94 @@
+#pragma once
+
+#include "platform/StateStore.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+#include <compare>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace tarvo {
+
+/// An IPv4 address of an interface, as the kernel tells one from another. Addresses are in host byte order.
+struct InterfaceAddress {
+    quint32 local = 0;
+    quint32 peer = 0; ///< the far end of a point-to-point link, else the same as `local`
+    quint8 prefixLength = 0;
+
+    auto operator<=>(const InterfaceAddress &) const = default;
+};
+
+/// One way out of a default route.
+struct NextHop {
+    int interfaceIndex = 0;
+    quint32 gateway = 0; ///< IPv4 address in host byte order; 0 when the route names none
+
+    bool operator==(const NextHop &) const = default;
+};
+
+/// An IPv4 default route; more than one next hop makes it a multipath route.
+struct DefaultRoute {
+    quint32 table = 0;
+    quint32 metric = 0; ///< the lower one is preferred
+    quint8 typeOfService = 0;
+    std::vector<NextHop> nextHops;
+
+    bool operator==(const DefaultRoute &) const = default;
+};
+
+/// The machine's links, IPv4 addresses and IPv4 default routes, kept up to date one kernel message at a time, and the
+/// store entries that follow from them.
+///
+/// The kernel does not say when routes leave with a link that goes down, with an address, or with a nexthop object,
+/// nor when they return with a link that comes up. The model drops what must be gone and otherwise marks its routes as
+/// uncertain: they are then to be read again.
+class NetworkModel {
+public:
+    void setLink(int index, const QString &name, bool up);
+    void removeLink(int index);
+    /// An address of a link that the model does not know is ignored: the link's own message is still to come.
+    void addAddress(int index, const InterfaceAddress &address);
+    void removeAddress(int index, const InterfaceAddress &address);
+    void addRoute(const DefaultRoute &route);
+    /// Puts @p route where the kernel had another one with the same table, metric and type of service.
+    void replaceRoute(const DefaultRoute &route);
+    void removeRoute(const DefaultRoute &route);
+
+    void setRoutesUncertain() { m_routesUncertain = true; }
+    void setRoutesCertain() { m_routesUncertain = false; }
+    bool areRoutesUncertain() const { return m_routesUncertain; }
+    /// Takes the routes of @p read, a model into which all routes have just been read, for certain.
+    void takeRoutes(NetworkModel read);
+
+    /// @return the indexes of the links that were removed since the last call
+    QSet<int> takeRemovedLinks() { return std::exchange(m_removedLinks, {}); }
+
+    /// @return the index of each link, by name
+    QHash<QString, int> interfaceIndexes() const;
+
+    /// @return the store entries as if the links named @p hidden were not there
+    StateStore::Entries entries(const QSet<QString> &hidden = {}) const;
+
+private:
+    struct Link {
+        QString name;
+        bool up = false;
+        std::set<InterfaceAddress> addresses;
+    };
+
+    std::vector<DefaultRoute>::iterator onlyRouteLike(const DefaultRoute &route);
+    void dropRoutesOf(int index);
+    QHash<int, QString> routers() const;
+
+    std::map<int, Link> m_links;
+    std::vector<DefaultRoute> m_routes;
+    bool m_routesUncertain = false;
+    QSet<int> m_removedLinks;
+};
+
+} // namespace tarvo

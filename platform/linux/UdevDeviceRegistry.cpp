@@ -1,0 +1,164 @@
+#include "platform/linux/UdevDeviceRegistry.h"
+
+#include <libudev.h>
+
+#include <utility>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <auto Release>
+struct Releaser {
+    void operator()(auto *object) const { Release(object); }
+};
+using Device = std::unique_ptr<udev_device, Releaser<udev_device_unref>>;
+using Enumeration = std::unique_ptr<udev_enumerate, Releaser<udev_enumerate_unref>>;
+
+const QString vendorKey = u"idVendor"_s;
+const QString productKey = u"idProduct"_s;
+const QString nameKey = u"BSD Name"_s;
+
+std::optional<QVariant> usbNumber(udev_device *device, const char *attribute)
+{
+    const QByteArray text(udev_device_get_sysattr_value(device, attribute));
+    bool isNumber = false;
+    const qlonglong number = text.trimmed().toUShort(&isNumber, 16);
+    return isNumber ? std::optional<QVariant>(number) : std::nullopt;
+}
+
+/// Looks no further than the USB device: what is above that is a hub with numbers of its own.
+std::optional<QVariant> nearestUsbNumber(udev_device *device, const char *attribute)
+{
+    for (; device; device = udev_device_get_parent(device)) {
+        if (const auto number = usbNumber(device, attribute))
+            return number;
+        if (qstrcmp(udev_device_get_devtype(device), "usb_device") == 0)
+            break;
+    }
+    return std::nullopt;
+}
+
+QList<QByteArray> pathsOf(udev_enumerate *enumeration)
+{
+    QList<QByteArray> paths;
+    udev_list_entry *entry = nullptr;
+    udev_list_entry_foreach(entry, udev_enumerate_get_list_entry(enumeration))
+        paths.append(udev_list_entry_get_name(entry));
+    return paths;
+}
+
+std::optional<QVariant> interfaceNameBelow(udev *context, udev_device *device)
+{
+    const Enumeration below(udev_enumerate_new(context));
+    if (!below || udev_enumerate_add_match_parent(below.get(), device) < 0
+        || udev_enumerate_add_match_subsystem(below.get(), "net") < 0 || udev_enumerate_scan_devices(below.get()) < 0)
+        return std::nullopt;
+    const QList<QByteArray> paths = pathsOf(below.get());
+    if (paths.isEmpty())
+        return std::nullopt;
+    return QString::fromUtf8(paths.first().sliced(paths.first().lastIndexOf('/') + 1));
+}
+
+} // namespace
+
+UdevDeviceRegistry::UdevDeviceRegistry(std::function<int(const QString &name)> interfaceIndex)
+    : m_interfaceIndex(std::move(interfaceIndex))
+    , m_udev(udev_new(), &udev_unref)
+{
+}
+
+IOServiceHandle UdevDeviceRegistry::serviceMatchingBSDName(const QString &bsdName)
+{
+    const int index = m_interfaceIndex(bsdName);
+    if (index == 0 || !m_udev)
+        return 0;
+    auto known = m_handleOfInterface.constFind(index);
+    if (known == m_handleOfInterface.cend()) {
+        const std::optional<IOServiceHandle> read = readInterface(bsdName, index);
+        if (!read)
+            return 0;
+        known = m_handleOfInterface.insert(index, *read);
+    }
+    if (*known != 0)
+        m_interfaces[*known].insert(nameKey, bsdName);
+    return *known;
+}
+
+/// @return a new handle, or 0 for an interface that is no device; nil when sysfs does not show the interface under
+///         this name now
+std::optional<IOServiceHandle> UdevDeviceRegistry::readInterface(const QString &name, int index)
+{
+    const Device device(udev_device_new_from_subsystem_sysname(m_udev.get(), "net", name.toUtf8().constData()));
+    if (!device || QByteArray(udev_device_get_sysattr_value(device.get(), "ifindex")).trimmed().toInt() != index)
+        return std::nullopt;
+    if (!udev_device_get_parent(device.get()))
+        return 0;
+    Properties properties;
+    if (const auto vendor = nearestUsbNumber(device.get(), "idVendor"))
+        properties.insert(vendorKey, *vendor);
+    if (const auto product = nearestUsbNumber(device.get(), "idProduct"))
+        properties.insert(productKey, *product);
+    m_interfaces.insert(++m_lastHandle, properties);
+    return m_lastHandle;
+}
+
+void UdevDeviceRegistry::forgetInterface(int interfaceIndex)
+{
+    m_interfaces.remove(m_handleOfInterface.take(interfaceIndex));
+}
+
+std::optional<QList<IOServiceHandle>> UdevDeviceRegistry::servicesMatchingClass(const QByteArray &className)
+{
+    if (className != "IOUSBInterface" && className != "IOUSBHostInterface")
+        return QList<IOServiceHandle>{};
+    const Enumeration usb(m_udev ? udev_enumerate_new(m_udev.get()) : nullptr);
+    if (!usb || udev_enumerate_add_match_subsystem(usb.get(), "usb") < 0
+        || udev_enumerate_add_match_property(usb.get(), "DEVTYPE", "usb_interface") < 0
+        || udev_enumerate_scan_devices(usb.get()) < 0)
+        return std::nullopt;
+
+    const auto before = std::exchange(m_handleOfUsbInterface, {});
+    m_usbInterfaces.clear();
+    QList<IOServiceHandle> handles;
+    for (const QByteArray &path : pathsOf(usb.get())) {
+        const auto known = before.constFind(path);
+        const IOServiceHandle handle = known == before.cend() ? ++m_lastHandle : *known;
+        m_handleOfUsbInterface.insert(path, handle);
+        m_usbInterfaces.insert(handle, path);
+        handles.append(handle);
+    }
+    return handles;
+}
+
+std::optional<QVariant> UdevDeviceRegistry::searchProperty(IOServiceHandle service, const QString &key,
+                                                           RegistrySearch direction)
+{
+    const auto usbInterface = m_usbInterfaces.constFind(service);
+    if (usbInterface != m_usbInterfaces.cend())
+        return searchUsbInterface(*usbInterface, key, direction);
+
+    const Properties properties = m_interfaces.value(service);
+    const auto property = properties.constFind(key);
+    const bool isAbove = key != nameKey;
+    if (property == properties.cend() || (isAbove && direction == RegistrySearch::Downward))
+        return std::nullopt;
+    return *property;
+}
+
+std::optional<QVariant> UdevDeviceRegistry::searchUsbInterface(const QByteArray &path, const QString &key,
+                                                               RegistrySearch direction) const
+{
+    const Device device(udev_device_new_from_syspath(m_udev.get(), path.constData()));
+    if (!device)
+        return std::nullopt;
+    if (direction == RegistrySearch::Downward)
+        return key == nameKey ? interfaceNameBelow(m_udev.get(), device.get()) : std::nullopt;
+    if (key != vendorKey && key != productKey)
+        return std::nullopt;
+    return nearestUsbNumber(device.get(), key.toLatin1().constData());
+}
+
+} // namespace tarvo
