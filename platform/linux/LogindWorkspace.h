@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/Workspace.h"
+#include "platform/linux/LogindSleep.h"
+
+#include <utility>
+#include <vector>
+
+namespace tarvo {
+
+/// The freedesktop.org desktop: sleep and wake from logind, addresses and applications through the desktop's handlers.
+///
+/// Opening an address needs a QGuiApplication.
+class LogindWorkspace final : public Workspace {
+public:
+    /// @param busAddress  the system bus, usually `systemBusAddress()`
+    LogindWorkspace(const QString &busAddress, SystemLog &log);
+
+    void addSleepObserver(Handler willSleep, Handler didWake) override;
+    bool openURL(const QUrl &url) override;
+    /// @param path  an executable file, or the desktop file of an application
+    bool launchApplication(const QString &path) override;
+
+private:
+    std::vector<std::pair<Handler, Handler>> m_observers;
+    LogindSleep m_sleep;
+};
+
+} // namespace tarvo
