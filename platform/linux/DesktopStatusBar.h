@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/StatusBar.h"
+#include "platform/linux/NotifierHosts.h"
+#include "platform/linux/NotifierStatusBar.h"
+#include "platform/linux/XEmbedStatusBar.h"
+#include "platform/linux/XTrayWatcher.h"
+
+#include <memory>
+#include <optional>
+
+namespace tarvo {
+
+enum class BarKind {
+    None, ///< nothing shows items at present
+    Tray, ///< windows in a system tray of the X desktop
+    Notifier, ///< items of a StatusNotifierItem host
+};
+
+/// Chooses where items go. A tray is preferred, as it tells where the item is and when the pointer enters it, unless
+/// it only forwards what it is given to the host: then neither is true of it.
+BarKind chooseBar(bool hasTray, bool hosted, bool forwarded);
+
+/// The status bar of whatever desktop runs: at each time its items are in at most one of the two kinds of bar, and
+/// they follow when bars come, go or change kind.
+///
+/// A tray is taken to forward its icons to a StatusNotifierItem host when the process that owns it is KDE's
+/// `xembedsniproxy`, or offers StatusNotifierItems itself: panels that draw a tray show items and offer none. Such an
+/// offer may come only after a tray got its first icon; items then move to the host and stay there.
+class DesktopStatusBar final : public StatusBar {
+public:
+    DesktopStatusBar();
+    ~DesktopStatusBar() override;
+
+    std::unique_ptr<StatusItem> createItem(double length) override;
+
+    BarKind kind() const { return m_kind; }
+
+private:
+    void choose();
+    bool forwards(const XTray &tray) const;
+    void setTray(const std::optional<XTray> &tray);
+
+    BarKind m_kind = BarKind::None;
+    std::optional<XTray> m_dockedTray;
+    NotifierStatusBar m_notifierBar;
+    std::unique_ptr<XEmbedStatusBar> m_trayBar; ///< null where there is no X
+    std::unique_ptr<XTrayWatcher> m_trays; ///< null where there is no X
+    NotifierHosts m_hosts;
+};
+
+} // namespace tarvo

@@ -1,0 +1,176 @@
+#include "platform/linux/TrayDock.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace tarvo {
+
+namespace {
+
+constexpr int usualIconSize = 22;
+constexpr quint8 eventTypeMask = 0x7f; // the highest bit tells that a client sent the event
+
+constexpr quint32 systemTrayRequestDock = 0;
+constexpr quint32 xembedVersion = 0;
+constexpr quint32 xembedMapped = 1;
+
+QList<ScaledScreen> scaledScreens()
+{
+    QList<ScaledScreen> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append({screen->geometry(), screen->devicePixelRatio()});
+    return screens;
+}
+
+} // namespace
+
+TrayDock::TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &view, int width,
+                   std::function<void()> expelled)
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::BypassWindowManagerHint)
+    , m_screen(screen)
+    , m_translucent(tray.translucent)
+    , m_view(&view)
+    , m_expelled(std::move(expelled))
+{
+    setAttribute(Qt::WA_TranslucentBackground, m_translucent);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    // The menu is shown from here, without an event loop of its own: the view may go while it is open.
+    view.setContextMenuPolicy(Qt::NoContextMenu);
+    view.setParent(this);
+    view.show();
+    makeWindow(width);
+    QCoreApplication::instance()->installNativeEventFilter(this);
+    requestDock(tray);
+}
+
+TrayDock::~TrayDock()
+{
+    if (m_view && m_view->parent() == this)
+        m_view->setParent(nullptr);
+}
+
+void TrayDock::makeWindow(int width)
+{
+    resize(width > 0 ? width : usualIconSize, usualIconSize);
+    m_window = static_cast<xcb_window_t>(winId());
+    setMinimumSize(size());
+    const quint32 embedInfo[] = {xembedVersion, xembedMapped};
+    const xcb_atom_t name = m_screen.atom("_XEMBED_INFO");
+    xcb_change_property(m_screen.connection, XCB_PROP_MODE_REPLACE, m_window, name, name, 32, 2, embedInfo);
+}
+
+void TrayDock::requestDock(const XTray &tray)
+{
+    xcb_client_message_event_t request{};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = tray.window;
+    request.type = m_screen.atom("_NET_SYSTEM_TRAY_OPCODE");
+    request.data.data32[0] = XCB_CURRENT_TIME;
+    request.data.data32[1] = systemTrayRequestDock;
+    request.data.data32[2] = m_window;
+    m_screen.ignoreOutcome(xcb_send_event_checked(m_screen.connection, 0, tray.window, XCB_EVENT_MASK_NO_EVENT,
+                                                  reinterpret_cast<const char *>(&request)));
+    xcb_flush(m_screen.connection);
+}
+
+bool TrayDock::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *const event = static_cast<const xcb_generic_event_t *>(message);
+    const int type = event->response_type & eventTypeMask;
+    if (type == XCB_REPARENT_NOTIFY) {
+        const auto *const note = reinterpret_cast<const xcb_reparent_notify_event_t *>(event);
+        if (note->window == m_window)
+            reparented(note->parent);
+    } else if (type == XCB_DESTROY_NOTIFY) {
+        if (reinterpret_cast<const xcb_destroy_notify_event_t *>(event)->window == m_window)
+            reparented(m_screen.root);
+    }
+    return false;
+}
+
+void TrayDock::reparented(xcb_window_t parent)
+{
+    const bool docked = parent != m_screen.root;
+    if (docked == m_docked)
+        return;
+    m_docked = docked;
+    if (docked)
+        QMetaObject::invokeMethod(
+            this, [this] { show(); }, Qt::QueuedConnection);
+    else
+        m_expelled();
+}
+
+std::optional<QRect> TrayDock::frame() const
+{
+    const std::optional<QRect> native = m_docked ? m_screen.visibleFrame(m_window) : std::nullopt;
+    if (!native)
+        return std::nullopt;
+    return toApplicationCoordinates(*native, scaledScreens());
+}
+
+void TrayDock::resizeEvent(QResizeEvent *)
+{
+    m_background = QImage();
+    if (!m_view)
+        return;
+    const int side = std::min(width(), height());
+    m_view->setGeometry(rect());
+    m_view->setIconSize({side, side});
+}
+
+void TrayDock::moveEvent(QMoveEvent *)
+{
+    m_background = QImage();
+}
+
+void TrayDock::paintEvent(QPaintEvent *)
+{
+    if (m_translucent)
+        return;
+    if (m_background.isNull())
+        m_background = panelBackground();
+    QPainter(this).drawImage(rect(), m_background);
+}
+
+QImage TrayDock::panelBackground() const
+{
+    // The server can paint the parent's background into the window; it is read back and the icon is blended over it.
+    const std::optional<QRect> frame = m_screen.visibleFrame(m_window);
+    if (!frame)
+        return {};
+    const auto width = static_cast<quint16>(frame->width());
+    const auto height = static_cast<quint16>(frame->height());
+    const quint32 parentRelative = XCB_BACK_PIXMAP_PARENT_RELATIVE;
+    xcb_connection_t *const connection = m_screen.connection;
+    m_screen.ignoreOutcome(
+        xcb_change_window_attributes_checked(connection, m_window, XCB_CW_BACK_PIXMAP, &parentRelative));
+    m_screen.ignoreOutcome(xcb_clear_area_checked(connection, 0, m_window, 0, 0, width, height));
+    const auto request =
+        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, 0, 0, width, height, ~quint32{0});
+    const XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection, request, nullptr));
+    const int expected = width * height * 4;
+    if (!reply || reply->depth != 24 || xcb_get_image_data_length(reply.get()) < expected)
+        return {};
+    return QImage(xcb_get_image_data(reply.get()), width, height, width * 4, QImage::Format_RGB32).copy();
+}
+
+void TrayDock::contextMenuEvent(QContextMenuEvent *event)
+{
+    m_menu.clear();
+    m_menu.addActions(m_view ? m_view->actions() : QList<QAction *>());
+    if (!m_menu.isEmpty())
+        m_menu.popup(event->globalPos());
+}
+
+} // namespace tarvo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/linux/XTrayWatcher.h"
+
+#include <QAbstractButton>
+#include <QImage>
+#include <QMenu>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+namespace tarvo {
+
+/// A window that sits in a system tray and is filled by one button.
+///
+/// Docks by the freedesktop.org System Tray Protocol and the XEmbed Protocol. The tray decides about its size; the
+/// button's icon follows. It is shown once the tray has taken it in, so that it is never seen outside.
+class TrayDock final : public QWidget, private QAbstractNativeEventFilter {
+public:
+    /// Asks @p tray to take the window in.
+    /// @param view      filled in until the dock is destroyed; stays the caller's
+    /// @param width     wanted, in pixels; a square is wanted when it is not positive
+    /// @param expelled  called when the tray has put the window out, or destroyed it; in the middle of an event of
+    ///                  the window, so it must not destroy the dock itself
+    TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &view, int width,
+             std::function<void()> expelled);
+    ~TrayDock() override;
+    TrayDock(const TrayDock &) = delete;
+    TrayDock &operator=(const TrayDock &) = delete;
+
+    /// @return where the window is, in the application's coordinates; nil when nobody can see it
+    std::optional<QRect> frame() const;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+    void reparented(xcb_window_t parent);
+    void makeWindow(int width);
+    void requestDock(const XTray &tray);
+    QImage panelBackground() const;
+
+    XScreen m_screen;
+    xcb_window_t m_window = XCB_WINDOW_NONE;
+    bool m_translucent;
+    QPointer<QAbstractButton> m_view;
+    std::function<void()> m_expelled;
+    bool m_docked = false;
+    QImage m_background; ///< what an opaque window shows behind the button; null until it is needed
+    QMenu m_menu;
+};
+
+} // namespace tarvo
