@@ -1,4 +1,66 @@
-int main()
+#include "RouterObserver/ConfigManager.h"
+#include "app/MainController.h"
+#include "platform/linux/BusConnection.h"
+#include "platform/linux/DesktopStatusBar.h"
+#include "platform/linux/LogindWorkspace.h"
+#include "platform/linux/NetlinkDynamicStore.h"
+#include "platform/linux/SingleInstance.h"
+#include "platform/linux/SocketBinding.h"
+#include "platform/linux/SteadyClock.h"
+#include "platform/linux/SyslogLog.h"
+#include "platform/linux/TerminationSignals.h"
+#include "platform/linux/UdevDeviceRegistry.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <cstdlib>
+
+using namespace tarvo;
+
+namespace {
+
+int run(QApplication &application)
 {
-    return 1;
+    SyslogLog systemLog;
+    if (const auto &problem = ConfigManager::sharedConfigManager().loadProblem())
+        systemLog.write(*problem);
+
+    NetlinkDynamicStore dynamicStore(systemLog);
+    UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); });
+    dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
+    LogindWorkspace workspace(systemBusAddress(), systemLog);
+    DesktopStatusBar statusBar;
+    SteadyClock clock;
+
+    MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,
+                               bindSocketToInterface, &QApplication::quit});
+    const TerminationSignals signals([] { QApplication::quit(); });
+    QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
+        controller.applicationShouldTerminate();
+        controller.applicationWillTerminate();
+    });
+
+    controller.awakeFromNib();
+    // A modem that slept along says nothing by itself, so that its state is told again, after the controller woke.
+    workspace.addSleepObserver([] {}, [&] { dynamicStore.announceServices(); });
+    controller.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tarvo"));
+    QApplication::setDesktopFileName(QStringLiteral("tarvo"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const SingleInstance instance(QStringLiteral("tarvo"));
+    if (!instance.isOnly()) {
+        QTextStream(stderr) << "tarvo: another instance is running already\n";
+        return EXIT_FAILURE;
+    }
+    return run(application);
 }

@@ -26,7 +26,7 @@ QRect nativeGeometry(const ScaledScreen &screen)
 std::optional<XScreen> XScreen::ofApplication()
 {
     const auto *const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!application)
+    if (!application || !application->connection()) // other platforms offer the interface, but no server behind it
         return std::nullopt;
     XScreen screen{.connection = application->connection()};
     char *host = nullptr;
