@@ -15,9 +15,11 @@ std::unique_ptr<QMessageBox> makeAboutDialog()
     dialog->setWindowTitle(qtTrId("MenuAbout"));
     dialog->setWindowIcon(applicationImage());
     dialog->setIconPixmap(applicationImage().pixmap(64));
-    dialog->setText(QStringLiteral("Tarvo ") + QCoreApplication::applicationVersion());
-    dialog->setInformativeText(qtTrId("AboutText"));
-    dialog->setStandardButtons(QMessageBox::Close);
+    dialog->setTextFormat(Qt::RichText);
+    dialog->setText(
+        QStringLiteral("<b>Tarvo %1</b><p>%2</p>")
+            .arg(QCoreApplication::applicationVersion().toHtmlEscaped(), qtTrId("AboutText").toHtmlEscaped()));
+    dialog->addButton(qtTrId("AboutClose"), QMessageBox::RejectRole);
     return dialog;
 }
 

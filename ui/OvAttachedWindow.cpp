@@ -41,7 +41,7 @@ void paintShadow(QPainter &painter, const QPainterPath &outline, const QRectF &b
     painter.setClipPath(outside); // nothing of it shows through the translucent balloon
     const QPainterPath fallen = outline.translated(0, reach / 4.0);
     for (int spread = reach * 3 / 4; spread > 0; --spread)
-        painter.strokePath(fallen, QPen(QColor(0, 0, 0, 10), 2 * spread, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(fallen, QPen(QColor(0, 0, 0, 7), 2 * spread, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.restore();
 }
 

@@ -79,8 +79,7 @@ void DesktopNotifications::show(const Notification &notification, std::function<
     m_failed = std::move(failed);
     QDBusMessage message = call(u"Notify"_s);
     message << notification.title << m_identifier << notification.iconName << notification.title
-            << notification.text.toHtmlEscaped() << QStringList() << QVariantMap{{u"transient"_s, true}}
-            << longestStay;
+            << notification.text.toHtmlEscaped() << QStringList() << QVariantMap{{u"transient"_s, true}} << longestStay;
     auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(asked, &QDBusPendingCallWatcher::finished, this,
             [this, asked, request = ++m_request] { shown(asked, request); });

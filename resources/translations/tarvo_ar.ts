@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>يعرض حالة مودم النطاق العريض المتنقل ويفتح صفحاته.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Zeigt den Zustand Ihres mobilen Breitbandmodems und öffnet seine Webseiten.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Shows the state of your mobile broadband modem and opens its web pages.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Muestra el estado de su módem de banda ancha móvil y abre sus páginas web.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Affiche l’état de votre modem haut débit mobile et ouvre ses pages web.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Mostra lo stato del modem a banda larga mobile e ne apre le pagine web.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>モバイルブロードバンドモデムの状態を表示し、モデムの Web ページを開きます。</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
 </context>
 </TS>

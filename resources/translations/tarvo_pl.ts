@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Pokazuje stan modemu komórkowego i otwiera jego strony.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
 </context>
 </TS>

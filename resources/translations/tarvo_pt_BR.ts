@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Mostra o estado do seu modem de banda larga móvel e abre as páginas dele.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
 </context>
 </TS>

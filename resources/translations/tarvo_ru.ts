@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>Показывает состояние мобильного модема и открывает его веб-страницы.</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
 </context>
 </TS>

@@ -59,5 +59,9 @@
         <source>Shows the state of your mobile broadband modem and opens its web pages.</source>
         <translation>显示移动宽带调制解调器的状态并打开其网页。</translation>
     </message>
+    <message id="AboutClose">
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 </TS>
