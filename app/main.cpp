@@ -1,6 +1,8 @@
 #include "RouterObserver/ConfigManager.h"
 #include "app/MainController.h"
 #include "platform/linux/BusConnection.h"
+#include "platform/linux/Compositing.h"
+#include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopStatusBar.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
@@ -10,8 +12,11 @@
 #include "platform/linux/SyslogLog.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/UdevDeviceRegistry.h"
+#include "ui/Translations.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QLocale>
 #include <QTextStream>
 
 #include <cstdlib>
@@ -31,10 +36,11 @@ int run(QApplication &application)
     dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
     LogindWorkspace workspace(systemBusAddress(), systemLog);
     DesktopStatusBar statusBar;
+    DesktopNotifications notifications(QDBusConnection::sessionBus(), systemLog);
     SteadyClock clock;
 
     MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,
-                               bindSocketToInterface, &QApplication::quit});
+                               bindSocketToInterface, &QApplication::quit, &notifications, isScreenComposited});
     const TerminationSignals signals([] { QApplication::quit(); });
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
@@ -54,6 +60,7 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarvo"));
+    QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tarvo"));
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -62,5 +69,6 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "tarvo: another instance is running already\n";
         return EXIT_FAILURE;
     }
+    installTranslations(application, QLocale());
     return run(application);
 }
