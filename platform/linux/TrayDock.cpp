@@ -116,8 +116,7 @@ void TrayDock::reparented(xcb_window_t parent)
         return;
     m_docked = docked;
     if (docked)
-        QMetaObject::invokeMethod(
-            this, [this] { show(); }, Qt::QueuedConnection);
+        show();
     else
         m_expelled();
 }
@@ -132,7 +131,6 @@ std::optional<QRect> TrayDock::frame() const
 
 void TrayDock::resizeEvent(QResizeEvent *)
 {
-    m_background = QImage();
     if (windowHandle())
         requestSize();
     if (!m_view)
@@ -144,16 +142,13 @@ void TrayDock::resizeEvent(QResizeEvent *)
 
 void TrayDock::moveEvent(QMoveEvent *)
 {
-    m_background = QImage();
+    update();
 }
 
 void TrayDock::paintEvent(QPaintEvent *)
 {
-    if (m_translucent)
-        return;
-    if (m_background.isNull())
-        m_background = panelBackground();
-    QPainter(this).drawImage(rect(), m_background);
+    if (!m_translucent)
+        QPainter(this).drawImage(rect(), panelBackground());
 }
 
 QImage TrayDock::panelBackground() const

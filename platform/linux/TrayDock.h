@@ -55,7 +55,6 @@ private:
     QPointer<QAbstractButton> m_view;
     std::function<void()> m_expelled;
     bool m_docked = false;
-    QImage m_background; ///< what an opaque window shows behind the button; null until it is needed
     QMenu m_menu;
 };
 
