@@ -25,8 +25,9 @@ QRect nativeGeometry(const ScaledScreen &screen)
 
 std::optional<XScreen> XScreen::ofApplication()
 {
+    // Other platforms may have the interface as well, without a connection that windows are on.
     const auto *const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!application || !application->connection()) // other platforms offer the interface, but no server behind it
+    if (QGuiApplication::platformName() != QLatin1String("xcb") || !application)
         return std::nullopt;
     XScreen screen{.connection = application->connection()};
     char *host = nullptr;
