@@ -13,6 +13,7 @@ namespace tarvo {
 namespace {
 
 constexpr int usualIconSize = 22;
+constexpr int largestIconSize = 256;
 constexpr quint8 eventTypeMask = 0x7f; // the highest bit tells that a client sent the event
 
 constexpr quint32 systemTrayRequestDock = 0;
@@ -34,6 +35,8 @@ TrayDock::TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &vi
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::BypassWindowManagerHint)
     , m_screen(screen)
     , m_translucent(tray.translucent)
+    , m_vertical(tray.vertical)
+    , m_width(width)
     , m_view(&view)
     , m_expelled(std::move(expelled))
 {
@@ -45,7 +48,7 @@ TrayDock::TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &vi
     view.setContextMenuPolicy(Qt::NoContextMenu);
     view.setParent(this);
     view.show();
-    makeWindow(width);
+    makeWindow();
     QCoreApplication::instance()->installNativeEventFilter(this);
     requestDock(tray);
 }
@@ -56,14 +59,22 @@ TrayDock::~TrayDock()
         m_view->setParent(nullptr);
 }
 
-void TrayDock::makeWindow(int width)
+void TrayDock::makeWindow()
 {
-    resize(width > 0 ? width : usualIconSize, usualIconSize);
+    resize(usualIconSize, usualIconSize);
     m_window = static_cast<xcb_window_t>(winId());
-    setMinimumSize(size());
+    requestSize();
     const quint32 embedInfo[] = {xembedVersion, xembedMapped};
     const xcb_atom_t name = m_screen.atom("_XEMBED_INFO");
     xcb_change_property(m_screen.connection, XCB_PROP_MODE_REPLACE, m_window, name, name, 32, 2, embedInfo);
+}
+
+void TrayDock::requestSize()
+{
+    // Across the panel the tray decides; along it the window asks for what it needs.
+    const int side = std::min(m_vertical ? width() : height(), largestIconSize);
+    const int along = m_width > 0 ? m_width : side;
+    windowHandle()->setMinimumSize(m_vertical ? QSize(side, along) : QSize(along, side));
 }
 
 void TrayDock::requestDock(const XTray &tray)
@@ -105,8 +116,7 @@ void TrayDock::reparented(xcb_window_t parent)
         return;
     m_docked = docked;
     if (docked)
-        QMetaObject::invokeMethod(
-            this, [this] { show(); }, Qt::QueuedConnection);
+        show();
     else
         m_expelled();
 }
@@ -121,7 +131,8 @@ std::optional<QRect> TrayDock::frame() const
 
 void TrayDock::resizeEvent(QResizeEvent *)
 {
-    m_background = QImage();
+    if (windowHandle())
+        requestSize();
     if (!m_view)
         return;
     const int side = std::min(width(), height());
@@ -131,16 +142,13 @@ void TrayDock::resizeEvent(QResizeEvent *)
 
 void TrayDock::moveEvent(QMoveEvent *)
 {
-    m_background = QImage();
+    update();
 }
 
 void TrayDock::paintEvent(QPaintEvent *)
 {
-    if (m_translucent)
-        return;
-    if (m_background.isNull())
-        m_background = panelBackground();
-    QPainter(this).drawImage(rect(), m_background);
+    if (!m_translucent)
+        QPainter(this).drawImage(rect(), panelBackground());
 }
 
 QImage TrayDock::panelBackground() const

@@ -42,17 +42,19 @@ protected:
 private:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
     void reparented(xcb_window_t parent);
-    void makeWindow(int width);
+    void makeWindow();
     void requestDock(const XTray &tray);
+    void requestSize();
     QImage panelBackground() const;
 
     XScreen m_screen;
     xcb_window_t m_window = XCB_WINDOW_NONE;
     bool m_translucent;
+    bool m_vertical;
+    int m_width; ///< not positive for a square
     QPointer<QAbstractButton> m_view;
     std::function<void()> m_expelled;
     bool m_docked = false;
-    QImage m_background; ///< what an opaque window shows behind the button; null until it is needed
     QMenu m_menu;
 };
 

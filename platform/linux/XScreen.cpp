@@ -13,7 +13,7 @@ xcb_window_t rootOf(xcb_connection_t *connection, int number)
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
     for (; screens.rem > 1 && number > 0; --number)
         xcb_screen_next(&screens);
-    return screens.rem > 0 ? screens.data->root : xcb_window_t {XCB_WINDOW_NONE};
+    return screens.rem > 0 ? screens.data->root : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 QRect nativeGeometry(const ScaledScreen &screen)
@@ -25,8 +25,9 @@ QRect nativeGeometry(const ScaledScreen &screen)
 
 std::optional<XScreen> XScreen::ofApplication()
 {
+    // Other platforms may have the interface as well, without a connection that windows are on.
     const auto *const application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!application || !application->connection()) // other platforms offer the interface, but no server behind it
+    if (QGuiApplication::platformName() != QLatin1String("xcb") || !application)
         return std::nullopt;
     XScreen screen{.connection = application->connection()};
     char *host = nullptr;
@@ -41,7 +42,7 @@ xcb_atom_t XScreen::atom(const QByteArray &name) const
 {
     const auto request = xcb_intern_atom(connection, 0, static_cast<quint16>(name.size()), name.constData());
     const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, request, nullptr));
-    return reply ? reply->atom : xcb_atom_t {XCB_ATOM_NONE};
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 std::optional<quint32> XScreen::property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const

@@ -6,6 +6,7 @@ namespace tarvo {
 
 namespace {
 
+constexpr quint32 orientationVertical = 1;
 constexpr quint8 eventTypeMask = 0x7f; // the highest bit tells that a client sent the event
 
 int visualDepth(const xcb_connection_t *connection, xcb_visualid_t visual)
@@ -85,10 +86,11 @@ std::optional<XTray> XTrayWatcher::findTray() const
     const xcb_window_t owner = watchedSelectionOwner();
     if (owner == XCB_WINDOW_NONE)
         return std::nullopt;
-    const xcb_atom_t visualProperty = m_screen.atom("_NET_SYSTEM_TRAY_VISUAL");
-    const auto visual = m_screen.property(owner, visualProperty, XCB_ATOM_VISUALID);
+    const auto visual = m_screen.property(owner, m_screen.atom("_NET_SYSTEM_TRAY_VISUAL"), XCB_ATOM_VISUALID);
+    const auto orientation = m_screen.property(owner, m_screen.atom("_NET_SYSTEM_TRAY_ORIENTATION"), XCB_ATOM_CARDINAL);
     return XTray{.window = owner,
                  .translucent = visual && visualDepth(m_screen.connection, *visual) == 32,
+                 .vertical = orientation == orientationVertical,
                  .process = m_screen.processOf(owner)};
 }
 

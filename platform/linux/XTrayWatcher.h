@@ -15,6 +15,8 @@ struct XTray {
     xcb_window_t window = XCB_WINDOW_NONE;
     /// Its icons may have an alpha channel.
     bool translucent = false;
+    /// Its icons are stacked on top of each other, not side by side.
+    bool vertical = false;
     /// The process that owns the window; 0 when it is not known.
     quint32 process = 0;
 

@@ -39,40 +39,104 @@ protected:
     std::unique_ptr<StatusItem> item = bar.createItem(squareStatusItemLength);
 };
 
-TEST_F(DesktopStatusBarTest, SitsInTheTrayWithItsOwnWindow)
+TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 {
-    auto tray = startTrayer();
-    ASSERT_TRUE(waitFor([&] { return !areaOf(magenta).isEmpty(); }));
-    const std::optional<QRect> frame = item->frame();
-    ASSERT_TRUE(frame);
-    EXPECT_TRUE(frame->contains(areaOf(magenta)));
-    EXPECT_EQ(frame->height(), 24);
-    screenshot().save(QStringLiteral("/tmp/status-trayer.png"));
-    pointAt(*frame, {"click", "1"});
+    auto tray = startTrayer(24);
+    ASSERT_TRUE(waitFor([&] { return item->frame() && !areaOf(magenta).isEmpty(); }));
+    EXPECT_EQ(item->frame()->size(), QSize(22, 22)); // the tray's frame takes a pixel on each side
+    EXPECT_TRUE(item->frame()->contains(areaOf(magenta)));
+    EXPECT_FALSE(empty->frame());
+
+    pointAt(*item->frame(), {"click", "1"});
     EXPECT_TRUE(waitFor([&] { return button.clicks == 1; }));
     EXPECT_EQ(button.entries, 1);
+
+    tray.reset();
+    ASSERT_TRUE(waitFor([&] { return areaOf(magenta).isEmpty(); }));
+    ASSERT_TRUE(becomes(BarKind::None));
+    EXPECT_FALSE(item->frame());
+
+    tray = startTrayer(40);
+    ASSERT_TRUE(waitFor([&] { return item->frame() && item->frame()->size() == QSize(38, 38); }));
+    EXPECT_TRUE(waitFor([&] { return item->frame()->contains(areaOf(magenta)) && areaOf(magenta).height() == 38; }));
 }
 
-TEST_F(DesktopStatusBarTest, FollowsBarsThatComeAndGo)
+TEST_F(DesktopStatusBarTest, LetsTheBackgroundOfAnOpaqueTrayShowAroundTheIcon)
+{
+    button.setIcon(QIcon()); // so that all of it is around the icon
+    const auto tray = startTrayer(24, {"--transparent", "true", "--alpha", "0", "--tint", "0x00ff00"});
+    ASSERT_TRUE(waitFor([&] { return item->frame().has_value(); }));
+    const QColor asTrayerMixesIt(0, 254, 0);
+    EXPECT_TRUE(waitFor([&] { return areaOf(asTrayerMixesIt).contains(*item->frame()); }));
+}
+
+TEST_F(DesktopStatusBarTest, MovesBetweenThePanelsThatRun)
 {
     auto panel = startNotifierPanel();
     ASSERT_TRUE(becomes(BarKind::Notifier));
-    EXPECT_TRUE(waitFor([&] { return !areaOf(magenta).isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return !areaOf(magenta).isEmpty(); }));
     EXPECT_FALSE(item->frame());
-    screenshot().save(QStringLiteral("/tmp/status-xfce.png"));
+
     pointAt(areaOf(magenta), {"click", "1"});
     EXPECT_TRUE(waitFor([&] { return button.clicks == 1; }));
-    auto tray = startTrayer();
+
+    auto tray = startTrayer(24);
     ASSERT_TRUE(becomes(BarKind::Tray));
     EXPECT_TRUE(waitFor([&] { return item->frame() && item->frame()->contains(areaOf(magenta)); }));
-    screenshot().save(QStringLiteral("/tmp/status-both.png"));
+
     tray.reset();
     ASSERT_TRUE(becomes(BarKind::Notifier));
     EXPECT_TRUE(waitFor([&] { return !areaOf(magenta).isEmpty(); }));
+
     panel.reset();
     ASSERT_TRUE(becomes(BarKind::None));
-    tray = startTrayer();
+    panel = startNotifierPanel();
+    ASSERT_TRUE(becomes(BarKind::Notifier));
+    EXPECT_TRUE(waitFor([&] { return !areaOf(magenta).isEmpty(); }));
+}
+
+TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
+{
+    const auto panel = startNotifierPanel();
+    ASSERT_TRUE(waitFor([&] { return bar.kind() == BarKind::Notifier && !areaOf(magenta).isEmpty(); }));
+    ItemSignals told;
+    for (int i = 0; i < 20; ++i) {
+        button.setColour(magenta);
+        item->viewChanged();
+    }
+    button.setColour(green);
+    item->viewChanged();
+    EXPECT_TRUE(waitFor([&] { return !areaOf(green).isEmpty(); }));
+    EXPECT_EQ(told.members, QStringList{QStringLiteral("NewIcon")});
+}
+
+TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)
+{
+    item->setView(nullptr);
+    const auto panel = startNotifierPanel();
+    ASSERT_TRUE(becomes(BarKind::Notifier));
+    const TraySelection tray;
     ASSERT_TRUE(becomes(BarKind::Tray));
+    offerItemOfThisProcess();
+    EXPECT_TRUE(becomes(BarKind::Notifier));
+}
+
+TEST(ChooseBar, PrefersATrayThatIsNoForwarder)
+{
+    for (const bool forwarded : {false, true}) {
+        EXPECT_EQ(chooseBar(false, false, forwarded), BarKind::None);
+        EXPECT_EQ(chooseBar(false, true, forwarded), BarKind::Notifier);
+        EXPECT_EQ(chooseBar(true, false, forwarded), BarKind::Tray);
+        EXPECT_EQ(chooseBar(true, true, forwarded), forwarded ? BarKind::Notifier : BarKind::Tray);
+    }
+}
+
+TEST(ToApplicationCoordinates, ScalesWithinTheMonitorThatHoldsTheCentre)
+{
+    const QList<ScaledScreen> screens{{QRect(0, 0, 1280, 800), 1}, {QRect(1280, 0, 960, 540), 2}};
+    EXPECT_EQ(toApplicationCoordinates(QRect(100, 0, 24, 24), screens), QRect(100, 0, 24, 24));
+    EXPECT_EQ(toApplicationCoordinates(QRect(1280 + 1800, 10, 48, 48), screens), QRect(1280 + 900, 5, 24, 24));
+    EXPECT_EQ(toApplicationCoordinates(QRect(-90, 0, 24, 24), screens), QRect(-90, 0, 24, 24));
 }
 
 } // namespace

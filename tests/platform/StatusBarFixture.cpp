@@ -1,5 +1,6 @@
 #include "tests/platform/StatusBarFixture.h"
 
+#include <QDBusConnection>
 #include <QDir>
 #include <QFile>
 
@@ -69,7 +70,7 @@ ItemSignals::ItemSignals()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     for (const char *interface : {"org.kde.StatusNotifierItem", "com.canonical.dbusmenu"})
-        bus.connect({}, {}, QLatin1String(interface), {}, this, SLOT(counted()));
+        bus.connect({}, {}, QLatin1String(interface), {}, this, SLOT(heard(QDBusMessage)));
 }
 
 QRect areaOf(const QColor &colour)
@@ -85,10 +86,10 @@ QRect areaOf(const QColor &colour)
     return area;
 }
 
-std::unique_ptr<Program> startTrayer(std::vector<std::string> options)
+std::unique_ptr<Program> startTrayer(int height, const std::vector<std::string> &options)
 {
-    std::vector<std::string> command{"trayer",      "--edge",  "top",      "--align", "right",
-                                     "--widthtype", "request", "--height", "24"};
+    std::vector<std::string> command{
+        "trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", std::to_string(height)};
     command.insert(command.end(), options.begin(), options.end());
     return std::make_unique<Program>(command);
 }
@@ -101,6 +102,15 @@ std::unique_ptr<Program> startNotifierPanel()
     waitFor([&] { return trayIsOwned(screen); });
     TraySelection();
     return panel;
+}
+
+void offerItemOfThisProcess()
+{
+    const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+    auto offer = QDBusMessage::createMethodCall(watcher, QStringLiteral("/StatusNotifierWatcher"), watcher,
+                                                QStringLiteral("RegisterStatusNotifierItem"));
+    offer.setArguments({QDBusConnection::sessionBus().baseService()});
+    QDBusConnection::sessionBus().send(offer);
 }
 
 TraySelection::TraySelection()

@@ -3,11 +3,15 @@
 #include "platform/linux/DesktopStatusBar.h"
 #include "tests/support/VirtualDesktop.h"
 
-#include <QDBusConnection>
-#include <QEvent>
+#include <QDBusMessage>
+#include <QEnterEvent>
 #include <QPushButton>
+#include <QRect>
+#include <QStringList>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace tarvo {
 
@@ -25,26 +29,29 @@ protected:
     void enterEvent(QEnterEvent *event) override;
 };
 
-/// Counts what StatusNotifierItems and their menus say to the session bus.
+/// Notes what StatusNotifierItems and their menus say to the session bus.
 class ItemSignals final : public QObject {
     Q_OBJECT
 
 public:
     ItemSignals();
 
-    int count = 0;
+    QStringList members; ///< the names of the signals, in order
 
 private Q_SLOTS:
-    void counted() { ++count; }
+    void heard(const QDBusMessage &message) { members.append(message.member()); }
 };
 
 /// @return the smallest rectangle that holds all pixels of @p colour on the screen; empty when there are none
 QRect areaOf(const QColor &colour);
 
-std::unique_ptr<Program> startTrayer(std::vector<std::string> options = {});
+std::unique_ptr<Program> startTrayer(int height, const std::vector<std::string> &options = {});
 
 /// A panel that hosts StatusNotifierItems, and whose XEmbed tray was taken from it.
 std::unique_ptr<Program> startNotifierPanel();
+
+/// Offers this process's bus connection to the host, as if it were an item.
+void offerItemOfThisProcess();
 
 /// Takes the tray selection for as long as it lives, and takes no icon in.
 class TraySelection {
