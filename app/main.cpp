@@ -12,9 +12,11 @@
 #include "platform/linux/SyslogLog.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/UdevDeviceRegistry.h"
+#include "ui/Images.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QDBusConnection>
 #include <QLocale>
 #include <QTextStream>
@@ -63,6 +65,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tarvo"));
     QApplication::setQuitOnLastWindowClosed(false);
+
+    installTranslations(application, QLocale());
+    QApplication::setWindowIcon(applicationImage());
 
     const SingleInstance instance(QStringLiteral("tarvo"));
     if (!instance.isOnly()) {
