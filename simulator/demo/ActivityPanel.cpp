@@ -11,16 +11,21 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int maximumLines = 2000;
+constexpr int recentLines = 6; // as many as a poll may repeat
+constexpr int timeColumn = 0;
 constexpr int kindColumn = 1;
 constexpr int textColumn = 2;
 constexpr int timesColumn = 3;
 constexpr int timesRole = Qt::UserRole;
+const QString timeFormat = u"HH:mm:ss"_s;
 const QString requestKind = u"request"_s;
 const QString logKind = u"log"_s;
 const QString pageKind = u"page"_s;
@@ -60,24 +65,36 @@ ActivityPanel::ActivityPanel(DemoWorld &world)
 
 void ActivityPanel::add(const QString &kind, const QString &text)
 {
-    auto *last = m_list->topLevelItem(m_list->topLevelItemCount() - 1);
-    if (last && last->text(kindColumn) == kind && last->text(textColumn) == text) {
-        const int times = last->data(timesColumn, timesRole).toInt() + 1;
-        last->setData(timesColumn, timesRole, times);
-        last->setText(timesColumn, u"× %1"_s.arg(times));
+    if (QTreeWidgetItem *item = recentLine(kind, text)) {
+        const int times = item->data(timesColumn, timesRole).toInt() + 1;
+        item->setData(timesColumn, timesRole, times);
+        item->setText(timesColumn, u"× %1"_s.arg(times));
+        item->setText(timeColumn, QTime::currentTime().toString(timeFormat));
         return;
     }
     const QScrollBar *bar = m_list->verticalScrollBar();
     const bool atEnd = bar->value() == bar->maximum();
-    auto *item = new QTreeWidgetItem(m_list, {QTime::currentTime().toString(u"HH:mm:ss"), kind, text, QString()});
+    auto *item = new QTreeWidgetItem(m_list, {QTime::currentTime().toString(timeFormat), kind, text, QString()});
     item->setData(timesColumn, timesRole, 1);
-    item->setForeground(0, palette().placeholderText());
-    item->setForeground(kindColumn, palette().placeholderText());
+    item->setForeground(timeColumn, palette().placeholderText());
+    item->setForeground(timesColumn, palette().placeholderText());
+    item->setForeground(kindColumn, kind == pageKind ? palette().link() : palette().placeholderText());
     item->setHidden(m_filter->currentIndex() != 0 && m_filter->currentData() != kind);
     if (m_list->topLevelItemCount() > maximumLines)
         delete m_list->takeTopLevelItem(0);
     if (atEnd)
         m_list->scrollToBottom();
+}
+
+QTreeWidgetItem *ActivityPanel::recentLine(const QString &kind, const QString &text) const
+{
+    const int count = m_list->topLevelItemCount();
+    for (int line = count - 1; line >= std::max(0, count - recentLines); --line) {
+        QTreeWidgetItem *item = m_list->topLevelItem(line);
+        if (item->text(kindColumn) == kind && item->text(textColumn) == text)
+            return item;
+    }
+    return nullptr;
 }
 
 void ActivityPanel::applyFilter()

@@ -5,6 +5,7 @@
 
 class QComboBox;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace tarvo {
 
@@ -17,8 +18,10 @@ public:
     explicit ActivityPanel(DemoWorld &world);
 
 private:
-    /// A line; one that repeats the last of its kind is counted there.
+    /// Adds a line; one that is among the last few already is counted there.
     void add(const QString &kind, const QString &text);
+    /// @return such a line; null when there is none
+    QTreeWidgetItem *recentLine(const QString &kind, const QString &text) const;
     void applyFilter();
 
     QComboBox *m_filter;

@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int shownRows = 7; // with the header
 constexpr int indexColumn = 0;
 constexpr int defaultColumn = 4;
 
@@ -48,6 +49,7 @@ ApnPanel::ApnPanel(DemoWorld &world)
     m_list->header()->setSectionResizeMode(indexColumn, QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(defaultColumn, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
+    m_list->setMinimumHeight(shownRows * fontMetrics().lineSpacing());
     (new QVBoxLayout(this))->addWidget(m_list);
     refresh();
 }

@@ -28,15 +28,15 @@ DemoWindow::DemoWindow(DemoWorld &world)
     controls->addStretch();
     auto *views = new QVBoxLayout;
     views->addWidget(m_companion);
-    views->addWidget(m_apns, 2);
-    views->addWidget(new ActivityPanel(world), 3);
+    views->addWidget(m_apns, 1);
+    views->addWidget(new ActivityPanel(world), 4);
     auto *layout = new QHBoxLayout(this);
     layout->addLayout(controls);
     layout->addLayout(views, 1);
 
     setWindowTitle(u"Tarvo with a simulated modem"_s);
     setWindowIcon(applicationImage());
-    resize(1000, 680);
+    resize(1000, 640);
     connect(&m_refreshing, &QTimer::timeout, this, &DemoWindow::refresh);
     m_refreshing.start(250ms);
 }
