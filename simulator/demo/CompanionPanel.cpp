@@ -72,11 +72,6 @@ void CompanionPanel::refresh()
     m_knowledge->setText(knowledge());
 }
 
-QRect CompanionPanel::iconPlace() const
-{
-    return {m_icon->mapToGlobal(QPoint(0, 0)), m_icon->size()};
-}
-
 QString CompanionPanel::knowledge() const
 {
     ModemState &state = m_world.controller().state();

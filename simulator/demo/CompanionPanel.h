@@ -16,8 +16,6 @@ public:
     explicit CompanionPanel(DemoWorld &world);
 
     void refresh();
-    /// @return where the icon's picture is on the screen, in global coordinates
-    QRect iconPlace() const;
 
 private:
     QString knowledge() const;

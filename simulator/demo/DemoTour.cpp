@@ -8,7 +8,9 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QImage>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
@@ -54,6 +56,24 @@ QDialog *visiblePanel()
     return nullptr;
 }
 
+QPixmap screenPicture(const QRect &part)
+{
+    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height());
+}
+
+/// @return whether the screen shows more than one plain colour in @p part
+bool isDrawnIn(const QRect &part)
+{
+    const QImage image = screenPicture(part).toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 DemoTour::DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures)
@@ -61,6 +81,15 @@ DemoTour::DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures)
     , m_window(window)
     , m_pictures(pictures)
 {
+}
+
+void DemoTour::seeTray()
+{
+    begin(u"The icon is in the system tray"_s);
+    const auto hasPlace = [this] { return m_world.statusBar().iconFrame().has_value(); };
+    check(u"it has a place there"_s, eventually(hasPlace));
+    check(u"it is drawn there"_s,
+          eventually([&] { return hasPlace() && isDrawnIn(*m_world.statusBar().iconFrame()); }));
 }
 
 bool DemoTour::run()
@@ -259,7 +288,7 @@ void DemoTour::takePicture(const QString &name)
     const QString file = u"%1-%2"_s.arg(++m_pictureNumber, 2, 10, QChar(u'0')).arg(name);
     m_window.grab().save(m_pictures.filePath(file + u"-window.png"_s));
     if (QGuiApplication::platformName() == u"xcb")
-        QGuiApplication::primaryScreen()->grabWindow().save(m_pictures.filePath(file + u"-desktop.png"_s));
+        screenPicture(QGuiApplication::primaryScreen()->geometry()).save(m_pictures.filePath(file + u"-desktop.png"_s));
     say(u"  picture "_s + file);
 }
 

@@ -21,6 +21,9 @@ public:
     /// @param pictures  an existing folder
     DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures);
 
+    /// Checks that the icon is drawn in a system tray.
+    void seeTray();
+
     /// Runs the whole tour, about a minute, while events are handled. @return whether every check passed
     bool run();
 

@@ -41,11 +41,6 @@ DemoWindow::DemoWindow(DemoWorld &world)
     m_refreshing.start(250ms);
 }
 
-QRect DemoWindow::iconPlace() const
-{
-    return m_companion->iconPlace();
-}
-
 void DemoWindow::refresh()
 {
     m_modem->refresh();

@@ -16,8 +16,6 @@ public:
     /// @param world  outlives the window
     explicit DemoWindow(DemoWorld &world);
 
-    /// @return where the icon's picture is on the screen, in global coordinates
-    QRect iconPlace() const;
     /// Brings all that changes by itself up to date.
     void refresh();
 

@@ -1,5 +1,4 @@
-#include "platform/StatusBar.h"
-#include "simulator/SimulatedStatusBar.h"
+#include "platform/linux/DesktopStatusBar.h"
 #include "simulator/demo/DemoFolder.h"
 #include "simulator/demo/DemoTour.h"
 #include "simulator/demo/DemoWindow.h"
@@ -21,10 +20,11 @@ int main(int argc, char **argv)
     parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
     parser.addHelpOption();
     parser.addOption({u"tour"_s, u"Play a tour of about a minute, and leave pictures of it in FOLDER."_s, u"FOLDER"_s});
+    parser.addOption({u"tray"_s, u"Expect the icon in a system tray during the tour."_s});
     parser.process(application);
     const bool isTour = parser.isSet(u"tour"_s);
 
-    tarvo::SimulatedStatusBar statusBar;
+    tarvo::DesktopStatusBar statusBar;
     tarvo::DemoWorld world(folder, statusBar, isTour ? nullptr : &QDesktopServices::openUrl);
     if (world.problem()) {
         std::cerr << "tarvo-demo: " << world.problem()->toStdString() << std::endl;
@@ -37,5 +37,8 @@ int main(int argc, char **argv)
 
     const QDir pictures(parser.value(u"tour"_s));
     pictures.mkpath(u"."_s);
-    return tarvo::DemoTour(world, window, pictures).run() ? 0 : 1;
+    tarvo::DemoTour tour(world, window, pictures);
+    if (parser.isSet(u"tray"_s))
+        tour.seeTray();
+    return tour.run() ? 0 : 1;
 }
