@@ -112,6 +112,8 @@ bool addApn(ModemCondition &condition, const QByteArray &form)
     const auto record = start < 0 ? QJsonDocument() : QJsonDocument::fromJson(form.mid(start + fieldStart.size()));
     if (!record.isObject())
         return false;
+    const QJsonValue index = record.object().value(u"index"_s);
+    condition.pcApns.removeIf([&](const QJsonObject &apn) { return apn.value(u"index"_s) == index; });
     condition.pcApns.append(record.object());
     return true;
 }

@@ -51,7 +51,8 @@ struct ModemCondition {
 
     bool isPCProfileType = true; ///< `profile_type`
     QStringList webProfiles{QStringLiteral("Internet")}; ///< the modem's own access points, by index
-    QList<QJsonObject> pcApns; ///< the access points that a computer has added, the oldest first
+    QList<QJsonObject>
+        pcApns; ///< the access points that a computer has added; one takes the place of another of its index
     QString defaultProfileName; ///< `pc_default_profilename`
     std::optional<int> defaultApnIndex; ///< as last set by a computer
     bool apnReady = false; ///< a computer has said that its access points are complete

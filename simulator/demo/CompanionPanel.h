@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QGroupBox>
+
+class QLabel;
+class QPushButton;
+
+namespace tarvo {
+
+class DemoWorld;
+
+/// What the companion shows and knows at this moment.
+class CompanionPanel : public QGroupBox {
+public:
+    /// @param world  outlives the panel
+    explicit CompanionPanel(DemoWorld &world);
+
+    void refresh();
+
+private:
+    QString knowledge() const;
+
+    DemoWorld &m_world;
+    QLabel *m_icon;
+    QLabel *m_headline;
+    QLabel *m_tip;
+    QLabel *m_knowledge;
+    QPushButton *m_click;
+};
+
+} // namespace tarvo

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "app/MainController.h"
+#include "platform/StateStore.h"
+#include "platform/linux/SteadyClock.h"
+#include "simulator/ModemServer.h"
+#include "simulator/RecordingLog.h"
+#include "simulator/SimulatedDeviceRegistry.h"
+#include "simulator/SimulatedModem.h"
+#include "simulator/SimulatedNetwork.h"
+#include "simulator/SimulatedWorkspace.h"
+#include "simulator/demo/DemoFolder.h"
+#include "simulator/demo/ObservedStatusBar.h"
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+namespace tarvo {
+
+/// The companion and all that surrounds it: a computer that the modem is plugged into, and the modem itself.
+class DemoWorld : public QObject {
+    Q_OBJECT
+
+public:
+    /// @param folder, statusBar  outlive this object
+    /// @param opener  shows the user a web page; empty shows none
+    DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWorkspace::Opener opener);
+
+    /// Plugs the modem in: its interface comes at once, its address a moment later.
+    void plugIn();
+    void unplug();
+    void sleep();
+    void wake();
+
+    bool isPluggedIn() const { return m_pluggedIn; }
+    bool isAsleep() const { return m_asleep; }
+
+    /// @return why the demo cannot work; nil when it can
+    const std::optional<QString> &problem() const { return m_problem; }
+
+    SimulatedModem &modem() { return m_modem; }
+    ModemServer &server() { return m_server; }
+    MainController &controller() { return *m_controller; }
+    const RecordingLog &systemLog() const { return m_systemLog; }
+    const SimulatedWorkspace &workspace() const { return m_workspace; }
+    const ObservedStatusBar &statusBar() const { return m_statusBar; }
+
+Q_SIGNALS:
+    /// Emitted on the modem's thread.
+    void modemAsked(const QString &request);
+    /// Emitted on any thread.
+    void lineLogged(const QString &line);
+    void pageOpened(const QUrl &page);
+    /// The modem came or went, or the computer slept or woke.
+    void changed();
+
+private:
+    void giveAddress();
+    bool openPage(const QUrl &page);
+
+    SimulatedWorkspace::Opener m_opener;
+    SimulatedModem m_modem;
+    ModemServer m_server;
+    std::optional<QString> m_problem;
+
+    StateStore m_store;
+    SimulatedNetwork m_network;
+    SimulatedDeviceRegistry m_registry;
+    SimulatedWorkspace m_workspace;
+    ObservedStatusBar m_statusBar;
+    SteadyClock m_clock;
+    RecordingLog m_systemLog;
+    IOServiceHandle m_device = 0;
+    bool m_pluggedIn = false;
+    bool m_asleep = false;
+
+    std::unique_ptr<MainController> m_controller; ///< last: it uses all of the above
+};
+
+/// @return @p request as one short line: what was read, or what was set
+QString requestText(const ReceivedRequest &request);
+
+} // namespace tarvo

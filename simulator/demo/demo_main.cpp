@@ -1,0 +1,44 @@
+#include "platform/linux/DesktopStatusBar.h"
+#include "simulator/demo/DemoFolder.h"
+#include "simulator/demo/DemoTour.h"
+#include "simulator/demo/DemoWindow.h"
+#include "simulator/demo/DemoWorld.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDesktopServices>
+
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    const tarvo::DemoFolder folder;
+    const QApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
+    parser.addHelpOption();
+    parser.addOption({u"tour"_s, u"Play a tour of about a minute, and leave pictures of it in FOLDER."_s, u"FOLDER"_s});
+    parser.addOption({u"tray"_s, u"Expect the icon in a system tray during the tour."_s});
+    parser.process(application);
+    const bool isTour = parser.isSet(u"tour"_s);
+
+    tarvo::DesktopStatusBar statusBar;
+    tarvo::DemoWorld world(folder, statusBar, isTour ? nullptr : &QDesktopServices::openUrl);
+    if (world.problem()) {
+        std::cerr << "tarvo-demo: " << world.problem()->toStdString() << std::endl;
+        return 1;
+    }
+    tarvo::DemoWindow window(world);
+    window.show();
+    if (!isTour)
+        return QApplication::exec();
+
+    const QDir pictures(parser.value(u"tour"_s));
+    pictures.mkpath(u"."_s);
+    tarvo::DemoTour tour(world, window, pictures);
+    if (parser.isSet(u"tray"_s))
+        tour.seeTray();
+    return tour.run() ? 0 : 1;
+}
