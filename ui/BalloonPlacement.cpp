@@ -50,24 +50,45 @@ QPointF shiftInto(const OvRect &window, const OvRect &screen)
             shiftInto(window.y, window.height, screen.y, screen.maxY())};
 }
 
+struct Candidate {
+    BalloonPlacement placement;
+    double shift = HUGE_VAL; ///< how far it had to be moved
+    bool pointsAtIcon = false;
+};
+
+/// @return the place, of those at one edge of the icon, that had to be moved the least
+Candidate bestPlaceAtEdge(const Sides &sides, const BalloonShape &shape, QSizeF view, const OvRect &icon,
+                          float distance, const OvRect &screen)
+{
+    const bool level = sides == below || sides == above;
+    const QPointF point = anchor(icon, sides);
+    Candidate best;
+    for (const OvSide side : sides) {
+        const QPointF shift = shiftInto(layOutBalloon(shape, view, point, side, distance).window, screen);
+        if (shift.manhattanLength() >= best.shift)
+            continue;
+        const double along = std::abs(level ? shift.x() : shift.y());
+        const double away = std::abs(level ? shift.y() : shift.x());
+        const double reach = (level ? icon.width : icon.height) * 0.5;
+        best = {{point + shift, side}, shift.manhattanLength(), away == 0 && along <= reach};
+    }
+    return best;
+}
+
 } // namespace
 
 BalloonPlacement placeBalloon(const BalloonShape &shape, QSizeF view, const OvRect &icon, float distance,
                               const OvRect &screen, const OvRect &workArea)
 {
-    BalloonPlacement best;
-    double leastShift = HUGE_VAL;
+    Candidate best;
     for (const Sides &sides : sidesInOrder(icon, workArea)) {
-        const QPointF point = anchor(icon, sides);
-        for (const OvSide side : sides) {
-            const QPointF shift = shiftInto(layOutBalloon(shape, view, point, side, distance).window, screen);
-            if (shift.manhattanLength() >= leastShift)
-                continue;
-            leastShift = shift.manhattanLength();
-            best = {point + shift, side};
-        }
+        const Candidate candidate = bestPlaceAtEdge(sides, shape, view, icon, distance, screen);
+        if (candidate.pointsAtIcon)
+            return candidate.placement;
+        if (candidate.shift < best.shift)
+            best = candidate;
     }
-    return best;
+    return best.placement;
 }
 
 BalloonPlacement placeBalloonInCorner(const BalloonShape &shape, QSizeF view, const OvRect &screen,

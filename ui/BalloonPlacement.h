@@ -15,7 +15,8 @@ struct BalloonPlacement {
 /// Finds a place for a balloon that points at an icon and is wholly visible on the icon's screen.
 ///
 /// Below the icon, from the middle of its lower edge, where that fits; an icon in a panel at another edge of the screen
-/// gets it on the side away from that edge. Where nothing fits, the place is used that has to be moved the least.
+/// gets it on the side away from that edge. It moves along the icon as far as it must. Where nothing fits, the place is
+/// used that has to be moved the least.
 /// All rectangles have y upwards.
 /// @param workArea  the part of @p screen that no panel covers
 BalloonPlacement placeBalloon(const BalloonShape &shape, QSizeF view, const OvRect &icon, float distance,
