@@ -1,6 +1,6 @@
 #include "simulator/ManualClock.h"
 
-#include <iterator>
+#include <algorithm>
 
 namespace tarvo {
 
@@ -13,7 +13,7 @@ Clock::TimePoint ManualClock::now() const
 bool ManualClock::waitUntil(TimePoint deadline, std::stop_token stop)
 {
     std::unique_lock lock(m_mutex);
-    const auto entry = m_deadlines.insert(deadline);
+    const auto entry = m_deadlines.emplace(deadline, stop);
     m_changed.notify_all();
     m_changed.wait(lock, stop, [&] { return m_now >= deadline; });
     m_deadlines.erase(entry);
@@ -37,7 +37,9 @@ bool ManualClock::waitForSleepers(std::size_t count, std::chrono::milliseconds l
 
 std::size_t ManualClock::sleepers() const
 {
-    return static_cast<std::size_t>(std::distance(m_deadlines.upper_bound(m_now), m_deadlines.end()));
+    return static_cast<std::size_t>(
+        std::count_if(m_deadlines.upper_bound(m_now), m_deadlines.end(),
+                      [](const auto &deadline) { return !deadline.second.stop_requested(); }));
 }
 
 } // namespace tarvo

@@ -4,8 +4,9 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <map>
 #include <mutex>
-#include <set>
+#include <stop_token>
 
 namespace tarvo {
 
@@ -29,7 +30,7 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable_any m_changed;
     TimePoint m_now{std::chrono::hours(1)};
-    std::multiset<TimePoint> m_deadlines; ///< of the waits under way, some of them perhaps reached
+    std::multimap<TimePoint, std::stop_token> m_deadlines; ///< of the waits under way, some perhaps over already
 };
 
 } // namespace tarvo

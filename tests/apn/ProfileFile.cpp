@@ -1,0 +1,110 @@
+#include "apn/ProfileFile.h"
+
+#include "tests/apn/ProfileFolder.h"
+#include "tests/support/PrintQt.h"
+
+#include <sys/stat.h>
+
+#include <random>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What CipherInputs promises, word for word and at its full cost.
+std::optional<QByteArray> plainlyChosenInput(const QByteArray &file, qsizetype record)
+{
+    const QByteArray text(file.constData() + record); // to the zero byte, or the one that ends the array
+    const qsizetype lineEnd = text.isValidUtf8() ? text.lastIndexOf("\r\n") : -1;
+    if (lineEnd < 0)
+        return file.mid(record, 128);
+    return lineEnd < 128 ? std::nullopt : std::optional(text.first(128));
+}
+
+/// A block that is chosen first, and a key that decodes it. With c the block, s the cube root of c less the wanted
+/// padded text m, and n = c + s, c^3 is -s^3 modulo n, and c + s - s^3 differs from m in its lower two thirds only.
+struct ChosenBlock {
+    QByteArray start; ///< dots follow, up to the last byte
+    char last;
+    QByteArray publicKey;
+};
+
+const ChosenBlock allText{"This block is a text itself: none of its bytes is zero, all are letters, blanks or stops. "
+                          "So its record is read as text. ",
+                          '.',
+                          "MIGcMA0GCSqGSIb3DQEBAQUAA4GKADCBhgKBgFRoaXMgYmxvY2sgaXMgYSB0ZXh0IGl0c2VsZjog"
+                          "bm9uZSBvZiBpdHMgYnl0ZXMgaXMgemVybywgYWxsIGFyZSBsZXR0ZXJzLCBibGFua3Mgb3Igc3SL"
+                          "SqLBC3k8x/zi8E5LuxuvxQOavlxTAgFJmthzzAoGfcfqkFCHQbXQ+QfVAgED"};
+const ChosenBlock lineEndInside{"This block holds a line end\r\nand later a zero byte", '\0',
+                                "MIGcMA0GCSqGSIb3DQEBAQUAA4GKADCBhgKBgFRoaXMgYmxvY2sgaG9sZHMgYSBsaW5lIGVuZA0K"
+                                "YW5kIGxhdGVyIGEgemVybyBieXRlLi4uLi4uLi4uLi4uLi4uLi4uLi4uLi4uLi4uLi4uLi4uLi5K"
+                                "CF3BGVP71cGcq1vq8pcAh7hblJ5v3CILtUo28Lif9mYFMOKrbuyF6yLfAgED"};
+
+} // namespace
+
+TEST(ProfileFile, ARecordThatIsTextIsDecodedAsItsTextSays)
+{
+    const QString record = uR"({"index":3,"profile":"Alpha"})"_s;
+    for (const ChosenBlock *chosen : {&allText, &lineEndInside}) {
+        const auto key = ProfileKey::fromDer(QByteArray::fromBase64(chosen->publicKey));
+        ASSERT_TRUE(key);
+        const QByteArray block = chosen->start.leftJustified(127, '.') + chosen->last;
+        const auto plain =
+            key->decrypt(ProfileBlock(reinterpret_cast<const unsigned char *>(block.constData()), profileBlockSize));
+        ASSERT_TRUE(plain && QString::fromUtf8(plain->data()) == record) << "the block itself is good";
+
+        const ProfileText text = decodeProfile((block + "\r\n").repeated(3), *key);
+        if (chosen == &allText)
+            EXPECT_EQ(text.text, record.repeated(3));
+        else
+            EXPECT_EQ(text.problem, u"record 1 does not decode"_s) << "its text ends before the block does";
+    }
+}
+
+TEST(ProfileFile, ChoosesTheSameBytesAsThePlainRule)
+{
+    std::mt19937 random(1);
+    const QByteArray pieces[] = {"a", "bc", "de", "\r\n", "\xc3\xa9", "\xc3"};
+    int tooShort = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QByteArray file;
+        while (file.size() < 4 * 130)
+            file += pieces[random() % (3 + round % 4)];
+        file.truncate(4 * 130);
+        for (auto zeros = random() % 5; zeros > 0; --zeros)
+            file[static_cast<qsizetype>(random() % file.size())] = '\0';
+        if (round % 2)
+            file.replace(128, 2, "\r\n").replace(258, 2, "\r\n").replace(388, 2, "\r\n");
+        CipherInputs inputs(file);
+        for (qsizetype record = 0; record < file.size(); record += 130) {
+            const auto expected = plainlyChosenInput(file, record);
+            const auto input = inputs.at(record);
+            ASSERT_EQ(input.has_value(), expected.has_value()) << round << ' ' << record;
+            ASSERT_TRUE(!input
+                        || std::equal(input->begin(), input->end(), expected->begin(), expected->end(),
+                                      [](unsigned char a, char b) { return a == static_cast<unsigned char>(b); }));
+            tooShort += input ? 0 : 1;
+        }
+    }
+    EXPECT_GT(tooShort, 100);
+}
+
+TEST(ProfileFile, SaysWhyAFileCannotBeRead)
+{
+    const ProfileFolder folder;
+    folder.write(u"big"_s, {});
+    ASSERT_TRUE(QFile::resize(folder.path(u"big"_s), qint64{1} << 30));
+    QFile::link(folder.path(u"loop"_s), folder.path(u"loop"_s));
+    QFile::link(u"/dev/zero"_s, folder.path(u"device"_s));
+    ASSERT_EQ(::mkfifo(folder.path(u"fifo"_s).toLocal8Bit().constData(), 0600), 0);
+    const std::pair<QString, QString> cases[] = {
+        {u"big"_s, u"it is larger than 1048576 bytes"_s},
+        {u"loop"_s, u"it cannot be read: Too many levels of symbolic links"_s},
+        {u"none"_s, u"it cannot be read: No such file or directory"_s},
+        {u"fifo"_s, u"it is no regular file"_s},
+        {u"device"_s, u"it is no regular file"_s},
+    };
+    for (const auto &[name, problem] : cases)
+        EXPECT_EQ(readProfileBytes(folder.path(name)).problem, problem);
+}

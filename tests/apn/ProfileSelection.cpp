@@ -1,0 +1,108 @@
+#include "apn/ProfileSelection.h"
+
+#include "simulator/RecordingLog.h"
+#include "tests/apn/ProfileFolder.h"
+#include "tests/support/PrintQt.h"
+
+#include <QRegularExpression>
+
+#include <filesystem>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Selection : testing::Test {
+    QStringList select(const QString &totalProfile)
+    {
+        return getValidParsedContentFromApnProfiles(totalProfile, systemLog, {});
+    }
+
+    ProfileFolder folder;
+    RecordingLog systemLog;
+};
+
+} // namespace
+
+TEST_F(Selection, ReadsTheListOfProfiles)
+{
+    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
+    EXPECT_EQ(systemLog.lines(), QStringList{u"can not find profile.xml"_s});
+    folder.add(u"profile.xml"_s, u"A*B"_s);
+    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), u"A*B"_s);
+    EXPECT_EQ(select(u"profile"_s), QStringList()) << "the list is no candidate";
+    EXPECT_EQ(systemLog.lines().last(), u"can not find *.xml files!"_s);
+    folder.write(u"profile.xml"_s, "damaged");
+    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
+    EXPECT_EQ(systemLog.lines().last(),
+              folder.path(u"profile.xml is skipped: its length is no multiple of 130 bytes"_s));
+}
+
+TEST_F(Selection, TakesListedFilesInListingOrder)
+{
+    QStringList names{u"profile"_s};
+    for (int i = 0; i < 30; ++i) {
+        names.append(u"N%1"_s.arg(i));
+        folder.add(u"%1%2.xml"_s.arg(i % 3 ? QString() : u"sub%1/"_s.arg(i % 4), names.last()), names.last());
+    }
+    for (const QString &name : {u"other.xml"_s, u"sub/profile.xml"_s, u"N1.XML"_s, u"profile.xml"_s, u"sub/N1.xml"_s})
+        folder.add(name, name);
+
+    QStringList expected;
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(APN_ROOT)) {
+        const QString path = QString::fromStdString(entry.path().string());
+        if (path.endsWith(u"sub/N1.xml") || path.endsWith(u"sub/profile.xml"))
+            expected.append(path.sliced(folder.path(QString()).size()));
+        else if (QFileInfo(path).fileName().startsWith(u'N') && path.endsWith(u".xml"))
+            expected.append(QFileInfo(path).baseName());
+    }
+    EXPECT_EQ(expected.size(), 32);
+    EXPECT_EQ(select(names.join(u'*') + u"**nowhere"_s), expected);
+    EXPECT_EQ(systemLog.lines(), QStringList());
+}
+
+TEST_F(Selection, PassesOverWhatCannotBeUsed)
+{
+    folder.add(u"good.xml"_s, u"good"_s);
+    folder.write(u"short.xml"_s, "damaged");
+    folder.write(u"unlisted.xml"_s, "damaged");
+    folder.add(u"xmlname.xml"_s, u"never"_s);
+    folder.add(u"folder.xml/inner.xml"_s, u"inner"_s);
+    QFile::link(folder.path(u"link.xml"_s), folder.path(u"link.xml"_s));
+    QFile::link(folder.path(QString()), folder.path(u"again"_s));
+    QStringList texts = select(u"good*short*xmlname*folder*inner*link"_s);
+    texts.sort();
+    EXPECT_EQ(texts, (QStringList{u"good"_s, u"inner"_s}));
+    QStringList lines = systemLog.lines();
+    lines.sort();
+    QStringList expected{u"folder.xml is skipped: it is a folder"_s,
+                         u"link.xml is skipped: it cannot be read: Too many levels of symbolic links"_s,
+                         u"short.xml is skipped: its length is no multiple of 130 bytes"_s,
+                         u"xmlname.xml is skipped: its name cannot be cut before the extension"_s};
+    EXPECT_EQ(lines, expected.replaceInStrings(QRegularExpression(u"^"_s), folder.path(QString())));
+}
+
+TEST(CheckDefaultApn, PicksTheNameOrItsSuccessor)
+{
+    struct Case {
+        std::optional<QString> name;
+        QStringList names;
+        int index;
+        QStringList after;
+    };
+    const Case cases[] = {
+        {u"b"_s, {u"c"_s, u"a"_s}, 0, {u"a"_s, u"b"_s, u"c"_s}},
+        {u"d"_s, {u"c"_s, u"a"_s}, 1, {u"a"_s, u"c"_s, u"d"_s}},
+        {u"a"_s, {u"c"_s, u"a"_s}, 1, {u"c"_s, u"a"_s}},
+        {u"a"_s, {}, -1, {}},
+        {std::nullopt, {u"c"_s}, 0, {u"c"_s}},
+        {u""_s, {u"c"_s}, 0, {u"c"_s}},
+        {u""_s, {u"c"_s, u""_s}, 1, {u"c"_s, u""_s}},
+    };
+    for (const Case &row : cases) {
+        QStringList names = row.names;
+        EXPECT_EQ(checkDefaultApn(row.name, names), row.index);
+        EXPECT_EQ(names, row.after);
+    }
+}

@@ -1,0 +1,84 @@
+#include "apn/ProfileDecoding.h"
+#include "apn/tool/FolderReport.h"
+#include "apn/tool/ProfileSource.h"
+#include "tests/apn/ProfileFolder.h"
+#include "tests/support/PrintQt.h"
+
+#include <QProcess>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString record = uR"({"index":"3","isPC":1,"isWeb":0,"pdp_type":1,"profile":"P","apn":"a","auth":0,)"
+                       uR"("username":"","password":"","dns_mode":0,"prefer_dns":"","standby_dns":"",)"
+                       uR"("ipv6_prefer_dns":"","ipv6_standby_dns":""})"_s;
+
+int runTool(const QStringList &arguments, QByteArray *output = nullptr)
+{
+    QProcess tool;
+    tool.start(QStringLiteral(TARVO_PROFILE_TOOL), arguments);
+    EXPECT_TRUE(tool.waitForFinished());
+    if (output)
+        *output = tool.readAllStandardOutput();
+    return tool.exitCode();
+}
+
+} // namespace
+
+TEST(ProfileTool, AcceptsGoodRecordsAndNamesWhatIsWrong)
+{
+    EXPECT_EQ(readSource(record).problems, QStringList());
+    EXPECT_EQ(readSource(QString(record).replace(u","_s, u",\r\n  "_s)).text, record);
+    const std::pair<std::pair<QString, QString>, QString> changes[] = {
+        {{u"\"apn\":\"a\","_s, u""_s}, u"key \"apn\" is missing"_s},
+        {{u"\"apn\""_s, u"\"x\":1,\"apn\""_s}, u"key \"x\" is unknown"_s},
+        {{u"\"3\""_s, u"\"three\""_s}, u"\"index\" is no integer"_s},
+        {{u"\"3\""_s, u"3.5"_s}, u"\"index\" is no integer"_s},
+        {{u"\"a\""_s, u"1"_s}, u"\"apn\" is no text"_s},
+        {{u"\"P\""_s, u"\"\""_s}, u"\"profile\" is empty"_s},
+        {{u"\"a\""_s, u"\"a&b\""_s}, u"'&' does not reach the modem; write it as \\u0026"_s},
+    };
+    for (const auto &[change, problem] : changes)
+        EXPECT_EQ(readSource(QString(record).replace(change.first, change.second)).problems, QStringList{problem});
+    EXPECT_EQ(readSource(uR"(["A","B"])"_s).text, u"A*B"_s);
+    EXPECT_EQ(readSource(uR"(["A","A","","a*b","profxml",7])"_s).problems.size(), 6);
+}
+
+TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
+{
+    const ProfileFolder folder;
+    folder.add(u"profile.xml"_s, u"A*Gone"_s);
+    folder.add(u"A.xml"_s, record);
+    const ProfileKey key = folder.signer().publicKey();
+    EXPECT_FALSE(reportFolder(folder.path(QString()), key).isInOrder);
+    folder.add(u"sub/Gone.xml"_s, record);
+    EXPECT_TRUE(reportFolder(folder.path(QString()), key).isInOrder);
+    folder.write(u"Other.xml"_s, "x");
+    QStringList lines = reportFolder(folder.path(QString()), key).lines;
+    lines.sort();
+    EXPECT_EQ(
+        lines,
+        (QStringList{u"A.xml: listed, in order"_s, u"Other.xml: not listed, its length is no multiple of 130 bytes"_s,
+                     u"profile.xml: lists A, Gone"_s, u"sub/Gone.xml: listed, in order"_s}));
+}
+
+TEST(ProfileTool, PacksWhatTheCompanionReads)
+{
+    const ProfileFolder folder;
+    const QString key = QStringLiteral(TARVO_DEMO_PRIVATE_KEY);
+    const QString packed = folder.path(u"A.xml"_s);
+    folder.write(u"a.json"_s, record.toUtf8());
+    folder.write(u"names.json"_s, R"(["A"])");
+    EXPECT_EQ(runTool({u"pack"_s, u"--key"_s, key, u"-o"_s, packed, folder.path(u"a.json"_s)}), 0);
+    EXPECT_EQ(decryptApnFile(packed), record);
+    QByteArray text;
+    EXPECT_EQ(runTool({u"unpack"_s, packed}, &text), 0);
+    EXPECT_EQ(text, record.toUtf8() + '\n');
+    EXPECT_EQ(runTool({u"check"_s, folder.path(QString())}), 1) << "there is no list";
+    EXPECT_EQ(runTool({u"pack"_s, u"--key"_s, key, u"-o"_s, packed, folder.path(u"names.json"_s)}), 1)
+        << "a list has its own name";
+    EXPECT_EQ(runTool({u"pack"_s, folder.path(u"a.json"_s)}), 2);
+    EXPECT_EQ(decryptApnFile(packed), record) << "and nothing was written over";
+}
