@@ -42,9 +42,14 @@ QRegularExpression wholeKey(const QString &pattern)
     return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
+bool matches(const QRegularExpression &expression, const QString &key)
+{
+    return expression.isValid() && expression.match(key).hasMatch();
+}
+
 bool matchesAny(const QList<QRegularExpression> &expressions, const QString &key)
 {
-    return std::ranges::any_of(expressions, [&](const auto &expression) { return expression.match(key).hasMatch(); });
+    return std::ranges::any_of(expressions, [&](const auto &expression) { return matches(expression, key); });
 }
 
 QList<QRegularExpression> wholeKeys(const QStringList &patterns)
@@ -64,7 +69,7 @@ void forEachMatch(const StateStore::Entries &entries, const QString &pattern,
     const QRegularExpression expression = wholeKey(pattern);
     for (auto entry = entries.lowerBound(start.toString()); entry != entries.cend() && entry.key().startsWith(start);
          ++entry) {
-        if (entry.key() == pattern || expression.match(entry.key()).hasMatch())
+        if (entry.key() == pattern || matches(expression, entry.key()))
             found(entry.key(), entry.value());
     }
 }

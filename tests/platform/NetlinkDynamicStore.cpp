@@ -1,0 +1,187 @@
+#include "platform/linux/NetlinkDynamicStore.h"
+
+#include "platform/linux/SocketBinding.h"
+#include "simulator/RecordingLog.h"
+#include "tests/support/PrintQt.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+#include <net/if.h>
+#include <sched.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <optional>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Runs ip(8) in the namespace of the calling thread. @param commands  one a line, without the word "ip"
+void ip(const QString &commands)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(u"ip"_s, {u"-batch"_s, u"-"_s});
+    process.write(commands.toUtf8());
+    process.closeWriteChannel();
+    ASSERT_TRUE(process.waitForFinished(60000));
+    ASSERT_EQ(process.exitCode(), 0) << commands.toStdString();
+}
+
+/// Moves the calling thread into a network namespace of its own. @return whether the kernel allowed it
+bool enterOwnNetwork()
+{
+    const QByteArray map = "0 " + QByteArray::number(geteuid()) + " 1";
+    if (unshare(CLONE_NEWNET) == 0)
+        return true;
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
+        return false;
+    QFile asRoot(u"/proc/self/uid_map"_s);
+    return asRoot.open(QIODevice::WriteOnly) && asRoot.write(map) == map.size();
+}
+
+/// A store in a network namespace of its own, in which en5 has the peer far5.
+class NetlinkDynamicStoreTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!enterOwnNetwork())
+            GTEST_SKIP() << "no network namespace can be made here";
+        ip(u"link add en5 type veth peer name far5\nlink set far5 up\n"
+           "addr add 192.168.8.100/24 dev en5\nlink set en5 up\nroute add default via 192.168.8.1"_s);
+        m_store.emplace(m_log);
+        m_session = m_store->createSession(u"observer"_s, [this](auto &, const auto &keys) { m_told += keys; });
+        m_session->setNotificationPatterns({u".*"_s});
+    }
+
+    QString router(const QString &name = u"en5"_s) const
+    {
+        const auto state = m_session->copyValue(store::serviceIPv4Key(name));
+        return state ? state->value(store::kSCPropNetIPv4Router, u"no router"_s).toString() : u"no service"_s;
+    }
+
+    /// Runs the event loop until @p condition holds. @return whether it came to hold within 10 s
+    template <typename Condition>
+    static bool eventually(const Condition &condition)
+    {
+        const QDeadlineTimer deadline(10000);
+        while (!condition() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        return condition();
+    }
+    bool becomes(const QString &expected) const
+    {
+        return eventually([&] { return router() == expected; });
+    }
+
+    RecordingLog m_log;
+    std::optional<NetlinkDynamicStore> m_store;
+    std::unique_ptr<DynamicStoreSession> m_session;
+    QStringList m_told;
+};
+
+TEST_F(NetlinkDynamicStoreTest, FollowsAddressesRoutesAndLinks)
+{
+    EXPECT_EQ(router(), u"192.168.8.1"_s) << "what was there before the store";
+    const std::pair<QString, QString> steps[]{
+        {u"route add default via 192.168.8.2 metric 50\nroute del default metric 0"_s, u"192.168.8.2"_s},
+        {u"route replace default via 192.168.8.3 metric 50"_s, u"192.168.8.3"_s},
+        {u"link set en5 down"_s, u"no service"_s},
+        {u"link set en5 up"_s, u"no router"_s},
+        {u"link set far5 addrgenmode none\nroute add default table 100 nexthop via 192.168.8.4 dev en5 weight 1"_s,
+         u"192.168.8.4"_s},
+        {u"route flush table 100\nlink add en6 type veth peer name far6\naddr add 10.0.0.1/24 dev en6\nlink set en6 "
+         u"up\n"
+         "route add default nexthop via 10.0.0.2 dev en6 nexthop via 192.168.8.5 dev en5"_s,
+         u"192.168.8.5"_s},
+        {u"nexthop add id 7 via 192.168.8.6 dev en5\nroute replace default nhid 7"_s, u"192.168.8.6"_s},
+        {u"nexthop del id 7"_s, u"no router"_s},
+        {u"route add default via 192.168.8.7 src 192.168.8.100"_s, u"192.168.8.7"_s},
+        {u"addr add 192.168.8.9/24 dev en5\naddr del 192.168.8.100/24 dev en5\naddr add 192.168.8.9/24 dev en5"_s,
+         u"no router"_s},
+        {u"addr flush dev en5"_s, u"no service"_s},
+    };
+    for (const auto &[commands, expected] : steps) {
+        ip(commands);
+        EXPECT_TRUE(becomes(expected)) << commands.toStdString() << ": " << router().toStdString();
+    }
+}
+
+TEST_F(NetlinkDynamicStoreTest, TellsOnlyOfRealChanges)
+{
+    ip(u"addr replace 192.168.8.100/24 dev en5 valid_lft 600 preferred_lft 600\nlink set en5 mtu 1400\n"
+       "link set en5 down\nlink set en5 name enx5\nlink set enx5 up\nroute add default via 192.168.8.1"_s);
+    EXPECT_TRUE(eventually([&] { return router(u"enx5"_s) == u"192.168.8.1"_s; }));
+    EXPECT_EQ(m_told.count(store::interfaceListKey), 1);
+    EXPECT_EQ(m_store->interfaceIndex(u"enx5"_s), int(if_nametoindex("enx5")));
+
+    m_told.clear();
+    ip(u"addr replace 192.168.8.100/24 dev enx5 valid_lft 900 preferred_lft 900\nlink set enx5 mtu 1500\n"
+       "addr add 10.1.1.1/32 dev lo\nlink set lo up"_s);
+    const QString lo = store::serviceIPv4Key(u"lo"_s);
+    EXPECT_TRUE(eventually([&] { return m_told.contains(lo); }));
+    EXPECT_FALSE(m_told.contains(store::serviceIPv4Key(u"enx5"_s)));
+
+    m_told.clear();
+    m_store->announceServices();
+    EXPECT_EQ(m_told, (QStringList{store::serviceIPv4Key(u"enx5"_s), lo}));
+}
+
+TEST_F(NetlinkDynamicStoreTest, TakesANameAwayBeforeAnotherLinkHasIt)
+{
+    QList<int> removed;
+    m_store->setLinkRemovedHandler([&](int index) { removed.append(index); });
+    const int before = m_store->interfaceIndex(u"en5"_s);
+    ip(u"link del en5\nlink add en5 type veth peer name far5\n"
+       "addr add 192.168.8.100/24 dev en5\nlink set en5 up\nlink set far5 up\nroute add default via 192.168.8.1"_s);
+    EXPECT_TRUE(
+        eventually([&] { return m_store->interfaceIndex(u"en5"_s) != before && router() == u"192.168.8.1"_s; }));
+    EXPECT_EQ(m_told.count(store::interfaceListKey), 2);
+    EXPECT_EQ(m_told.count(store::serviceIPv4Key(u"en5"_s)), 2);
+    EXPECT_TRUE(removed.contains(before));
+}
+
+TEST_F(NetlinkDynamicStoreTest, SurvivesABurstThatOverrunsTheSocket)
+{
+    QString burst;
+    for (int i = 0; i < 1000; ++i)
+        burst += u"link add a%1 group 9 type veth peer name b%1\n"_s.arg(i);
+    const auto count = [&] {
+        return m_session->copyValue(store::interfaceListKey)
+            ->value(store::kSCDynamicStorePropNetInterfaces)
+            .toList()
+            .size();
+    };
+    ip(burst + u"route replace default via 192.168.8.2"_s);
+    EXPECT_TRUE(eventually([&] { return count() == 2003; }));
+    EXPECT_EQ(router(), u"192.168.8.2"_s);
+    EXPECT_TRUE(m_log.contains(u"network state: events were lost, reading everything again"_s));
+    ip(u"link del group 9"_s);
+    EXPECT_TRUE(eventually([&] { return count() == 3; }));
+    EXPECT_EQ(router(), u"192.168.8.2"_s);
+}
+
+TEST_F(NetlinkDynamicStoreTest, SocketsAreTiedToAnInterfaceThatIsThere)
+{
+    for (const auto &[name, expected] :
+         {std::pair{u"en5"_s, "en5"}, {u"none"_s, ""}, {u""_s, ""}, {QString(300, u'e'), ""}}) {
+        const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        bindSocketToInterface(socket, name);
+        char bound[IFNAMSIZ]{};
+        socklen_t length = sizeof bound;
+        EXPECT_EQ(getsockopt(socket, SOL_SOCKET, SO_BINDTODEVICE, bound, &length), 0);
+        EXPECT_STREQ(bound, expected);
+        close(socket);
+    }
+}
+
+} // namespace
+
+} // namespace tarvo

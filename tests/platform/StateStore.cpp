@@ -1,0 +1,79 @@
+#include "platform/StateStore.h"
+
+#include "tests/support/PrintQt.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QVariantMap value(int number)
+{
+    return {{u"n"_s, number}};
+}
+
+TEST(StateStore, PatternsMatchWholeKeys)
+{
+    StateStore state;
+    const QStringList keys{u"a/b"_s, u"a/b+c"_s, u"a/bb"_s, u"a/bb/c"_s, u"x"_s};
+    StateStore::Entries entries;
+    for (const QString &key : keys)
+        entries.insert(key, value(1));
+    state.replaceEntries(entries);
+    const auto session = state.createSession(u"reader"_s, {});
+
+    const std::pair<QString, QStringList> cases[]{
+        {u"a/b"_s, {u"a/b"_s}},
+        {u"a/[^/]+"_s, {u"a/b"_s, u"a/b+c"_s, u"a/bb"_s}},
+        {u"a/bb?"_s, {u"a/b"_s, u"a/bb"_s}},
+        {u"a/bb*/c"_s, {u"a/bb/c"_s}},
+        {u"a/bb{0}"_s, {u"a/b"_s}},
+        {u"x|a/b"_s, {u"a/b"_s, u"x"_s}},
+        {u"a/b+c"_s, {u"a/b+c"_s}},
+        {u"a"_s, {}},
+        {u"("_s, {}},
+        {u".*"_s, keys},
+    };
+    for (const auto &[pattern, expected] : cases)
+        EXPECT_EQ(session->copyKeyList(pattern), expected) << pattern.toStdString();
+}
+
+TEST(StateStore, TellsEachChangedKeyOnceAndOnlyThose)
+{
+    StateStore state;
+    state.replaceEntries({{u"k/1"_s, value(1)}, {u"k/2"_s, value(2)}, {u"k/3"_s, value(3)}});
+    QList<QStringList> told;
+    const auto session = state.createSession(u"observer"_s, [&](auto &, const auto &keys) { told.append(keys); });
+    session->setNotificationPatterns({u"k/.*"_s});
+
+    state.replaceEntries({{u"k/1"_s, value(1)}, {u"k/2"_s, value(9)}, {u"k/4"_s, value(4)}, {u"other"_s, value(5)}});
+    EXPECT_EQ(told, (QList<QStringList>{{u"k/2"_s}, {u"k/3"_s}, {u"k/4"_s}}));
+
+    told.clear();
+    state.announce(u"k/[14]"_s);
+    EXPECT_EQ(told, (QList<QStringList>{{u"k/1"_s}, {u"k/4"_s}}));
+}
+
+TEST(StateStore, ASessionMayBeClosedByItsOwnCallback)
+{
+    StateStore state;
+    int calls = 0;
+    std::unique_ptr<DynamicStoreSession> session;
+    session = state.createSession(u"observer"_s, [&](auto &, const auto &) {
+        ++calls;
+        session.reset();
+    });
+    session->setNotificationPatterns({u".*"_s});
+    state.replaceEntries({{u"1"_s, value(1)}, {u"2"_s, value(2)}});
+    EXPECT_EQ(calls, 1);
+}
+
+} // namespace
+
+} // namespace tarvo
