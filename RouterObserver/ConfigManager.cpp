@@ -70,10 +70,24 @@ std::optional<QVariant> entryOf(const QVariantMap &map, const QString &key)
 
 QVariant elementEqualTo(const QVariantList &list, const QString &key)
 {
-    const auto position = static_cast<quint32>(list.indexOf(QVariant(key)));
+    const auto element = std::ranges::find_if(list, [&](const QVariant &value) { return isText(value, key); });
+    const qsizetype index = element == list.end() ? -1 : element - list.begin();
+    const auto position = static_cast<quint32>(index);
     if (position >= static_cast<quint64>(list.size()))
         throw std::out_of_range("no element of the array equals the key");
     return list[position];
+}
+
+bool isEqual(const QVariant &one, const QVariant &other)
+{
+    const bool oneIsText = one.typeId() == QMetaType::QString;
+    const bool otherIsText = other.typeId() == QMetaType::QString;
+    return oneIsText == otherIsText && one == other; // a variant takes a text and a number for equal
+}
+
+bool contains(const QVariantList &list, const QVariant &value)
+{
+    return std::ranges::any_of(list, [&](const QVariant &element) { return isEqual(element, value); });
 }
 
 bool textAsFlag(const QString &text)
@@ -152,7 +166,7 @@ bool ConfigManager::setConfigurationByModuleKeyAndValue(const std::optional<QStr
         auto map = content.toMap();
         map.insert(*key, value);
         content = map;
-    } else if (isList(content) && !content.toList().contains(value)) {
+    } else if (isList(content) && !contains(content.toList(), value)) {
         auto list = content.toList();
         list.append(value);
         content = list;
@@ -196,6 +210,11 @@ void ConfigManager::flush() const
     if (!file.open(QIODevice::WriteOnly) || file.write(*bytes) != bytes->size())
         return;
     file.commit();
+}
+
+bool isText(const QVariant &value, const QString &text)
+{
+    return value.typeId() == QMetaType::QString && value.toString() == text;
 }
 
 bool boolValue(const std::optional<QVariant> &value)

@@ -51,6 +51,9 @@ private:
     std::optional<QString> loadProblem_;
 };
 
+/// @return whether @p value is a text, and equal to @p text; a number never is
+bool isText(const QVariant &value, const QString &text);
+
 /// Reads @p value as a truth value: a number is true unless zero, a text when its first non-blank character is one of
 /// "YyTt" or a digit 1 to 9. Nil is false.
 bool boolValue(const std::optional<QVariant> &value);

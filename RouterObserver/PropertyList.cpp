@@ -65,7 +65,7 @@ std::optional<QVariant> toValue(plist_t node);
 
 std::optional<QString> toText(const char *bytes, quint64 size)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(QByteArrayView(bytes, static_cast<qsizetype>(size)));
     return decoder.hasError() ? std::nullopt : std::optional(text);
 }
@@ -216,13 +216,18 @@ PropertyListReading readPropertyList(const QByteArray &bytes)
 {
     if (bytes.size() > maxPropertyListSize)
         return refused(u"it is larger than %1 bytes"_s.arg(maxPropertyListSize));
-    const bool binary = bytes.startsWith("bplist00");
-    if (const auto fault = binary ? binaryPropertyListFault(bytes) : xmlPropertyListFault(bytes))
-        return refused(*fault);
     const PointAsDecimalSign point;
     plist_t parsed = nullptr;
-    const auto parse = binary ? plist_from_bin : plist_from_xml;
-    parse(bytes.constData(), static_cast<quint32>(bytes.size()), &parsed);
+    if (bytes.startsWith("bplist00")) {
+        if (const auto fault = binaryPropertyListFault(bytes))
+            return refused(*fault);
+        plist_from_bin(bytes.constData(), static_cast<quint32>(bytes.size()), &parsed);
+    } else {
+        const auto [text, fault] = plainPropertyListXml(bytes);
+        if (!text)
+            return refused(fault);
+        plist_from_xml(text->constData(), static_cast<quint32>(text->size()), &parsed);
+    }
     const Node root(parsed);
     if (!root)
         return refused(u"it is no property list"_s);

@@ -1,6 +1,7 @@
 #include "RouterObserver/PropertyListLimits.h"
 
 #include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 
 #include <vector>
 
@@ -14,6 +15,12 @@ constexpr quint64 headerSize = 8;
 constexpr quint64 trailerSize = 32;
 constexpr quint64 costOfObject = 64;
 
+// The upper half of an object's first byte.
+constexpr quint64 asciiKind = 0x5;
+constexpr quint64 utf16Kind = 0x6;
+constexpr quint64 arrayKind = 0xA;
+constexpr quint64 dictionaryKind = 0xD;
+
 struct Trailer {
     quint64 offsetSize;
     quint64 referenceSize;
@@ -26,7 +33,9 @@ struct Trailer {
 struct Object {
     quint64 payload;
     quint64 payloadSize;
-    bool isContainer;
+    quint64 kind;
+
+    bool isContainer() const { return kind == arrayKind || kind == dictionaryKind; }
 };
 
 /// Reads numbers and objects from a file whose trailer fits it.
@@ -45,6 +54,8 @@ public:
 private:
     quint64 byteAt(quint64 position) const { return static_cast<quint8>(m_bytes[static_cast<qsizetype>(position)]); }
     std::optional<quint64> payloadSize(quint64 kind, quint64 count) const;
+    /// @return whether the object is a text with a NUL in it, at which libplist ends the process if it is a key
+    bool endsEarly(const Object &object) const;
 
     const QByteArray &m_bytes;
     Trailer m_trailer{};
@@ -85,13 +96,13 @@ std::optional<quint64> BinaryFile::payloadSize(quint64 kind, quint64 count) cons
     case 0x3: // date
         return count == 3 ? std::optional<quint64>(8) : std::nullopt;
     case 0x4: // data
-    case 0x5: // ASCII text
+    case asciiKind:
         return count;
-    case 0x6: // UTF-16 text
+    case utf16Kind:
         return 2 * count;
-    case 0xA: // array
+    case arrayKind:
         return count * m_trailer.referenceSize;
-    case 0xD: // dictionary: keys, then values
+    case dictionaryKind: // keys, then values
         return 2 * count * m_trailer.referenceSize;
     default:
         return std::nullopt;
@@ -121,29 +132,46 @@ std::optional<Object> BinaryFile::object(quint64 index) const
     const auto size = payloadSize(kind, count);
     if (!size || *size > end - position)
         return std::nullopt;
-    return Object{position, *size, kind == 0xA || kind == 0xD};
+    const Object found{position, *size, kind};
+    return endsEarly(found) ? std::nullopt : std::optional(found);
+}
+
+bool BinaryFile::endsEarly(const Object &object) const
+{
+    if (object.kind != asciiKind && object.kind != utf16Kind)
+        return false;
+    const quint64 width = object.kind == utf16Kind ? 2 : 1;
+    for (quint64 i = 0; i < object.payloadSize; i += width) {
+        if (number(object.payload + i, width) == 0)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
 
-std::optional<QString> xmlPropertyListFault(const QByteArray &bytes)
+PlainXml plainPropertyListXml(const QByteArray &bytes)
 {
-    // libplist takes some texts for elements that no XML parser does, so its recursion is bounded by what it could
-    // at most find.
-    if (bytes.count("<array") + bytes.count("<dict") > maxPropertyListContainers)
-        return u"it has too many dictionaries and arrays"_s;
     QXmlStreamReader reader(bytes);
+    QByteArray plain;
+    QXmlStreamWriter writer(&plain);
     int depth = 0;
     while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement() && ++depth > maxPropertyListDepth)
-            return u"it is nested too deeply"_s;
-        if (reader.isEndElement())
+        const auto token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement && ++depth > maxPropertyListDepth)
+            return {std::nullopt, u"it is nested too deeply"_s};
+        if (token == QXmlStreamReader::StartElement)
+            writer.writeStartElement(reader.qualifiedName().toString());
+        if (token == QXmlStreamReader::Characters)
+            writer.writeCharacters(reader.text().toString());
+        if (token == QXmlStreamReader::EndElement) {
+            writer.writeEndElement();
             --depth;
+        }
     }
     if (reader.hasError())
-        return u"line %1: %2"_s.arg(reader.lineNumber()).arg(reader.errorString());
-    return std::nullopt;
+        return {std::nullopt, u"line %1: %2"_s.arg(reader.lineNumber()).arg(reader.errorString())};
+    return {plain, {}};
 }
 
 std::optional<QString> binaryPropertyListFault(const QByteArray &bytes)
@@ -168,7 +196,7 @@ std::optional<QString> binaryPropertyListFault(const QByteArray &bytes)
         cost += object->payloadSize + costOfObject;
         if (cost > maxExpandedPropertyList)
             return u"its shared objects make it too large"_s;
-        const quint64 end = object->isContainer ? object->payload + object->payloadSize : object->payload;
+        const quint64 end = object->isContainer() ? object->payload + object->payloadSize : object->payload;
         for (quint64 position = object->payload; position < end; position += width)
             pending.push_back({file.number(position, width), reference.depth + 1});
     }

@@ -18,21 +18,21 @@ namespace {
 /// The longest interface name that is looked up, in bytes of UTF-8.
 constexpr qsizetype maxBSDNameSize = 255;
 
-std::optional<QVariantList> deviceIdentifiers(const QString &key)
+QVariantList deviceIdentifiers(const QString &key)
 {
     const auto &configuration = ConfigManager::sharedConfigManager();
     const auto module = u"device_info"_s;
     const auto info = configuration.getConfigurationByModule(module);
     if (!info || info->typeId() != QMetaType::QVariantMap)
-        return std::nullopt;
-    const auto identifiers = configuration.getConfigurationByModuleAndKey(module, key);
-    return identifiers ? std::optional(identifiers->toList()) : std::nullopt;
+        return {};
+    return configuration.getConfigurationByModuleAndKey(module, key).value_or(QVariant()).toList();
 }
 
 bool isListed(const QString &key, qint64 identifier)
 {
     const auto identifiers = deviceIdentifiers(key);
-    return identifiers && identifiers->contains(QVariant(QString::number(static_cast<qint32>(identifier))));
+    const QString decimal = QString::number(static_cast<qint32>(identifier));
+    return std::ranges::any_of(identifiers, [&](const QVariant &listed) { return isText(listed, decimal); });
 }
 
 std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)

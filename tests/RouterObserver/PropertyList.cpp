@@ -1,0 +1,145 @@
+#include "RouterObserver/PropertyList.h"
+
+#include "tests/support/PrintQt.h"
+
+#include <QDateTime>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <gtest/gtest.h>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray bigEndian(quint64 value, int width)
+{
+    QByteArray bytes;
+    while (width-- > 0)
+        bytes.append(static_cast<char>(value >> (8 * width)));
+    return bytes;
+}
+
+/// A binary property list of @p objects, the first of which is the root; a reference is one byte.
+QByteArray binary(const QList<QByteArray> &objects)
+{
+    QByteArray bytes = "bplist00";
+    QByteArray table;
+    for (const QByteArray &object : objects) {
+        table += bigEndian(static_cast<quint64>(bytes.size()), 2);
+        bytes += object;
+    }
+    const auto tableOffset = static_cast<quint64>(bytes.size());
+    return bytes + table + bigEndian(0, 6) + "\x02\x01" + bigEndian(static_cast<quint64>(objects.size()), 8)
+        + bigEndian(0, 8) + bigEndian(tableOffset, 8);
+}
+
+/// Each array but the last object holds the next object @p width times.
+QByteArray arraysInArrays(int count, int width)
+{
+    QList<QByteArray> objects;
+    for (int i = 1; i <= count; ++i)
+        objects.append(char(0xA0 + width) + QByteArray(width, char(i)));
+    return binary(objects << "\x09"_ba);
+}
+
+QByteArray xml(const QByteArray &content)
+{
+    return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + content + "</plist>";
+}
+
+const QByteArray &smallBinary()
+{
+    static const QByteArray bytes =
+        binary({"\xD2\x01\x02\x03\x04"_ba, "\x51k"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba,
+                "\x23\x3F\xE0\0\0\0\0\0\0"_ba, "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
+    return bytes;
+}
+
+} // namespace
+
+TEST(PropertyList, KeepsTheKindOfEachValueThroughARoundTrip)
+{
+    const QVariantMap root{
+        {u"truth"_s, true},
+        {u"integer"_s, qlonglong(-4660)},
+        {u"real"_s, 0.1},
+        {u"whole real"_s, 2.0},
+        {u"text"_s, u"<é&\U0001F4F6> "_s},
+        {u"date"_s, QDateTime(QDate(2026, 2, 28), QTime(23, 59, 58), Qt::UTC)},
+        {u"data"_s, QByteArray("\0\xFF", 2)},
+        {u"list"_s, QVariantList{QVariantList{}, QVariantMap{}, u""_s, false}},
+    };
+    const auto written = writePropertyList(root);
+    ASSERT_TRUE(written);
+    const auto reading = readPropertyList(*written);
+    ASSERT_TRUE(reading.root) << reading.problem.toStdString();
+    const QVariantMap again = reading.root->toMap();
+    EXPECT_EQ(again, root);
+    for (const auto &[key, value] : root.asKeyValueRange())
+        EXPECT_EQ(again[key].typeId(), value.typeId()) << key.toStdString();
+}
+
+TEST(PropertyList, WritesNothingThatWouldNotBeReadBack)
+{
+    EXPECT_FALSE(writePropertyList(u"bell \a"_s));
+    EXPECT_FALSE(writePropertyList(std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_FALSE(writePropertyList(QVariantList{QVariant()}));
+}
+
+TEST(PropertyList, ReadsTheBinaryForm)
+{
+    const auto reading = readPropertyList(smallBinary());
+    ASSERT_TRUE(reading.root) << reading.problem.toStdString();
+    const QVariantMap expected{{u"k"_s, QVariantList{qlonglong(-5), QByteArray("\1\2")}}, {u"é"_s, 0.5}};
+    EXPECT_EQ(reading.root->toMap(), expected);
+}
+
+TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
+{
+    const struct {
+        const char *name;
+        QByteArray bytes;
+        QString problem;
+    } cases[] = {
+        {"empty", "", u"line 1"_s},
+        {"other XML", "<html/>", u"no property list"_s},
+        {"unclosed", "<plist><dict>", u"line 1"_s},
+        {"deep XML", xml(QByteArray("<array>").repeated(40) + QByteArray("</array>").repeated(40)), u"too deeply"_s},
+        {"NUL in a key", binary({"\xD1\x01\x02"_ba, "\x53\x61\0b"_ba, "\x09"_ba}), u"object 1 is damaged"_s},
+        {"key that is no text", binary({"\xD1\x01\x02"_ba, "\x09"_ba, "\x09"_ba}), u"no property list"_s},
+        {"no UTF-8", binary({"\x51\xE9"_ba}), u"unknown kind"_s},
+        {"large", xml("<string>" + QByteArray(1 << 20, 'x') + "</string>"), u"larger than"_s},
+        {"deep binary", arraysInArrays(40, 1), u"too deeply"_s},
+        {"loop", binary({"\xA1\x00"_ba}), u"too deeply"_s},
+        {"shared references that expand", arraysInArrays(20, 10), u"too large"_s},
+        {"large text shared often",
+         binary({char(0xAF) + "\x11\x02\x00"_ba + QByteArray(512, 1), "\x5F\x11\x75\x30"_ba + QByteArray(30000, 'x')}),
+         u"too large"_s},
+        {"reference to no object", binary({"\xA1\x07"_ba}), u"object 7 is damaged"_s},
+        {"text longer than the file", binary({"\x5F\x13\x7F\xFF\xFF\xFF\xFF\xFF\xFF\xFF"_ba}),
+         u"object 0 is damaged"_s},
+        {"archive reference", binary({"\x80\x01"_ba}), u"object 0 is damaged"_s},
+        {"header only", "bplist00", u"trailer"_s},
+    };
+    for (const auto &[name, bytes, problem] : cases) {
+        const auto reading = readPropertyList(bytes);
+        EXPECT_FALSE(reading.root) << name;
+        EXPECT_TRUE(reading.problem.contains(problem)) << name << ": " << reading.problem.toStdString();
+    }
+}
+
+TEST(PropertyList, SurvivesDamageAtAnyByte)
+{
+    const QByteArray whole = smallBinary();
+    for (qsizetype at = 0; at < whole.size(); ++at) {
+        for (const int damage : {0x01, 0x0F, 0x80, 0xFF}) {
+            QByteArray damaged = whole;
+            damaged[at] = static_cast<char>(damaged[at] ^ damage);
+            const auto reading = readPropertyList(damaged);
+            EXPECT_NE(reading.root.has_value(), !reading.problem.isEmpty()) << at;
+        }
+        EXPECT_FALSE(readPropertyList(whole.first(at)).root) << at;
+    }
+}
