@@ -75,6 +75,7 @@ void ActivityPanel::add(const QString &kind, const QString &text)
     const QScrollBar *bar = m_list->verticalScrollBar();
     const bool atEnd = bar->value() == bar->maximum();
     auto *item = new QTreeWidgetItem(m_list, {QTime::currentTime().toString(timeFormat), kind, text, QString()});
+    item->setToolTip(textColumn, text);
     item->setData(timesColumn, timesRole, 1);
     item->setForeground(timeColumn, palette().placeholderText());
     item->setForeground(timesColumn, palette().placeholderText());

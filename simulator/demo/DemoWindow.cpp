@@ -5,7 +5,6 @@
 #include "simulator/demo/CompanionPanel.h"
 #include "simulator/demo/DevicePanel.h"
 #include "simulator/demo/ModemPanel.h"
-#include "ui/Images.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -35,7 +34,6 @@ DemoWindow::DemoWindow(DemoWorld &world)
     layout->addLayout(views, 1);
 
     setWindowTitle(u"Tarvo with a simulated modem"_s);
-    setWindowIcon(applicationImage());
     resize(1000, 640);
     connect(&m_refreshing, &QTimer::timeout, this, &DemoWindow::refresh);
     m_refreshing.start(250ms);

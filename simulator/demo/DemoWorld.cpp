@@ -1,8 +1,10 @@
 #include "simulator/demo/DemoWorld.h"
 
 #include "app/Services.h"
+#include "platform/linux/Compositing.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QTimer>
 
 #include <chrono>
@@ -38,6 +40,7 @@ DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWo
     , m_workspace([this](const QUrl &page) { return openPage(page); })
     , m_statusBar(statusBar)
     , m_systemLog([this](const QString &line) { Q_EMIT lineLogged(line); })
+    , m_notifications(QDBusConnection::sessionBus(), m_systemLog)
 {
     m_modem.change([](ModemCondition &condition) { condition.defaultProfileName = u"Demo Büro"_s; });
     if (!folder.writeSettings(m_server.authority()))
@@ -51,6 +54,8 @@ DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWo
         .systemLog = m_systemLog,
         .bindSocketToInterface = {},
         .terminate = [] { QCoreApplication::quit(); },
+        .notifications = &m_notifications,
+        .isScreenComposited = isScreenComposited,
     });
     m_controller->awakeFromNib();
     m_controller->applicationDidFinishLaunching();

@@ -2,6 +2,7 @@
 
 #include "app/MainController.h"
 #include "platform/StateStore.h"
+#include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/SteadyClock.h"
 #include "simulator/ModemServer.h"
 #include "simulator/RecordingLog.h"
@@ -71,6 +72,7 @@ private:
     ObservedStatusBar m_statusBar;
     SteadyClock m_clock;
     RecordingLog m_systemLog;
+    DesktopNotifications m_notifications;
     IOServiceHandle m_device = 0;
     bool m_pluggedIn = false;
     bool m_asleep = false;

@@ -3,10 +3,14 @@
 #include "simulator/demo/DemoTour.h"
 #include "simulator/demo/DemoWindow.h"
 #include "simulator/demo/DemoWorld.h"
+#include "ui/Images.h"
+#include "ui/Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDesktopServices>
+#include <QDir>
+#include <QLocale>
 
 #include <iostream>
 
@@ -15,7 +19,10 @@ using namespace Qt::StringLiterals;
 int main(int argc, char **argv)
 {
     const tarvo::DemoFolder folder;
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"tarvo-demo"_s);
+    QApplication::setWindowIcon(tarvo::applicationImage());
+    tarvo::installTranslations(application, QLocale());
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
     parser.addHelpOption();
