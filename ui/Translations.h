@@ -1,12 +1,12 @@
 #pragma once
 
-class QCoreApplication;
 class QLocale;
+class QObject;
 
 namespace tarvo {
 
-/// Gives @p application its texts in the first of @p locale's languages that there are translations for, else in
-/// English, and the direction of that language. A text without a translation shows its key.
-void installTranslations(QCoreApplication &application, const QLocale &locale);
+/// Gives the application its texts in the first of @p locale's languages that there are translations for, else in
+/// English, and the direction of that language. A text without a translation shows its key. They are taken back with @p owner.
+void installTranslations(QObject &owner, const QLocale &locale);
 
 } // namespace tarvo

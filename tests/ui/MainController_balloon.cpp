@@ -1,0 +1,163 @@
+#include "tests/support/Companion.h"
+#include "tests/support/PrintQt.h"
+#include "ui/AlertPanelController.h"
+#include "ui/CustomView.h"
+#include "ui/OvAttachedWindow.h"
+
+#include <QApplication>
+#include <QEnterEvent>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+QString balloonText()
+{
+    for (const QWidget *widget : QApplication::topLevelWidgets())
+        if (dynamic_cast<const OvAttachedWindow *>(widget) && widget->isVisible())
+            return widget->accessibleName();
+    return {};
+}
+
+/// The controller as if a device were ready, but with nobody that polls.
+struct BalloonSequence : Companion {
+    BalloonSequence()
+    {
+        statusBar.setFrame(QRect(400, 0, 24, 24));
+        state.resetForReadyDevice();
+    }
+
+    /// Lets the sequence's present wait pass, but for @p rest.
+    void pass(std::chrono::milliseconds wait)
+    {
+        ASSERT_TRUE(clock.waitForSleepers(1));
+        clock.advance(wait);
+    }
+
+    bool sequenceEnds()
+    {
+        return eventually([this] { return !state.startDisplayFlowing_; });
+    }
+
+    ModemState &state = controller.state();
+};
+
+} // namespace
+
+TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
+{
+    const auto panel = AlertPanelController::shareAlertPanel();
+    state.isHaveNewVersion_ = state.isHaveDataLimitExceedForOneMonth_ = true;
+    controller.startDisPlayUIStatusThread();
+    ASSERT_TRUE(eventually([] { return balloonText() == u"HaveNewVersionTipWhenConnected"; }));
+    EXPECT_EQ(shownImage(), u"newVersion"_s);
+    EXPECT_EQ(statusBar.itemWithView()->view()->toolTip(), u"HaveNewVersionTipWhenConnected"_s);
+    EXPECT_TRUE(panel->wndAlert().isVisible());
+    EXPECT_FALSE(state.statusDisplayFlowFinishFlag_);
+    panel->btnCancelAction();
+
+    pass(2999ms);
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(balloonText().isEmpty());
+    pass(1ms);
+    EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+    pass(2s); // after the first news
+    pass(2s); // no three-day news
+    ASSERT_TRUE(eventually([] { return balloonText() == u"DatalimitExceed"; }));
+    EXPECT_EQ(shownImage(), u"dataFluxExceeded"_s);
+    pass(3s);
+    pass(2s);
+    pass(2s);
+    EXPECT_TRUE(sequenceEnds());
+    EXPECT_TRUE(state.statusDisplayFlowFinishFlag_);
+
+    const auto start = clock.now();
+    controller.startDisPlayUIStatusThread();
+    for (int type = 5; type <= 8; ++type)
+        pass(2s);
+    EXPECT_TRUE(sequenceEnds()) << "known news costs no balloon";
+    EXPECT_EQ(clock.now() - start, 8s);
+    EXPECT_FALSE(panel->wndAlert().isVisible());
+}
+
+TEST_F(BalloonSequence, ReplacesOneThatIsStillShown)
+{
+    controller.toggleAttachedWindowAtPoint(u"earlier"_s);
+    state.isHaveNewVersion_ = true;
+    controller.startDisPlayUIStatusThread();
+    EXPECT_TRUE(eventually([] { return balloonText() == u"HaveNewVersionTipWhenConnected"; }));
+}
+
+TEST_F(BalloonSequence, TogglesWhateverTheText)
+{
+    controller.toggleAttachedWindowAtPoint(std::nullopt);
+    controller.toggleAttachedWindowAtPoint(QString());
+    EXPECT_EQ(balloonText(), QString());
+    controller.toggleAttachedWindowAtPoint(u"one"_s);
+    EXPECT_EQ(balloonText(), u"one"_s);
+    controller.toggleAttachedWindowAtPoint(u"two"_s);
+    EXPECT_EQ(balloonText(), QString());
+}
+
+TEST_F(BalloonSequence, GoesWithItsDevice)
+{
+    state.isHaveNewVersion_ = true;
+    controller.startDisPlayUIStatusThread();
+    ASSERT_TRUE(eventually([] { return !balloonText().isEmpty(); }));
+    controller.stopGetModemStatus();
+    EXPECT_EQ(balloonText(), QString());
+    EXPECT_TRUE(sequenceEnds()) << "without any time passing";
+    EXPECT_EQ(balloonText(), QString());
+    EXPECT_EQ(shownImage(), u"ready"_s);
+    EXPECT_FALSE(state.previousHaveNewVersion_);
+}
+
+TEST_F(BalloonSequence, IsNotLeftToTheNextDevice)
+{
+    state.isHaveNewVersion_ = true;
+    controller.startDisPlayUIStatusThread();
+    ASSERT_TRUE(eventually([] { return !balloonText().isEmpty(); }));
+    plugIn(modem);
+    EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+}
+
+TEST_F(BalloonSequence, StartsOnHoverUnlessOneRunsOrTheSettingsForbidIt)
+{
+    const QString refusal = u"already dislaystatus or no need display"_s;
+    auto *view = qobject_cast<CustomView *>(statusBar.itemWithView()->view());
+    QEnterEvent enter({}, {}, {});
+    QApplication::sendEvent(view, &enter);
+    EXPECT_TRUE(systemLog.contains(u"mouseEntered"_s));
+    EXPECT_TRUE(state.startDisplayFlowing_);
+    EXPECT_FALSE(state.statusDisplayFlowFinishFlag_);
+    EXPECT_FALSE(systemLog.contains(refusal));
+    controller.startDisPlayUIStatusThread();
+    EXPECT_FALSE(systemLog.contains(refusal)) << "only the pointer is told";
+    QApplication::sendEvent(view, &enter);
+    EXPECT_EQ(systemLog.count(refusal), 1);
+    controller.stopGetModemStatus();
+    ASSERT_TRUE(sequenceEnds());
+
+    QVariantMap settings = usualSettings();
+    settings.insert(u"DonotShowStatusWhenMouseMoveIn"_s, true);
+    configure(settings);
+    controller.mouseEnteredHandle();
+    EXPECT_FALSE(state.startDisplayFlowing_);
+    EXPECT_EQ(systemLog.count(refusal), 2);
+}
+
+TEST_F(Companion, PollingWithoutNewsTouchesTheIconNoMore)
+{
+    modem.device.change([](ModemCondition &condition) { condition.threeDayLimit = 1; });
+    plugIn(modem);
+    tick(modem, 1);
+    const int changes = statusBar.itemWithView()->viewChanges();
+    for (int second = 2; second <= 12; ++second) { // one whole sequence, and the next one's start
+        tick(modem, second);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(statusBar.itemWithView()->viewChanges(), changes);
+}
