@@ -14,7 +14,7 @@ std::optional<QString> decryptApnFile(const QString &path)
 
 std::optional<PlainBlock> decrypt(ProfileBlock block)
 {
-    return builtInProfileKey().decrypt(block);
+    return builtInProfileKey().decoder().decrypt(block);
 }
 
 std::optional<QString> getFileNameFromAbsolutePath(const QString &path)

@@ -88,11 +88,12 @@ ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key)
 {
     if (file.size() % recordSize != 0)
         return {std::nullopt, QStringLiteral("its length is no multiple of %1 bytes").arg(recordSize)};
+    BlockDecoder decoder = key.decoder();
     CipherInputs inputs(file);
     QString text;
     for (qsizetype record = 0; record < file.size(); record += recordSize) {
         const auto input = inputs.at(record);
-        const auto plain = input ? key.decrypt(*input) : std::nullopt;
+        const auto plain = input ? decoder.decrypt(*input) : std::nullopt;
         if (!plain)
             return {std::nullopt, QStringLiteral("record %1 does not decode").arg(record / recordSize + 1)};
         const auto piece = textOf(*plain);

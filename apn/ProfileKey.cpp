@@ -15,11 +15,6 @@ namespace tarvo {
 
 namespace {
 
-struct ContextDeleter {
-    void operator()(EVP_PKEY_CTX *context) const { EVP_PKEY_CTX_free(context); }
-};
-using Context = std::unique_ptr<EVP_PKEY_CTX, ContextDeleter>;
-
 /// Takes back the error reports that the library leaves on the thread for whoever asks next.
 class ErrorMark {
 public:
@@ -29,16 +24,28 @@ public:
     ErrorMark &operator=(const ErrorMark &) = delete;
 };
 
-Context recoveryContext(EVP_PKEY *key)
+} // namespace
+
+BlockDecoder::BlockDecoder(EVP_PKEY *key)
+    : m_context(EVP_PKEY_CTX_new(key, nullptr), EVP_PKEY_CTX_free)
 {
-    Context context(EVP_PKEY_CTX_new(key, nullptr));
-    if (!context || EVP_PKEY_verify_recover_init(context.get()) <= 0
-        || EVP_PKEY_CTX_set_rsa_padding(context.get(), RSA_PKCS1_PADDING) <= 0)
-        return nullptr;
-    return context;
+    const ErrorMark mark;
+    if (!m_context || EVP_PKEY_verify_recover_init(m_context.get()) <= 0
+        || EVP_PKEY_CTX_set_rsa_padding(m_context.get(), RSA_PKCS1_PADDING) <= 0)
+        m_context.reset();
 }
 
-} // namespace
+std::optional<PlainBlock> BlockDecoder::decrypt(ProfileBlock block)
+{
+    const ErrorMark mark;
+    std::array<unsigned char, profileBlockSize> plain;
+    std::size_t size = plain.size();
+    if (!m_context || EVP_PKEY_verify_recover(m_context.get(), plain.data(), &size, block.data(), block.size()) <= 0)
+        return std::nullopt;
+    PlainBlock text{};
+    std::copy_n(plain.begin(), std::min(size, maximumBlockTextSize), text.begin());
+    return text;
+}
 
 ProfileKey::ProfileKey(std::shared_ptr<EVP_PKEY> key)
     : m_key(std::move(key))
@@ -53,19 +60,6 @@ std::optional<ProfileKey> ProfileKey::fromDer(QByteArrayView der)
     if (!key || !EVP_PKEY_is_a(key.get(), "RSA") || EVP_PKEY_get_size(key.get()) != static_cast<int>(profileBlockSize))
         return std::nullopt;
     return ProfileKey(key);
-}
-
-std::optional<PlainBlock> ProfileKey::decrypt(ProfileBlock block) const
-{
-    const ErrorMark mark;
-    const Context context = recoveryContext(m_key.get());
-    std::array<unsigned char, profileBlockSize> plain;
-    std::size_t size = plain.size();
-    if (!context || EVP_PKEY_verify_recover(context.get(), plain.data(), &size, block.data(), block.size()) <= 0)
-        return std::nullopt;
-    PlainBlock text{};
-    std::copy_n(plain.begin(), std::min(size, maximumBlockTextSize), text.begin());
-    return text;
 }
 
 const ProfileKey &builtInProfileKey()

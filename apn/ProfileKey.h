@@ -22,6 +22,20 @@ using ProfileBlock = std::span<const unsigned char, profileBlockSize>;
 /// A block's plain text, and zero bytes up to the end; at least one.
 using PlainBlock = std::array<char, profileBlockSize + 1>;
 
+/// Decodes blocks one after the other, for one thread at a time.
+class BlockDecoder {
+public:
+    /// @param key  is shared, not owned alone
+    explicit BlockDecoder(EVP_PKEY *key);
+
+    /// Applies the public-key operation with PKCS#1 v1.5 type 1 padding (RFC 8017, 8.2.2).
+    /// @return the plain text; nil when the block was not made with the key's private half
+    std::optional<PlainBlock> decrypt(ProfileBlock block);
+
+private:
+    std::unique_ptr<EVP_PKEY_CTX, void (*)(EVP_PKEY_CTX *)> m_context;
+};
+
 /// The public half of a key that makes profiles. May be used on several threads.
 class ProfileKey {
 public:
@@ -29,9 +43,7 @@ public:
     /// @return nil unless it holds an RSA key whose blocks have the profiles' size
     static std::optional<ProfileKey> fromDer(QByteArrayView der);
 
-    /// Applies the public-key operation with PKCS#1 v1.5 type 1 padding (RFC 8017, 8.2.2).
-    /// @return the plain text; nil when the block was not made with this key's private half
-    std::optional<PlainBlock> decrypt(ProfileBlock block) const;
+    BlockDecoder decoder() const { return BlockDecoder(m_key.get()); }
 
 private:
     explicit ProfileKey(std::shared_ptr<EVP_PKEY> key);

@@ -50,8 +50,8 @@ TEST(ProfileFile, ARecordThatIsTextIsDecodedAsItsTextSays)
         const auto key = ProfileKey::fromDer(QByteArray::fromBase64(chosen->publicKey));
         ASSERT_TRUE(key);
         const QByteArray block = chosen->start.leftJustified(127, '.') + chosen->last;
-        const auto plain =
-            key->decrypt(ProfileBlock(reinterpret_cast<const unsigned char *>(block.constData()), profileBlockSize));
+        const auto plain = key->decoder().decrypt(
+            ProfileBlock(reinterpret_cast<const unsigned char *>(block.constData()), profileBlockSize));
         ASSERT_TRUE(plain && QString::fromUtf8(plain->data()) == record) << "the block itself is good";
 
         const ProfileText text = decodeProfile((block + "\r\n").repeated(3), *key);
