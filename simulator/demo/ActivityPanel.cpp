@@ -43,6 +43,7 @@ ActivityPanel::ActivityPanel(DemoWorld &world)
     m_list->setHeaderHidden(true);
     m_list->setColumnCount(4);
     m_list->setRootIsDecorated(false);
+    m_list->setStyleSheet(u"QTreeView::item { padding: 1px 4px; }"_s);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

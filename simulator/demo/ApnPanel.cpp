@@ -44,6 +44,7 @@ ApnPanel::ApnPanel(DemoWorld &world)
 {
     m_list->setHeaderLabels({u"Index"_s, u"Name"_s, u"APN"_s, u"Came from"_s, QString()});
     m_list->setRootIsDecorated(false);
+    m_list->setStyleSheet(u"QTreeView::item { padding: 1px 4px; }"_s);
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->header()->setSectionResizeMode(QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(indexColumn, QHeaderView::ResizeToContents);

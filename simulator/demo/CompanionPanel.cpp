@@ -77,9 +77,9 @@ QString CompanionPanel::knowledge() const
     ModemState &state = m_world.controller().state();
     if (state.stopProcModemStatus_)
         return u"Not polling"_s;
-    return u"Polling %1  ·  %2 GB used, %3 GB left  ·  roaming %4"_s.arg(m_world.server().authority())
+    return u"Polling %1  ·  %2 of %3 GB used this month  ·  roaming %4"_s.arg(m_world.server().authority())
         .arg(static_cast<double>(state.m_useData), 0, 'f', 1)
-        .arg(static_cast<double>(state.m_surplusData), 0, 'f', 1)
+        .arg(static_cast<double>(state.m_totalMonthData), 0, 'f', 1)
         .arg(state.isRoamOn_ ? u"allowed"_s : u"off"_s);
 }
 

@@ -6,10 +6,12 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -44,10 +46,10 @@ const QList<std::pair<QString, FaultKind>> &faults()
 } // namespace
 
 ModemPanel::ModemPanel(DemoWorld &world)
-    : QGroupBox(u"Modem"_s)
-    , m_world(world)
+    : m_world(world)
 {
-    auto *form = new QFormLayout(this);
+    auto *dataGroup = new QGroupBox(u"Data"_s);
+    auto *form = new QFormLayout(dataGroup);
     m_month =
         addAmount(*form, u"Used this month"_s, 15, &ModemCondition::monthlyReceived, &ModemCondition::monthlySent);
     m_threshold = addLimit(*form, u"Remind above"_s, &ModemCondition::reminderThreshold);
@@ -55,9 +57,15 @@ ModemPanel::ModemPanel(DemoWorld &world)
     m_threeDays = addAmount(*form, u"Used in three days"_s, 5, &ModemCondition::threeDaysReceived,
                             &ModemCondition::threeDaysSent);
     m_threeDayLimit = addLimit(*form, u"Three-day limit"_s, &ModemCondition::threeDayLimit);
+    auto *modemGroup = new QGroupBox(u"Modem"_s);
+    form = new QFormLayout(modemGroup);
     addSwitches(*form);
     addStyles(*form);
     addFaults(*form);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(dataGroup);
+    layout->addWidget(modemGroup);
     refresh();
 }
 
@@ -67,6 +75,7 @@ ModemPanel::Amount ModemPanel::addAmount(QFormLayout &form, const QString &name,
     const Amount amount{.slider = new QSlider(Qt::Horizontal), .text = new QLabel};
     amount.slider->setMaximum(maximum * stepsPerGiB);
     amount.text->setMinimumWidth(fontMetrics().horizontalAdvance(u"00.0 GB"_s));
+    amount.text->setMinimumHeight(QDoubleSpinBox().sizeHint().height()); // as high as the rows of the limits
     amount.text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto *row = new QHBoxLayout;
     row->addWidget(amount.slider);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QGroupBox>
+#include <QWidget>
 
 class QCheckBox;
 class QComboBox;
@@ -15,7 +15,7 @@ class DemoWorld;
 struct ModemCondition;
 
 /// What the modem tells of itself, and what it does wrong.
-class ModemPanel : public QGroupBox {
+class ModemPanel : public QWidget {
 public:
     /// @param world  outlives the panel
     explicit ModemPanel(DemoWorld &world);
