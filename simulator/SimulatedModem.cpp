@@ -1,6 +1,7 @@
 #include "simulator/SimulatedModem.h"
 
 #include <QCryptographicHash>
+#include <QMap>
 #include <QUuid>
 
 #include <algorithm>
@@ -30,6 +31,19 @@ bool hasOwnReferer(const ReceivedRequest &request)
 bool hasFormType(const ReceivedRequest &request)
 {
     return request.header("Content-Type").value_or("").toLower() == "application/x-www-form-urlencoded; charset=utf-8";
+}
+
+/// The pages that a user would see.
+ModemReply webPage(const QByteArray &path)
+{
+    static const QMap<QByteArray, QByteArray> titles{
+        {"/", "Home"}, {"/messages", "Messages"}, {"/firmware", "Firmware"}, {"/data", "Data limits"}};
+    const auto title = titles.constFind(path);
+    const bool found = title != titles.cend();
+    return {.status = found ? 200 : 404,
+            .contentType = "text/html; charset=utf-8",
+            .body =
+                "<!doctype html>\n<title>Simulated modem</title>\n<h1>" + (found ? *title : "Not found") + "</h1>\n"};
 }
 
 } // namespace
@@ -94,9 +108,7 @@ ModemReply SimulatedModem::page(const ReceivedRequest &request)
         m_condition.threeDaysReceived += m_condition.trafficPerPage;
         return {.body = statusPage(m_condition)};
     }
-    if (path == "/")
-        return {.contentType = "text/html; charset=utf-8", .body = "<title>Modem</title><h1>Modem</h1>\n"};
-    return {.status = 404, .contentType = "text/html; charset=utf-8", .body = "<h1>Not found</h1>\n"};
+    return webPage(path);
 }
 
 QByteArray SimulatedModem::get(const ReceivedRequest &request)
