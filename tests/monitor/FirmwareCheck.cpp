@@ -1,0 +1,88 @@
+#include "monitor/FirmwareCheck.h"
+
+#include "tests/support/Companion.h"
+#include "tests/support/PrintQt.h"
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+struct Firmware : Companion {
+    Firmware()
+    {
+        QVariantMap settings = usualSettings();
+        settings.insert(u"NeedCheckFotaUpdate"_s, true);
+        configure(settings);
+    }
+
+    /// Lets one pass run whole. @return how often the modem has been asked for firmware
+    qsizetype pass(qsizetype times)
+    {
+        tick(modem, times);
+        EXPECT_TRUE(clock.waitForSleepers(2)); // the worker, and the sequence that the pass has started or found
+        return modem.device.requests("dm_find_package&multi_data=1").size();
+    }
+
+    void connected(const QString &status)
+    {
+        modem.device.change([&](ModemCondition &condition) { condition.pppStatus = status; });
+    }
+};
+
+} // namespace
+
+TEST(FirmwareCheck, ReadsTheOfferLoosely)
+{
+    for (const QString &offer :
+         {u"1"_s, u"10"_s, u"a1"_s, u"version_has_new_critical_software"_s, u"version_has_new_optional_software"_s})
+        EXPECT_TRUE(offersNewFirmware(offer)) << offer.toStdString();
+    for (const QString &none : {u""_s, u"0"_s, u"version_idle"_s, u"VERSION_HAS_NEW_CRITICAL_SOFTWARE"_s})
+        EXPECT_FALSE(offersNewFirmware(none)) << none.toStdString();
+}
+
+TEST(FirmwareCheck, IsDueAtOnceAndThenEveryTenMinutes)
+{
+    std::stop_source first;
+    std::stop_source second;
+    const Clock::TimePoint start{1h};
+    const auto checked = nextFirmwareCheck({}, first.get_token(), start);
+    ASSERT_TRUE(checked);
+    EXPECT_FALSE(nextFirmwareCheck(*checked, first.get_token(), start + 10min - 1ns));
+    EXPECT_TRUE(nextFirmwareCheck(*checked, first.get_token(), start + 10min));
+    EXPECT_TRUE(nextFirmwareCheck(*checked, second.get_token(), start + 1s)) << "another attachment";
+}
+
+TEST_F(Firmware, IsAskedForOnceConnectedAndSeenInTheSamePass)
+{
+    connected(u"ppp_disconnected"_s);
+    modem.device.change(
+        [](ModemCondition &condition) { condition.firmwarePackage = u"version_has_new_optional_software"_s; });
+    plugIn(modem);
+    EXPECT_EQ(pass(1), 0);
+    connected(u"ppp_connected"_s);
+    EXPECT_EQ(pass(2), 1);
+    EXPECT_TRUE(controller.state().isHaveNewVersion_);
+    EXPECT_TRUE(controller.state().haveNewVersionFlag_);
+    EXPECT_EQ(pass(3), 1);
+
+    clock.advance(10min);
+    ASSERT_TRUE(modem.device.waitForRequests(2, "dm_find_package"));
+    unplug();
+    EXPECT_FALSE(controller.state().isHaveNewVersion_);
+}
+
+TEST_F(Firmware, AFailedCheckChangesNothing)
+{
+    modem.device.setFixedAnswer("dm_find_package", "{}");
+    plugIn(modem);
+    controller.state().isHaveNewVersion_ = true;
+    EXPECT_EQ(pass(1), 1);
+    EXPECT_TRUE(systemLog.contains(u"fotaOtaState  is null!"_s));
+    EXPECT_TRUE(controller.state().isHaveNewVersion_);
+
+    configure(usualSettings());
+    controller.checkFotaUpdateWhenConnected();
+    EXPECT_EQ(modem.device.requests("dm_find_package").size(), 1) << "the settings forbid it";
+}

@@ -1,0 +1,128 @@
+#include "platform/linux/DesktopNotifications.h"
+
+#include "simulator/RecordingLog.h"
+#include "tests/support/DesktopEnvironment.h"
+#include "tests/support/PrintQt.h"
+
+#include <QDBusContext>
+#include <QMap>
+#include <QVariantMap>
+
+#include <gtest/gtest.h>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
+
+const QString serviceName = u"org.freedesktop.Notifications"_s;
+
+/// A notification service on a connection of its own.
+class MockService : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    MockService()
+        : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"mock"_s))
+    {
+        m_bus.registerObject(u"/org/freedesktop/Notifications"_s, this, QDBusConnection::ExportAllSlots);
+    }
+    ~MockService() override { QDBusConnection::disconnectFromBus(u"mock"_s); }
+
+    void start() { m_bus.registerService(serviceName); }
+    void stop() { m_bus.unregisterService(serviceName); }
+
+    QMap<uint, QString> shown;
+    QList<uint> replaced; ///< what each call asked to replace
+    QVariantMap lastHints;
+    bool refuses = false;
+
+public Q_SLOTS:
+    uint Notify(const QString &, uint replaces, const QString &, const QString &, const QString &body,
+                const QStringList &, const QVariantMap &hints, int)
+    {
+        replaced << replaces;
+        lastHints = hints;
+        if (refuses) {
+            sendErrorReply(QDBusError::Failed, u"no"_s);
+            return 0;
+        }
+        const uint id = replaces ? replaces : ++m_last;
+        shown.insert(id, body);
+        return id;
+    }
+
+    void CloseNotification(uint id) { shown.remove(id); }
+
+private:
+    QDBusConnection m_bus;
+    uint m_last = 40;
+};
+
+struct NotificationService : testing::Test {
+    MockService service;
+    RecordingLog systemLog;
+    DesktopNotifications notifications{QDBusConnection::sessionBus(), systemLog};
+    int failures = 0;
+    const std::function<void()> failed = [this] { ++failures; };
+};
+
+} // namespace
+
+TEST_F(NotificationService, IsFollowedAsItComesAndGoes)
+{
+    EXPECT_FALSE(notifications.available());
+    service.start();
+    EXPECT_TRUE(waitFor([&] { return notifications.available(); }));
+    RecordingLog log;
+    const DesktopNotifications later(QDBusConnection::sessionBus(), log);
+    EXPECT_TRUE(waitFor([&] { return later.available(); })) << "it was there before us";
+    service.stop();
+    EXPECT_TRUE(waitFor([&] { return !notifications.available(); }));
+}
+
+TEST_F(NotificationService, ShowsOneAtATimeAndClosesIt)
+{
+    service.start();
+    notifications.show({u"T"_s, u"1 < 2 & 3"_s, u"tarvo"_s}, failed);
+    ASSERT_TRUE(waitFor([&] { return service.shown.value(41) == u"1 &lt; 2 &amp; 3"; }));
+    EXPECT_EQ(service.lastHints.value(u"transient"_s), true);
+    QCoreApplication::processEvents();
+    notifications.show({u"T"_s, u"second"_s, {}}, failed);
+    ASSERT_TRUE(waitFor([&] { return service.shown.value(41) == u"second"; }));
+    notifications.close();
+    EXPECT_TRUE(waitFor([&] { return service.shown.isEmpty(); }));
+    EXPECT_EQ(failures, 0);
+}
+
+TEST_F(NotificationService, ClosesWhatAppearsTooLate)
+{
+    service.start();
+    notifications.show({u"T"_s, u"first"_s, {}}, failed);
+    notifications.close();
+    notifications.show({u"T"_s, u"second"_s, {}}, failed);
+    EXPECT_TRUE(waitFor([&] { return service.shown.values() == QStringList(u"second"_s); }));
+    notifications.close();
+    notifications.show({u"T"_s, u"third"_s, {}}, failed);
+    notifications.close();
+    EXPECT_TRUE(waitFor([&] { return service.replaced.size() == 3 && service.shown.isEmpty(); }));
+}
+
+TEST_F(NotificationService, TellsWhenItIsTurnedDown)
+{
+    service.start();
+    service.refuses = true;
+    notifications.show({u"T"_s, u"text"_s, {}}, failed);
+    EXPECT_TRUE(waitFor([&] { return failures == 1; }));
+    EXPECT_TRUE(systemLog.contains(u"notification failed: no"_s));
+    notifications.show({u"T"_s, u"text"_s, {}}, failed);
+    notifications.close();
+    EXPECT_TRUE(systemLog.waitFor(u"notification failed: no"_s, 1));
+    ASSERT_TRUE(waitFor([&] { return systemLog.count(u"notification failed: no"_s) == 2; }));
+    EXPECT_EQ(failures, 1) << "nobody waits for it any more";
+}
+
+#include "DesktopNotifications.moc"
