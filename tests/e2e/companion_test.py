@@ -198,6 +198,7 @@ class CompanionTest(unittest.TestCase):
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
         ip("link set enx1 down")
+        self.until(lambda: "data is nil" in self.log)
         self.modem.bring_up("enx1")
         self.until_ready(self.modem, "enx1", times=2)
         self.assertNotIn("DeviceRemoved,stopGetModemStatus", self.log)
@@ -205,6 +206,7 @@ class CompanionTest(unittest.TestCase):
     def test_a_rename_is_a_removal_and_an_arrival(self):
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
+        self.assertNotIn("usb0", self.log, "the name that the link had for a moment")
         ip("link set enx1 down")
         self.usb.rename("enx1", "enx2")
         ip("link set enx1 name enx2")
