@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto publicationInterval = 100ms;
+constexpr auto publicationDelay = 200ms; // udev takes less to rename a new link
 constexpr auto gapLineInterval = 10s;
 constexpr int mostRoundsAtOnce = 4;
 
@@ -34,7 +34,8 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
     m_notifier = std::make_unique<QSocketNotifier>(m_events.descriptor(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
         receiveEvents();
-        schedulePublication();
+        if (!m_publicationTimer.isActive())
+            m_publicationTimer.start(publicationDelay);
     });
     m_publicationTimer.setSingleShot(true);
     QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
@@ -111,23 +112,11 @@ void NetlinkDynamicStore::settle()
     }
 }
 
-void NetlinkDynamicStore::schedulePublication()
-{
-    if (m_publicationTimer.isActive())
-        return;
-    if (m_nextPublication.hasExpired())
-        publish();
-    else
-        m_publicationTimer.start(
-            std::chrono::ceil<std::chrono::milliseconds>(m_nextPublication.remainingTimeAsDuration()));
-}
-
 void NetlinkDynamicStore::publish()
 {
     settle();
-    m_nextPublication.setRemainingTime(publicationInterval);
     if (m_gap || m_model.areRoutesUncertain())
-        m_publicationTimer.start(publicationInterval);
+        m_publicationTimer.start(publicationDelay);
 
     const QSet<QString> changedHands = updateIndexes(m_model.interfaceIndexes());
     if (!changedHands.isEmpty())

@@ -24,7 +24,8 @@ class SystemLog;
 /// An interface that is up and has an IPv4 address is a service of the interface's name, and its router is its best
 /// IPv4 default gateway, in whatever routing table. Services are ordered by interface index.
 ///
-/// Lives on one thread with an event loop. A change is published at once; in a burst, a few times a second.
+/// Lives on one thread with an event loop. What changes is published together a fifth of a second later, so that a
+/// burst is one change, and a new link is first seen under the name that it is given.
 class NetlinkDynamicStore final : public StateStore {
 public:
     explicit NetlinkDynamicStore(SystemLog &systemLog);
@@ -47,7 +48,6 @@ private:
     bool readEverything();
     bool readRoutes();
     void settle();
-    void schedulePublication();
     void publish();
     QSet<QString> updateIndexes(QHash<QString, int> indexes);
 
@@ -64,7 +64,6 @@ private:
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
-    QDeadlineTimer m_nextPublication;
     QTimer m_publicationTimer;
 };
 
