@@ -49,13 +49,9 @@ QByteArray xml(const QByteArray &content)
     return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + content + "</plist>";
 }
 
-const QByteArray &smallBinary()
-{
-    static const QByteArray bytes =
-        binary({"\xD2\x01\x02\x03\x04"_ba, "\x51k"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba,
-                "\x23\x3F\xE0\0\0\0\0\0\0"_ba, "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
-    return bytes;
-}
+const QByteArray smallBinary =
+    binary({"\xD2\x01\x02\x03\x04"_ba, "\x51k"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba, "\x23\x3F\xE0\0\0\0\0\0\0"_ba,
+            "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
 
 } // namespace
 
@@ -90,7 +86,7 @@ TEST(PropertyList, WritesNothingThatWouldNotBeReadBack)
 
 TEST(PropertyList, ReadsTheBinaryForm)
 {
-    const auto reading = readPropertyList(smallBinary());
+    const auto reading = readPropertyList(smallBinary);
     ASSERT_TRUE(reading.root) << reading.problem.toStdString();
     const QVariantMap expected{{u"k"_s, QVariantList{qlonglong(-5), QByteArray("\1\2")}}, {u"é"_s, 0.5}};
     EXPECT_EQ(reading.root->toMap(), expected);
@@ -132,14 +128,13 @@ TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
 
 TEST(PropertyList, SurvivesDamageAtAnyByte)
 {
-    const QByteArray whole = smallBinary();
-    for (qsizetype at = 0; at < whole.size(); ++at) {
+    for (qsizetype at = 0; at < smallBinary.size(); ++at) {
         for (const int damage : {0x01, 0x0F, 0x80, 0xFF}) {
-            QByteArray damaged = whole;
+            QByteArray damaged = smallBinary;
             damaged[at] = static_cast<char>(damaged[at] ^ damage);
             const auto reading = readPropertyList(damaged);
             EXPECT_NE(reading.root.has_value(), !reading.problem.isEmpty()) << at;
         }
-        EXPECT_FALSE(readPropertyList(whole.first(at)).root) << at;
+        EXPECT_FALSE(readPropertyList(smallBinary.first(at)).root) << at;
     }
 }

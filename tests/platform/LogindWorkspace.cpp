@@ -66,8 +66,8 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
     {
         if (message.member() == u"Inhibit") {
-            EXPECT_EQ(message.arguments().value(0).toString(), u"sleep"_s);
-            EXPECT_EQ(message.arguments().value(3).toString(), u"delay"_s);
+            EXPECT_EQ(message.arguments().first(), u"sleep"_s);
+            EXPECT_EQ(message.arguments().last(), u"delay"_s);
             connection.send(message.createReply(QVariant::fromValue(lendLock())));
         } else {
             EXPECT_EQ(message.arguments().value(1).toString(), u"PreparingForSleep"_s);
