@@ -134,13 +134,6 @@ TEST_F(ConfigManagerTest, ReadsFlags)
     EXPECT_FALSE(boolValue(std::nullopt));
 }
 
-TEST_F(ConfigManagerTest, ShippedSettingsLoad)
-{
-    const ConfigManager config(QStringLiteral(TARVO_SHIPPED_CONFIG));
-    EXPECT_EQ(config.getConfigurationByModuleAndKey(u"device_info"_s, u"vendor_ids"_s),
-              QVariant(QVariantList{u"4660"_s}));
-}
-
 TEST_F(ConfigManagerTest, NeedsAPath)
 {
     EXPECT_DEATH(ConfigManager(std::optional<QString>()),
