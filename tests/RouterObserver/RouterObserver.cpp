@@ -23,16 +23,13 @@ constexpr int vendor = 0x1234;
 constexpr int product = 0x5678;
 constexpr int excludedProduct = 0x5679;
 
-/// Gives the process settings of its own, before the first look at them.
+/// The settings of this process alone.
 QVariantMap &settings()
 {
+    static const QTemporaryDir home;
     static QVariantMap *const dictionary = [] {
-        const QTemporaryDir home;
         QDir(home.path()).mkpath(u"tarvo"_s);
-        QFile file(home.filePath(u"tarvo/Config.plist"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
-        file.close();
+        QFile::copy(QStringLiteral(TARVO_SHIPPED_CONFIG), home.filePath(u"tarvo/Config.plist"_s));
         qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
         return ConfigManager::sharedConfigManager().getConfiguration();
     }();
@@ -43,23 +40,20 @@ class RouterObserverTest : public testing::Test {
 protected:
     RouterObserverTest()
     {
-        settings() = {{u"device_info"_s,
-                       QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s, qlonglong(0x4321)}},
-                                   {u"product_ids"_s, QVariantList{}},
-                                   {u"eliminate_product_ids"_s, QVariantList{QString::number(excludedProduct)}}}}};
+        settings()[u"device_info"_s] =
+            QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s, qlonglong(0x4321)}},
+                        {u"eliminate_product_ids"_s, QVariantList{QString::number(excludedProduct)}}};
+        auto reports = std::make_shared<RouterReports>();
+        reports->procECMReady = [this](const ReadyDictionary &ready) { ready_.append(ready); };
+        reports->procInterfaceRemoved = [this](const QString &bsdName) { removed_.append(bsdName); };
+        reports_ = reports;
     }
 
-    std::shared_ptr<RouterReports> reports()
+    void plugIn(const QString &bsdName, const std::optional<QString> &router)
     {
-        auto made = std::make_shared<RouterReports>();
-        made->procECMReady = [this](const ReadyDictionary &ready) { ready_.append(ready); };
-        made->procInterfaceRemoved = [this](const QString &bsdName) { removed_.append(bsdName); };
-        return made;
-    }
-
-    void plugIn(const QString &bsdName)
-    {
-        network_.addInterface(bsdName), registry_.addModem(bsdName, vendor, product);
+        registry_.addModem(bsdName, vendor, product);
+        network_.addInterface(bsdName);
+        network_.setIPv4(bsdName, router);
     }
 
     StateStore store_;
@@ -67,6 +61,7 @@ protected:
     SimulatedDeviceRegistry registry_;
     RecordingLog log_;
     RouterObserver observer_{store_, registry_, log_};
+    std::shared_ptr<const RouterReports> reports_;
     QList<ReadyDictionary> ready_;
     QStringList removed_;
 };
@@ -75,62 +70,43 @@ protected:
 
 TEST_F(RouterObserverTest, SupportsEveryProductOfAListedVendorThatIsNotExcluded)
 {
-    const auto supported = [this](int vendorID, int productID) {
-        const auto name = u"en%1"_s.arg(productID);
-        const auto device = registry_.addModem(name, vendorID, productID);
-        const bool answer = observer_.isSupportedEnthernetBSDName(name);
-        registry_.removeDevice(device);
-        return answer;
+    const struct {
+        QString name;
+        int vendorID;
+        int productID;
+        bool supported;
+    } cases[] = {
+        {u"en1"_s, vendor, product, true},
+        {u"en2"_s, vendor, excludedProduct, false},
+        {u"en3"_s, vendor + 1, product, false},
+        {u"integer in the list"_s, 0x4321, product, false},
+        {QString(256, u'e'), vendor, product, false},
     };
-    EXPECT_TRUE(supported(vendor, product)) << "identifiers are found above the interface's own device";
-    EXPECT_FALSE(supported(vendor, excludedProduct));
-    EXPECT_FALSE(supported(vendor + 1, product));
-    EXPECT_FALSE(supported(0x4321, product)) << "the list holds the number, not the text";
-    EXPECT_FALSE(observer_.isSupportedProductID(product));
-    EXPECT_TRUE(observer_.isSupportedVendorID(vendor + (1LL << 32))) << "the low 32 bits count";
+    for (const auto &[name, vendorID, productID, supported] : cases) {
+        registry_.addModem(name, vendorID, productID);
+        EXPECT_EQ(observer_.isSupportedEnthernetBSDName(name), supported) << name.toStdString();
+    }
     EXPECT_FALSE(observer_.isSupportedEnthernetBSDName(u"lo"_s));
-    EXPECT_EQ(observer_.getIOServiceOfBSDName(u"lo"_s), 0U);
-
-    const auto longName = QString(256, u'e');
-    registry_.addModem(longName, vendor, product);
-    EXPECT_EQ(observer_.getIOServiceOfBSDName(longName), 0U);
+    EXPECT_TRUE(observer_.isSupportedVendorID(vendor + (1LL << 32))) << "the low 32 bits count";
+    EXPECT_FALSE(observer_.isSupportedProductID(product)) << "no list";
     const auto bare = registry_.addDevice({.parent = 0, .className = {}, .properties = {{u"idVendor"_s, vendor}}});
     EXPECT_TRUE(observer_.isSupportedIOService(bare)) << "no product, so none that is excluded";
-    EXPECT_FALSE(observer_.isSupportedIOService(0));
-}
-
-TEST_F(RouterObserverTest, SupportsNothingWithoutAVendorList)
-{
-    for (const QVariant &info :
-         {QVariant(), QVariant(QVariantMap()), QVariant(QVariantList{u"x"_s}), QVariant(u"x"_s)}) {
+    for (const auto &info : {QVariant(), QVariant(QVariantMap()), QVariant(QVariantList{u"x"_s}), QVariant(u"x"_s)}) {
         settings()[u"device_info"_s] = info;
         EXPECT_FALSE(observer_.isSupportedVendorID(vendor)) << info.typeName();
-        EXPECT_FALSE(observer_.isExcludedProductID(excludedProduct));
     }
-}
-
-TEST_F(RouterObserverTest, ReportsAModemThatIsThereAtTheStart)
-{
-    plugIn(u"en5"_s);
-    network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    EXPECT_TRUE(observer_.startWatchNetworkInterface(reports()));
-    const ReadyDictionary expected{u"192.168.0.1"_s, registry_.serviceMatchingBSDName(u"en5"_s), u"en5"_s};
-    EXPECT_EQ(ready_, QList{expected});
-    EXPECT_TRUE(observer_.getModemPlugedInTime());
 }
 
 TEST_F(RouterObserverTest, ReportsEachChangeOfTheModemAndForgetsTheTimeOnOthers)
 {
-    observer_.startWatchNetworkInterface(reports());
-    registry_.addModem(u"en5"_s, vendor, product);
-    network_.addInterface(u"en5"_s);
-    network_.addInterface(u"eth0"_s);
-    EXPECT_TRUE(ready_.isEmpty());
-    network_.setIPv4(u"en5"_s, std::nullopt);
+    plugIn(u"en5"_s, std::nullopt);
+    EXPECT_TRUE(observer_.startWatchNetworkInterface(reports_));
+    const auto service = registry_.serviceMatchingBSDName(u"en5"_s);
+    EXPECT_EQ(ready_, (QList<ReadyDictionary>{{std::nullopt, service, u"en5"_s}})) << "there at the start";
     network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    ASSERT_EQ(ready_.size(), 2);
-    EXPECT_EQ(ready_[0].router, std::nullopt);
-    EXPECT_EQ(ready_[1].router, u"192.168.0.1"_s);
+    EXPECT_EQ(ready_.value(1), (ReadyDictionary{u"192.168.0.1"_s, service, u"en5"_s}));
+    EXPECT_TRUE(observer_.getModemPlugedInTime());
+    network_.addInterface(u"eth0"_s);
     network_.setIPv4(u"eth0"_s, u"10.0.0.1"_s);
     EXPECT_FALSE(observer_.getModemPlugedInTime());
     network_.setIPv4(u"en5"_s, u"192.168.0.2"_s);
@@ -142,13 +118,11 @@ TEST_F(RouterObserverTest, ReportsEachChangeOfTheModemAndForgetsTheTimeOnOthers)
 
 TEST_F(RouterObserverTest, LooksAtTheFirstChangedKeyOnly)
 {
-    plugIn(u"en5"_s);
-    plugIn(u"en6"_s);
-    network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    network_.setIPv4(u"en6"_s, u"192.168.0.2"_s);
-    observer_.startWatchNetworkInterface(reports());
+    plugIn(u"en5"_s, u"192.168.0.1"_s);
+    plugIn(u"en6"_s, u"192.168.0.2"_s);
+    observer_.startWatchNetworkInterface(reports_);
     ASSERT_EQ(ready_.size(), 1);
-    EXPECT_EQ(ready_[0].kOmbraBSDName, u"en5"_s) << "the first of the store's order";
+    EXPECT_EQ(ready_[0].kOmbraBSDName, u"en5"_s) << "the first in the store's order";
     const auto session = store_.createSession(u"test"_s, {});
     const QString second = store::serviceIPv4Key(SimulatedNetwork::serviceOf(u"en6"_s));
     observer_.updateSupportedInterfaceIPv4(*session, {u"State:/none"_s, second});
@@ -160,12 +134,14 @@ TEST_F(RouterObserverTest, LooksAtTheFirstChangedKeyOnly)
 
 TEST_F(RouterObserverTest, ReportsRemovalOnceAndAReplugByTheSameWatch)
 {
-    plugIn(u"en5"_s);
-    network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    observer_.startWatchNetworkInterface(reports());
+    RouterObserver deaf(store_, registry_, log_);
+    EXPECT_TRUE(deaf.startWatchNetworkInterface(std::make_shared<RouterReports>()));
+    observer_.startWatchNetworkInterface(reports_);
+    plugIn(u"en5"_s, u"192.168.0.1"_s);
     network_.addInterface(u"eth0"_s);
     network_.removeInterface(u"en5"_s);
     network_.removeInterface(u"eth0"_s);
+    store_.replaceEntries({});
     EXPECT_EQ(removed_, QStringList{u"en5"_s});
     network_.addInterface(u"en5"_s);
     EXPECT_EQ(ready_.size(), 1);
@@ -175,38 +151,25 @@ TEST_F(RouterObserverTest, ReportsRemovalOnceAndAReplugByTheSameWatch)
     EXPECT_EQ(removed_.size(), 2);
 }
 
-TEST_F(RouterObserverTest, GoesOnWithoutAnObserversOperations)
-{
-    plugIn(u"en5"_s);
-    network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    EXPECT_TRUE(observer_.startWatchNetworkInterface(std::make_shared<RouterReports>()));
-    EXPECT_TRUE(observer_.getModemPlugedInTime());
-    network_.removeInterface(u"en5"_s);
-    store_.replaceEntries({});
-    EXPECT_FALSE(observer_.getModemPlugedInTime());
-}
-
 TEST_F(RouterObserverTest, ProbesForAnEthernetInterfaceWithARouter)
 {
-    const auto probe = [this] {
+    const auto probe = [this](const QByteArray &className) {
         log_.clear();
-        return observer_.isInterfaceRouterReady("IOUSBHostInterface");
+        return observer_.isInterfaceRouterReady(className);
     };
-    plugIn(u"wwan0"_s);
-    plugIn(u"en5"_s);
-    network_.setIPv4(u"wwan0"_s, u"192.168.0.1"_s);
-    EXPECT_FALSE(probe());
+    plugIn(u"wwan0"_s, u"192.168.0.1"_s);
+    plugIn(u"en5"_s, std::nullopt);
+    EXPECT_FALSE(probe("IOUSBHostInterface"));
     const auto found = u"bsd name has ethernet interface"_s;
     EXPECT_EQ(log_.lines(), (QStringList{found, u"no ethernet router is found"_s}));
     network_.setIPv4(u"en5"_s, u"192.168.0.1"_s);
-    EXPECT_TRUE(probe());
+    EXPECT_TRUE(probe("IOUSBHostInterface"));
     EXPECT_EQ(log_.lines(), (QStringList{found, u"ethernet router is ready"_s}));
-    EXPECT_FALSE(observer_.isInterfaceRouterReady("IOUSBInterface"));
-    EXPECT_EQ(log_.lines().last(), u"no ethernet router is found"_s);
+    EXPECT_FALSE(probe("IOUSBInterface"));
+    EXPECT_EQ(log_.lines(), QStringList{u"no ethernet router is found"_s});
     registry_.setReadable(false);
-    EXPECT_FALSE(probe());
+    EXPECT_FALSE(probe("IOUSBHostInterface"));
     EXPECT_TRUE(log_.lines().isEmpty());
-    EXPECT_FALSE(observer_.getModemPlugedInTime());
 }
 
 TEST_F(RouterObserverTest, NeedsAnInterfaceName)

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusUnixFileDescriptor>
+#include <QDBusVirtualObject>
+
+namespace tarvo {
+
+/// A logind on a bus of its own, which lends one lock at a time and never sleeps by itself.
+class SimulatedLogind final : public QDBusVirtualObject {
+public:
+    /// @param ownsName  false makes a stranger, who can only pretend
+    explicit SimulatedLogind(const QString &busAddress, bool ownsName = true);
+    ~SimulatedLogind() override;
+
+    /// Tells everybody on the bus that the machine is about to sleep, or has woken. Returns when the bus has passed it on.
+    void prepareForSleep(bool sleeping);
+
+    /// @return whether somebody holds the lock
+    bool isLocked() const;
+    /// @return how many times the lock to delay sleep was lent
+    int locksLent() const { return m_locksLent; }
+
+    QString introspect(const QString &path) const override;
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
+
+private:
+    QDBusUnixFileDescriptor lendLock();
+
+    QDBusConnection m_bus;
+    int m_lock = -1;
+    int m_locksLent = 0;
+};
+
+} // namespace tarvo
