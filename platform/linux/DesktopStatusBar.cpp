@@ -29,7 +29,7 @@ public:
     }
 
     void viewChanged() override { m_notifierItem->viewChanged(); }
-    void setTitle(const QString &) override { }
+    void setTitle(const QString &) override { } // neither kind of bar has room for a text
 
     std::optional<QRect> frame() const override { return m_trayItem ? m_trayItem->frame() : std::nullopt; }
 
