@@ -17,7 +17,6 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDBusConnection>
 #include <QLocale>
 #include <QTextStream>
 
