@@ -33,13 +33,15 @@ QString requestText(const ReceivedRequest &request)
 
 DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWorkspace::Opener opener)
     : m_opener(std::move(opener))
-    , m_modem([this](const ReceivedRequest &request) { Q_EMIT modemAsked(requestText(request)); })
+    , m_modem([this](const ReceivedRequest &request) {
+        m_steps.post([this, text = requestText(request)] { Q_EMIT modemAsked(text); });
+    })
     , m_server(m_modem)
     , m_problem(m_server.error())
     , m_network(m_store)
     , m_workspace([this](const QUrl &page) { return openPage(page); })
     , m_statusBar(statusBar)
-    , m_systemLog([this](const QString &line) { Q_EMIT lineLogged(line); })
+    , m_systemLog([this](const QString &line) { m_steps.post([this, line] { Q_EMIT lineLogged(line); }); })
     , m_notifications(QDBusConnection::sessionBus(), m_systemLog)
 {
     m_modem.change([](ModemCondition &condition) { condition.defaultProfileName = u"Demo Büro"_s; });

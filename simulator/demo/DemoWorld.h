@@ -2,6 +2,7 @@
 
 #include "app/MainController.h"
 #include "platform/StateStore.h"
+#include "platform/StepQueue.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/SteadyClock.h"
 #include "simulator/ModemServer.h"
@@ -48,9 +49,7 @@ public:
     const ObservedStatusBar &statusBar() const { return m_statusBar; }
 
 Q_SIGNALS:
-    /// Emitted on the modem's thread.
     void modemAsked(const QString &request);
-    /// Emitted on any thread.
     void lineLogged(const QString &line);
     void pageOpened(const QUrl &page);
     /// The modem came or went, or the computer slept or woke.
@@ -60,6 +59,7 @@ private:
     void giveAddress();
     bool openPage(const QUrl &page);
 
+    StepQueue m_steps; ///< to the main thread
     SimulatedWorkspace::Opener m_opener;
     SimulatedModem m_modem;
     ModemServer m_server;
