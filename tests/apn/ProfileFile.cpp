@@ -99,7 +99,7 @@ TEST(ProfileFile, SaysWhyAFileCannotBeRead)
     QFile::link(u"/dev/zero"_s, folder.path(u"device"_s));
     ASSERT_EQ(::mkfifo(folder.path(u"fifo"_s).toLocal8Bit().constData(), 0600), 0);
     const std::pair<QString, QString> cases[] = {
-        {u"big"_s, u"it is larger than 1048576 bytes"_s},
+        {u"big"_s, u"it is larger than 262144 bytes"_s},
         {u"loop"_s, u"it cannot be read: Too many levels of symbolic links"_s},
         {u"none"_s, u"it cannot be read: No such file or directory"_s},
         {u"fifo"_s, u"it is no regular file"_s},
