@@ -11,7 +11,7 @@
 namespace tarvo {
 
 /// A profile is a few records; a file of more bytes than this is none.
-inline constexpr qsizetype maximumProfileSize = 1024 * 1024;
+inline constexpr qsizetype maximumProfileSize = 256 * 1024;
 
 struct ProfileBytes {
     std::optional<QByteArray> bytes; ///< nil when the file cannot be read

@@ -70,7 +70,7 @@ void decodeAFile(benchmark::State &state)
     state.counters["blocks"] =
         benchmark::Counter(static_cast<double>(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
 }
-BENCHMARK(decodeAFile)->Arg(1)->Arg(100)->Arg(8000);
+BENCHMARK(decodeAFile)->Arg(1)->Arg(100)->Arg(2000);
 
 /// The largest file that is one text from its first byte to its last, so that every record's view goes to the end.
 void chooseInputsInOneLongText(benchmark::State &state)
@@ -82,7 +82,7 @@ void chooseInputsInOneLongText(benchmark::State &state)
             benchmark::DoNotOptimize(inputs.at(record));
     }
 }
-BENCHMARK(chooseInputsInOneLongText)->Arg(1000)->Arg(8000);
+BENCHMARK(chooseInputsInOneLongText)->Arg(1000)->Arg(2000);
 
 class NoLog final : public SystemLog {
 public:

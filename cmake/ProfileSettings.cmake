@@ -1,7 +1,8 @@
 # What a packager decides about access-point profiles: where they are, and who may have made them.
 set(TARVO_PROFILE_FOLDER "/Library/Application Support/Skyvane/QX_Profile/" CACHE STRING
   "Folder of the access-point profiles and of their list, profile.xml")
-set(TARVO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem" CACHE FILEPATH
+set(TARVO_DEMO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem")
+set(TARVO_PROFILE_PUBLIC_KEY "${TARVO_DEMO_PROFILE_PUBLIC_KEY}" CACHE FILEPATH
   "Public half of the key that makes profiles (RSA, 1024 bits, PEM); the demonstration key protects nothing")
 
 # Turns the key into DER and checks what it is, at configure time. Needs the program only then.

@@ -3,8 +3,6 @@
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
 
-#include <sys/stat.h>
-
 #include <random>
 
 using namespace tarvo;
@@ -88,23 +86,4 @@ TEST(ProfileFile, ChoosesTheSameBytesAsThePlainRule)
         }
     }
     EXPECT_GT(tooShort, 100);
-}
-
-TEST(ProfileFile, SaysWhyAFileCannotBeRead)
-{
-    const ProfileFolder folder;
-    folder.write(u"big"_s, {});
-    ASSERT_TRUE(QFile::resize(folder.path(u"big"_s), qint64{1} << 30));
-    QFile::link(folder.path(u"loop"_s), folder.path(u"loop"_s));
-    QFile::link(u"/dev/zero"_s, folder.path(u"device"_s));
-    ASSERT_EQ(::mkfifo(folder.path(u"fifo"_s).toLocal8Bit().constData(), 0600), 0);
-    const std::pair<QString, QString> cases[] = {
-        {u"big"_s, u"it is larger than 1048576 bytes"_s},
-        {u"loop"_s, u"it cannot be read: Too many levels of symbolic links"_s},
-        {u"none"_s, u"it cannot be read: No such file or directory"_s},
-        {u"fifo"_s, u"it is no regular file"_s},
-        {u"device"_s, u"it is no regular file"_s},
-    };
-    for (const auto &[name, problem] : cases)
-        EXPECT_EQ(readProfileBytes(folder.path(name)).problem, problem);
 }

@@ -31,17 +31,17 @@ TEST(ProfileTool, AcceptsGoodRecordsAndNamesWhatIsWrong)
 {
     EXPECT_EQ(readSource(record).problems, QStringList());
     EXPECT_EQ(readSource(QString(record).replace(u","_s, u",\r\n  "_s)).text, record);
-    const std::pair<std::pair<QString, QString>, QString> changes[] = {
-        {{u"\"apn\":\"a\","_s, u""_s}, u"key \"apn\" is missing"_s},
-        {{u"\"apn\""_s, u"\"x\":1,\"apn\""_s}, u"key \"x\" is unknown"_s},
-        {{u"\"3\""_s, u"\"three\""_s}, u"\"index\" is no integer"_s},
-        {{u"\"3\""_s, u"3.5"_s}, u"\"index\" is no integer"_s},
-        {{u"\"a\""_s, u"1"_s}, u"\"apn\" is no text"_s},
-        {{u"\"P\""_s, u"\"\""_s}, u"\"profile\" is empty"_s},
-        {{u"\"a\""_s, u"\"a&b\""_s}, u"'&' does not reach the modem; write it as \\u0026"_s},
+    const QStringList changes[] = {
+        {u"\"apn\":\"a\","_s, u""_s, u"key \"apn\" is missing"_s},
+        {u"\"apn\""_s, u"\"x\":1,\"apn\""_s, u"key \"x\" is unknown"_s},
+        {u"\"3\""_s, u"\"three\""_s, u"\"index\" is no integer"_s},
+        {u"\"3\""_s, u"3.5"_s, u"\"index\" is no integer"_s},
+        {u"\"a\""_s, u"1"_s, u"\"apn\" is no text"_s},
+        {u"\"P\""_s, u"\"\""_s, u"\"profile\" is empty"_s},
+        {u"\"a\""_s, u"\"a&b\""_s, u"'&' does not reach the modem; write it as \\u0026"_s},
     };
-    for (const auto &[change, problem] : changes)
-        EXPECT_EQ(readSource(QString(record).replace(change.first, change.second)).problems, QStringList{problem});
+    for (const QStringList &row : changes)
+        EXPECT_EQ(readSource(QString(record).replace(row[0], row[1])).problems, row.mid(2));
     EXPECT_EQ(readSource(uR"(["A","B"])"_s).text, u"A*B"_s);
     EXPECT_EQ(readSource(uR"(["A","A","","a*b","profxml",7])"_s).problems.size(), 6);
 }
@@ -49,19 +49,20 @@ TEST(ProfileTool, AcceptsGoodRecordsAndNamesWhatIsWrong)
 TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
 {
     const ProfileFolder folder;
-    folder.add(u"profile.xml"_s, u"A*Gone"_s);
-    folder.add(u"A.xml"_s, record);
     const ProfileKey key = folder.signer().publicKey();
-    EXPECT_FALSE(reportFolder(folder.path(QString()), key).isInOrder);
-    folder.add(u"sub/Gone.xml"_s, record);
-    EXPECT_TRUE(reportFolder(folder.path(QString()), key).isInOrder);
-    folder.write(u"Other.xml"_s, "x");
-    QStringList lines = reportFolder(folder.path(QString()), key).lines;
-    lines.sort();
-    EXPECT_EQ(
-        lines,
-        (QStringList{u"A.xml: listed, in order"_s, u"Other.xml: not listed, its length is no multiple of 130 bytes"_s,
-                     u"profile.xml: lists A, Gone"_s, u"sub/Gone.xml: listed, in order"_s}));
+    folder.add(u"profile.xml"_s, u"A*Gone"_s);
+    folder.add(u"sub/A.xml"_s, record);
+    QStringList lines{u"profile.xml: lists A, Gone"_s, u"sub/A.xml: listed, in order"_s};
+    EXPECT_EQ(reportFolder(folder.path({}), key).lines,
+              lines + QStringList{u"Gone: listed, and there is no such file"_s});
+    EXPECT_FALSE(reportFolder(folder.path({}), key).isInOrder);
+    folder.add(u"sub/A.xml"_s, u"[]"_s);
+    lines[1] = u"sub/A.xml: listed, it is no JSON object"_s;
+    folder.add(u"profile.xml"_s, u"A"_s);
+    lines[0] = u"profile.xml: lists A"_s;
+    EXPECT_EQ(reportFolder(folder.path({}), key).lines, lines);
+    folder.add(u"sub/A.xml"_s, record);
+    EXPECT_TRUE(reportFolder(folder.path({}), key).isInOrder);
 }
 
 TEST(ProfileTool, PacksWhatTheCompanionReads)
