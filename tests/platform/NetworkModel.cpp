@@ -2,6 +2,8 @@
 
 #include "tests/support/PrintQt.h"
 
+#include <QList>
+
 #include <gtest/gtest.h>
 
 namespace tarvo {
