@@ -35,6 +35,9 @@ if(TARVO_BUILD_TESTS)
   find_package(GTest REQUIRED)
   # USB devices that are not there, beside real network interfaces.
   pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0)
+  find_program(UMOCKDEV_WRAPPER umockdev-wrapper REQUIRED)
+  # The end-to-end test; it needs ip (iproute2), unshare and nsenter (util-linux) as well.
+  find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 endif()
 
 if(TARVO_BUILD_BENCHMARKS)

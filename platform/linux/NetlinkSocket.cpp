@@ -65,13 +65,9 @@ bool NetlinkSocket::dump(int request, int family, const Handler &handler)
 /// @return a negative libnl error code when something went wrong
 int NetlinkSocket::receive(const Handler &handler)
 {
-    const std::unique_ptr<nl_cb, decltype(&nl_cb_put)> callbacks(nl_cb_clone(nl_socket_get_cb(m_socket.get())),
-                                                                 &nl_cb_put);
-    if (!callbacks)
-        return -NLE_NOMEM;
     Handler borrowed = handler;
-    nl_cb_set(callbacks.get(), NL_CB_VALID, NL_CB_CUSTOM, &handOver, &borrowed);
-    return nl_recvmsgs(m_socket.get(), callbacks.get());
+    nl_socket_modify_cb(m_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, &handOver, &borrowed);
+    return nl_recvmsgs_default(m_socket.get());
 }
 
 } // namespace tarvo

@@ -75,26 +75,21 @@ IOServiceHandle UdevDeviceRegistry::serviceMatchingBSDName(const QString &bsdNam
     const int index = m_interfaceIndex(bsdName);
     if (index == 0 || !m_udev)
         return 0;
-    auto known = m_handleOfInterface.constFind(index);
-    if (known == m_handleOfInterface.cend()) {
-        const std::optional<IOServiceHandle> read = readInterface(bsdName, index);
-        if (!read)
-            return 0;
-        known = m_handleOfInterface.insert(index, *read);
-    }
-    if (*known != 0)
-        m_interfaces[*known].insert(nameKey, bsdName);
-    return *known;
+    KnownInterface &known = m_knownInterfaces[index];
+    if (known.service == 0 && known.name != bsdName)
+        known.service = readInterface(bsdName, index);
+    known.name = bsdName;
+    if (known.service != 0)
+        m_interfaces[known.service].insert(nameKey, bsdName);
+    return known.service;
 }
 
-/// @return a new handle, or 0 for an interface that is no device; nil when sysfs does not show the interface under
-///         this name now
-std::optional<IOServiceHandle> UdevDeviceRegistry::readInterface(const QString &name, int index)
+/// @return a new handle; 0 for an interface that is no device, or that has another name by now
+IOServiceHandle UdevDeviceRegistry::readInterface(const QString &name, int index)
 {
     const Device device(udev_device_new_from_subsystem_sysname(m_udev.get(), "net", name.toUtf8().constData()));
-    if (!device || QByteArray(udev_device_get_sysattr_value(device.get(), "ifindex")).trimmed().toInt() != index)
-        return std::nullopt;
-    if (!udev_device_get_parent(device.get()))
+    if (!device || QByteArray(udev_device_get_sysattr_value(device.get(), "ifindex")).trimmed().toInt() != index
+        || !udev_device_get_parent(device.get()))
         return 0;
     Properties properties;
     if (const auto vendor = nearestUsbNumber(device.get(), "idVendor"))
@@ -107,7 +102,7 @@ std::optional<IOServiceHandle> UdevDeviceRegistry::readInterface(const QString &
 
 void UdevDeviceRegistry::forgetInterface(int interfaceIndex)
 {
-    m_interfaces.remove(m_handleOfInterface.take(interfaceIndex));
+    m_interfaces.remove(m_knownInterfaces.take(interfaceIndex).service);
 }
 
 std::optional<QList<IOServiceHandle>> UdevDeviceRegistry::servicesMatchingClass(const QByteArray &className)

@@ -18,7 +18,7 @@ namespace tarvo {
 ///
 /// What identifies the device behind a network interface is read once, when the interface is first asked for, and kept
 /// until it is forgotten: while a device is being removed, the nearest identity above it is already another device's.
-/// An interface that is no device, such as a bridge or a tunnel, costs one look for its whole life.
+/// An interface that is no device, such as a bridge or a tunnel, costs one look for each name it ever has.
 class UdevDeviceRegistry final : public DeviceRegistry {
 public:
     /// @param interfaceIndex  tells the index of the network interface of a name; 0 when there is none
@@ -35,7 +35,12 @@ public:
 private:
     using Properties = QHash<QString, QVariant>;
 
-    std::optional<IOServiceHandle> readInterface(const QString &name, int index);
+    struct KnownInterface {
+        QString name; ///< null before the first look
+        IOServiceHandle service = 0; ///< 0 when the look under this name found no device
+    };
+
+    IOServiceHandle readInterface(const QString &name, int index);
     std::optional<QVariant> searchUsbInterface(const QByteArray &path, const QString &key,
                                                RegistrySearch direction) const;
 
@@ -43,7 +48,7 @@ private:
     std::shared_ptr<udev> m_udev;
 
     IOServiceHandle m_lastHandle = 0;
-    QHash<int, IOServiceHandle> m_handleOfInterface; ///< by interface index; 0 for one that is no device
+    QHash<int, KnownInterface> m_knownInterfaces; ///< by interface index
     QHash<IOServiceHandle, Properties> m_interfaces; ///< what was read of each network interface
     QHash<QByteArray, IOServiceHandle> m_handleOfUsbInterface; ///< by path in sysfs
     QHash<IOServiceHandle, QByteArray> m_usbInterfaces; ///< path in sysfs

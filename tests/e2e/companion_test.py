@@ -166,7 +166,7 @@ class CompanionTest(unittest.TestCase):
     def quit(self):
         """SIGTERM ends the program, long before a request that gets no answer would end by itself."""
         self.program.terminate()
-        self.assertEqual(self.program.wait(2), 0)
+        self.assertEqual(self.program.wait(2), 0, "\n".join(self.log))
 
     def until(self, condition, seconds=15):
         deadline = time.monotonic() + seconds

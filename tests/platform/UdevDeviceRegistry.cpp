@@ -95,14 +95,10 @@ TEST_F(UdevDeviceRegistryTest, KeepsWhatItReadUntilTheInterfaceIsForgotten)
     EXPECT_EQ(m_registry.serviceMatchingBSDName(u"enx0"_s), 0);
 }
 
-TEST_F(UdevDeviceRegistryTest, DoesNotTakeAHubForTheDevice)
+TEST_F(UdevDeviceRegistryTest, TakesNeitherAHubNorAnotherLinkForTheDevice)
 {
     umockdev_testbed_set_attribute(m_testbed.get(), "/sys/devices/usb1/1-1", "idVendor", "garbage");
     EXPECT_EQ(above(m_registry.serviceMatchingBSDName(u"en5"_s), u"idVendor"_s), u"none"_s);
-}
-
-TEST_F(UdevDeviceRegistryTest, AnotherLinkOfTheNameIsNotMistakenForIt)
-{
     m_indexes = {{u"en5"_s, 8}};
     EXPECT_EQ(m_registry.serviceMatchingBSDName(u"en5"_s), 0);
 }
