@@ -3,6 +3,8 @@
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 
+#include <list>
+
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -44,14 +46,15 @@ TEST(FirmwareCheck, ReadsTheOfferLoosely)
 
 TEST(FirmwareCheck, IsDueAtOnceAndThenEveryTenMinutes)
 {
-    std::stop_source first;
-    std::stop_source second;
+    std::list<std::stop_source> attachments(2);
+    const std::stop_token first = attachments.front().get_token();
+    const std::stop_token second = attachments.back().get_token();
     const Clock::TimePoint start{1h};
-    const auto checked = nextFirmwareCheck({}, first.get_token(), start);
+    const auto checked = nextFirmwareCheck({}, first, start);
     ASSERT_TRUE(checked);
-    EXPECT_FALSE(nextFirmwareCheck(*checked, first.get_token(), start + 10min - 1ns));
-    EXPECT_TRUE(nextFirmwareCheck(*checked, first.get_token(), start + 10min));
-    EXPECT_TRUE(nextFirmwareCheck(*checked, second.get_token(), start + 1s)) << "another attachment";
+    EXPECT_FALSE(nextFirmwareCheck(*checked, first, start + 10min - 1ns));
+    EXPECT_TRUE(nextFirmwareCheck(*checked, first, start + 10min));
+    EXPECT_TRUE(nextFirmwareCheck(*checked, second, start + 1s)) << "another attachment";
 }
 
 TEST_F(Firmware, IsAskedForOnceConnectedAndSeenInTheSamePass)

@@ -4,7 +4,7 @@
 #include "tests/support/DesktopEnvironment.h"
 
 #include <QLineEdit>
-#include <QWindow>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -21,15 +21,28 @@ struct BalloonWindow : testing::Test {
         ground.setStyleSheet(QStringLiteral("background: white"));
         ground.setGeometry(200, 50, 880, 400);
         ground.show();
-        ground.activateWindow();
         view.resize(200, 40);
-        EXPECT_TRUE(waitFor([this] { return ground.isActiveWindow() && gray(640, 130) == 255; }));
+        EXPECT_TRUE(waitFor([this] {
+            ground.activateWindow();
+            return ground.isActiveWindow() && ground.frameGeometry() != ground.geometry() && gray(640, 130) == 255;
+        }));
         balloon = OvAttachedWindow::initWithView(&view, {640, 95}, OvSide::Bottom, 5);
     }
 
+    static void SetUpTestSuite()
+    {
+        windowManager.emplace(std::vector<std::string>{"openbox"});
+        ASSERT_TRUE(waitFor([] { // until a new window gets a frame
+            QWidget window;
+            window.show();
+            return QTest::qWaitFor([&] { return window.frameGeometry() != window.geometry(); }, 300);
+        }));
+    }
+    static void TearDownTestSuite() { windowManager.reset(); }
+
     static int gray(int x, int y) { return qGray(screenshot().pixel(x, y)); }
 
-    Program windowManager{{"openbox"}};
+    static inline std::optional<Program> windowManager;
     QLineEdit ground;
     QWidget view;
     std::unique_ptr<OvAttachedWindow> balloon;
