@@ -55,19 +55,26 @@ DesktopNotifications::~DesktopNotifications()
 
 void DesktopNotifications::askWhatIsThere()
 {
-    for (const QString &method : {u"ListNames"_s, u"ListActivatableNames"_s}) {
-        bool &answer = method == "ListNames"_L1 ? m_running : m_startable;
-        auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(callToBus(method)), this);
-        connect(asked, &QDBusPendingCallWatcher::finished, this, [&answer, asked] {
-            asked->deleteLater();
-            const QDBusPendingReply<QStringList> names = *asked;
-            answer = names.isValid() && names.value().contains(serviceName());
-        });
-    }
+    askWhether(u"ListNames"_s, [this](bool running) {
+        if (!m_ownerSeen) // a change that was told meanwhile is newer
+            m_running = running;
+    });
+    askWhether(u"ListActivatableNames"_s, [this](bool startable) { m_startable = startable; });
+}
+
+void DesktopNotifications::askWhether(const QString &list, const std::function<void(bool)> &answer)
+{
+    auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(callToBus(list)), this);
+    connect(asked, &QDBusPendingCallWatcher::finished, this, [asked, answer] {
+        asked->deleteLater();
+        const QDBusPendingReply<QStringList> names = *asked;
+        answer(names.isValid() && names.value().contains(serviceName()));
+    });
 }
 
 void DesktopNotifications::ownerChanged(const QString &, const QString &, const QString &newOwner)
 {
+    m_ownerSeen = true;
     m_running = !newOwner.isEmpty();
     m_identifier = 0; // what an earlier service showed is not the new one's
 }

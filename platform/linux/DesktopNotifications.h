@@ -31,6 +31,8 @@ public:
 
 private:
     void askWhatIsThere();
+    /// Calls @p answer later: whether @p list of the bus names the service.
+    void askWhether(const QString &list, const std::function<void(bool)> &answer);
     void ownerChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
     void shown(QDBusPendingCallWatcher *asked, std::uint64_t request);
     void closeAtService(std::uint32_t identifier);
@@ -38,6 +40,7 @@ private:
     QDBusConnection m_bus;
     SystemLog &m_systemLog;
     bool m_running = false;
+    bool m_ownerSeen = false; ///< the service came or went while we watched
     bool m_startable = false; ///< the bus starts the service when it is called
     bool m_wanted = false;
     std::uint32_t m_identifier = 0; ///< of the notification at the service; 0 for none

@@ -55,9 +55,7 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     EXPECT_EQ(shownImage(), u"newVersion"_s);
     EXPECT_EQ(statusBar.itemWithView()->view()->toolTip(), u"HaveNewVersionTipWhenConnected"_s);
     EXPECT_TRUE(panel->wndAlert().isVisible());
-    EXPECT_FALSE(state.statusDisplayFlowFinishFlag_);
     panel->btnCancelAction();
-
     pass(2999ms);
     ASSERT_TRUE(clock.waitForSleepers(1));
     QCoreApplication::processEvents();
@@ -83,45 +81,30 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     EXPECT_FALSE(panel->wndAlert().isVisible());
 }
 
-TEST_F(BalloonSequence, ReplacesOneThatIsStillShown)
-{
-    controller.toggleAttachedWindowAtPoint(u"earlier"_s);
-    state.isHaveNewVersion_ = true;
-    controller.startDisPlayUIStatusThread();
-    EXPECT_TRUE(eventually([] { return balloonText() == u"HaveNewVersionTipWhenConnected"; }));
-}
-
 TEST_F(BalloonSequence, TogglesWhateverTheText)
 {
-    controller.toggleAttachedWindowAtPoint(std::nullopt);
-    controller.toggleAttachedWindowAtPoint(QString());
-    EXPECT_EQ(balloonText(), QString());
-    controller.toggleAttachedWindowAtPoint(u"one"_s);
-    EXPECT_EQ(balloonText(), u"one"_s);
-    controller.toggleAttachedWindowAtPoint(u"two"_s);
-    EXPECT_EQ(balloonText(), QString());
+    std::vector<QString> seen;
+    for (const std::optional<QString> &text : {std::optional<QString>(), std::optional(u""_s), std::optional(u"one"_s),
+                                               std::optional(u"two"_s), std::optional(u"three"_s)}) {
+        controller.toggleAttachedWindowAtPoint(text);
+        seen.push_back(balloonText());
+    }
+    EXPECT_EQ(seen, (std::vector<QString>{{}, {}, u"one"_s, {}, u"three"_s}));
 }
 
-TEST_F(BalloonSequence, GoesWithItsDevice)
+TEST_F(BalloonSequence, EndsWithItsDeviceAndLeavesNoBalloon)
 {
-    state.isHaveNewVersion_ = true;
-    controller.startDisPlayUIStatusThread();
-    ASSERT_TRUE(eventually([] { return !balloonText().isEmpty(); }));
-    controller.stopGetModemStatus();
-    EXPECT_EQ(balloonText(), QString());
-    EXPECT_TRUE(sequenceEnds()) << "without any time passing";
-    EXPECT_EQ(balloonText(), QString());
-    EXPECT_EQ(shownImage(), u"ready"_s);
-    EXPECT_FALSE(state.previousHaveNewVersion_);
-}
-
-TEST_F(BalloonSequence, IsNotLeftToTheNextDevice)
-{
-    state.isHaveNewVersion_ = true;
-    controller.startDisPlayUIStatusThread();
-    ASSERT_TRUE(eventually([] { return !balloonText().isEmpty(); }));
-    plugIn(modem);
-    EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+    for (const bool removed : {true, false}) {
+        state.resetForReadyDevice();
+        state.isHaveNewVersion_ = true;
+        state.previousHaveNewVersion_ = false;
+        controller.startDisPlayUIStatusThread();
+        ASSERT_TRUE(eventually([] { return !balloonText().isEmpty(); }));
+        removed ? controller.stopGetModemStatus() : plugIn(modem);
+        EXPECT_TRUE(sequenceEnds()) << "without any time passing";
+        EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+        EXPECT_EQ(shownImage(), removed ? u"ready"_s : u"online"_s);
+    }
 }
 
 TEST_F(BalloonSequence, StartsOnHoverUnlessOneRunsOrTheSettingsForbidIt)
@@ -133,17 +116,13 @@ TEST_F(BalloonSequence, StartsOnHoverUnlessOneRunsOrTheSettingsForbidIt)
     EXPECT_TRUE(systemLog.contains(u"mouseEntered"_s));
     EXPECT_TRUE(state.startDisplayFlowing_);
     EXPECT_FALSE(state.statusDisplayFlowFinishFlag_);
-    EXPECT_FALSE(systemLog.contains(refusal));
     controller.startDisPlayUIStatusThread();
     EXPECT_FALSE(systemLog.contains(refusal)) << "only the pointer is told";
     QApplication::sendEvent(view, &enter);
     EXPECT_EQ(systemLog.count(refusal), 1);
     controller.stopGetModemStatus();
     ASSERT_TRUE(sequenceEnds());
-
-    QVariantMap settings = usualSettings();
-    settings.insert(u"DonotShowStatusWhenMouseMoveIn"_s, true);
-    configure(settings);
+    configure({{u"DonotShowStatusWhenMouseMoveIn"_s, true}});
     controller.mouseEnteredHandle();
     EXPECT_FALSE(state.startDisplayFlowing_);
     EXPECT_EQ(systemLog.count(refusal), 2);

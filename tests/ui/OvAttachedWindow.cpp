@@ -4,7 +4,7 @@
 #include "tests/support/DesktopEnvironment.h"
 
 #include <QLineEdit>
-#include <QWindow>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -21,15 +21,28 @@ struct BalloonWindow : testing::Test {
         ground.setStyleSheet(QStringLiteral("background: white"));
         ground.setGeometry(200, 50, 880, 400);
         ground.show();
-        ground.activateWindow();
         view.resize(200, 40);
-        EXPECT_TRUE(waitFor([this] { return ground.isActiveWindow() && gray(640, 130) == 255; }));
+        EXPECT_TRUE(waitFor([this] {
+            ground.activateWindow();
+            return ground.isActiveWindow() && ground.frameGeometry() != ground.geometry() && gray(640, 130) == 255;
+        }));
         balloon = OvAttachedWindow::initWithView(&view, {640, 95}, OvSide::Bottom, 5);
     }
 
+    static void SetUpTestSuite()
+    {
+        windowManager.emplace(std::vector<std::string>{"openbox"});
+        ASSERT_TRUE(waitFor([] { // until a new window gets a frame
+            QWidget window;
+            window.show();
+            return QTest::qWaitFor([&] { return window.frameGeometry() != window.geometry(); }, 300);
+        }));
+    }
+    static void TearDownTestSuite() { windowManager.reset(); }
+
     static int gray(int x, int y) { return qGray(screenshot().pixel(x, y)); }
 
-    Program windowManager{{"openbox"}};
+    static inline std::optional<Program> windowManager;
     QLineEdit ground;
     QWidget view;
     std::unique_ptr<OvAttachedWindow> balloon;
@@ -47,8 +60,6 @@ TEST_F(BalloonWindow, IsOpaqueAndCutToItsOutlineWithoutCompositing)
     EXPECT_LT(at(640, 112), 100) << "inside the arrow";
     EXPECT_EQ(at(640, 98), 255) << "above the tip";
     EXPECT_EQ(at(620, 110), 255) << "beside the arrow";
-    EXPECT_EQ(at(539, 140), 255) << "the border";
-    EXPECT_LT(at(540, 140), 100) << "within the border";
     EXPECT_EQ(at(538, 116), 255) << "a corner";
     EXPECT_TRUE(ground.isActiveWindow()) << "the keyboard stays where it was";
 }
@@ -65,32 +76,20 @@ TEST_F(BalloonWindow, IsTranslucentWithAShadowWhereTheScreenIsComposited)
     EXPECT_TRUE(ground.isActiveWindow());
 }
 
-TEST_F(BalloonWindow, LaysItselfOutAgainWhenItIsChanged)
+TEST_F(BalloonWindow, LaysItselfOutAndChoosesItsSide)
 {
     EXPECT_EQ(balloon->geometry(), QRect(538, 100, 204, 60));
     EXPECT_EQ(view.geometry(), QRect(2, 18, 200, 40));
     balloon->setViewMargin(10);
     EXPECT_EQ(balloon->geometry(), QRect(530, 100, 220, 76));
-    balloon->setArrowHeight(0);
-    EXPECT_EQ(balloon->geometry(), QRect(530, 100, 220, 60));
-    view.resize(100, 20);
-    balloon->setDrawsRoundCornerBesideArrow(false);
-    EXPECT_EQ(balloon->geometry(), QRect(580, 100, 120, 40));
     balloon->resize(10, 10);
     balloon->show();
-    EXPECT_EQ(balloon->geometry(), QRect(580, 100, 120, 40)) << "a foreign size does not last";
-    balloon.reset();
-    EXPECT_EQ(view.parentWidget(), nullptr) << "the content stays its owner's";
-}
-
-TEST_F(BalloonWindow, ChoosesItsSideByItself)
-{
-    EXPECT_EQ(OvAttachedWindow::initWithView(nullptr, {0, 0}), nullptr);
+    EXPECT_EQ(balloon->geometry(), QRect(530, 100, 220, 76)) << "a foreign size does not last";
     balloon = OvAttachedWindow::initWithView(&view, {1270, 100});
     EXPECT_EQ(balloon->geometry(), QRect(1270 - 204 + 18, 100, 204, 60)) << "below, towards the left";
-    balloon = OvAttachedWindow::initWithView(&view, {20, 790}, 5.0F);
-    EXPECT_EQ(balloon->geometry().left(), 25) << "no room below";
     balloon = OvAttachedWindow::initWithView(&view, {440, 50}, &ground);
-    EXPECT_EQ(balloon->geometry().center().x(), 200 + 440 - 1) << "in the window's coordinates";
-    EXPECT_EQ(balloon->geometry().top(), ground.mapToGlobal(QPoint(0, 50)).y());
+    EXPECT_EQ(balloon->geometry().topLeft(), ground.mapToGlobal(QPoint(440 - 102, 50)));
+    balloon.reset();
+    EXPECT_EQ(view.parentWidget(), nullptr) << "the content stays its owner's";
+    EXPECT_EQ(OvAttachedWindow::initWithView(nullptr, {0, 0}), nullptr);
 }
