@@ -34,7 +34,8 @@ void MainController::openDateLimitPage()
 
 void MainController::openWebUI()
 {
-    openPage(modemServer());
+    if (routerAddr_.get())
+        openPage(modemServer());
 }
 
 void MainController::openWebUIForQX740(const QString &content)

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace tarvo {
+
+/// A notification service on the session bus that shows nothing (freedesktop Desktop Notifications Specification 1.2),
+/// on a connection of its own. At most one in a process.
+class SimulatedNotificationService final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    SimulatedNotificationService();
+    ~SimulatedNotificationService() override;
+
+    /// Takes the service's name on the bus.
+    void start();
+    void stop();
+    /// From now on every notification is turned down.
+    void refuse() { m_refuses = true; }
+
+    /// @return the texts that are shown
+    QStringList shown() const { return m_shown.values(); }
+    /// @return the identifier that each notification asked to replace, the oldest first; 0 for none
+    const QList<uint> &replaced() const { return m_replaced; }
+
+public Q_SLOTS:
+    // The names are the interface's.
+    uint Notify(const QString &application, uint replaces, const QString &icon, const QString &summary,
+                const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout);
+    void CloseNotification(uint identifier);
+
+private:
+    QDBusConnection m_bus;
+    QMap<uint, QString> m_shown;
+    QList<uint> m_replaced;
+    uint m_last = 40;
+    bool m_refuses = false;
+};
+
+} // namespace tarvo
