@@ -73,6 +73,5 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "tarvo: another instance is running already\n";
         return EXIT_FAILURE;
     }
-    installTranslations(application, QLocale());
     return run(application);
 }
