@@ -68,6 +68,11 @@ void NotifierHosts::ownerChanged(const QString &owner)
 
 void NotifierHosts::askForHost()
 {
+    if (!m_bus.isConnected()) { // then no call would ever be answered
+        QMetaObject::invokeMethod(
+            this, [this] { setHosted(false); }, Qt::QueuedConnection);
+        return;
+    }
     const quint64 question = ++m_hostQuestion;
     const auto call =
         m_bus.asyncCall(propertyQuestion(QStringLiteral("IsStatusNotifierHostRegistered")), answerTimeout);
