@@ -6,7 +6,9 @@ class QObject;
 namespace tarvo {
 
 /// Gives the application its texts in the first of @p locale's languages that there are translations for, else in
-/// English, and the direction of that language. A text without a translation shows its key. They are taken back with @p owner.
+/// English, and the direction of that language. Translations in `tarvo/translations` of the data folders, or beside the
+/// program, go before those that the program carries. A text without a translation shows its key. They are taken back
+/// with @p owner.
 void installTranslations(QObject &owner, const QLocale &locale);
 
 } // namespace tarvo
