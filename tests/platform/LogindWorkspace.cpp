@@ -33,7 +33,10 @@ protected:
         workspace->addSleepObserver([this] { events_.append(u"2"_s); }, [] {});
         return workspace;
     }
-    bool isLocked() const { return logind_->isLocked(); }
+    bool becomes(bool locked)
+    {
+        return waitFor([&] { return logind_->isLocked() == locked; });
+    }
 
     QTemporaryDir folder_;
     const QString address_ = u"unix:path=%1/run/bus"_s.arg(folder_.path());
@@ -65,16 +68,16 @@ TEST_F(LogindWorkspaceTest, HoldsTheMachineUntilTheHandlersHaveReturned)
     startBus();
     logind_ = std::make_unique<SimulatedLogind>(address_);
     const auto workspace = startWorkspace();
-    ASSERT_TRUE(waitFor([this] { return isLocked(); }));
+    ASSERT_TRUE(becomes(true));
 
     SimulatedLogind stranger(address_, false);
     stranger.prepareForSleep(true);
     logind_->prepareForSleep(false);
     for (const int night : {1, 2}) {
         logind_->prepareForSleep(true);
-        ASSERT_TRUE(waitFor([this] { return !isLocked(); }));
+        ASSERT_TRUE(becomes(false));
         logind_->prepareForSleep(false);
-        ASSERT_TRUE(waitFor([this] { return isLocked(); }));
+        ASSERT_TRUE(becomes(true));
         EXPECT_EQ(logind_->locksLent(), night + 1);
     }
     const QStringList night{u"sleep"_s, u"2"_s, u"wake"_s};
@@ -90,12 +93,12 @@ TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
     for (const char *start : {"late", "again"}) {
         startBus();
         logind_ = std::make_unique<SimulatedLogind>(address_);
-        ASSERT_TRUE(waitFor([this] { return isLocked(); })) << start;
+        ASSERT_TRUE(becomes(true)) << start;
         logind_->prepareForSleep(true);
-        ASSERT_TRUE(waitFor([this] { return !isLocked(); })) << start;
+        ASSERT_TRUE(becomes(false)) << start;
         logind_.reset();
         logind_ = std::make_unique<SimulatedLogind>(address_);
-        ASSERT_TRUE(waitFor([this] { return isLocked(); })) << start;
+        ASSERT_TRUE(becomes(true)) << start;
         EXPECT_EQ(events_.last(), u"wake"_s) << "the new logind says that the machine is awake";
         logind_.reset();
         bus_.reset();

@@ -75,10 +75,8 @@ TEST_F(UdevDeviceRegistryTest, KnowsTheUsbDeviceBehindAnInterface)
     EXPECT_EQ(above(service, u"idVendor"_s), QVariant(0x12d1));
     EXPECT_EQ(above(service, u"idProduct"_s), QVariant(0xff));
     EXPECT_EQ(nameBelow(service), u"en5"_s);
-    EXPECT_EQ(m_registry.serviceMatchingBSDName(u"en5"_s), service);
     for (const QString &none : {u"veth6"_s, u"unknown"_s, u""_s})
         EXPECT_EQ(m_registry.serviceMatchingBSDName(none), 0) << none.toStdString();
-    EXPECT_EQ(above(0, u"idVendor"_s), u"none"_s);
 }
 
 TEST_F(UdevDeviceRegistryTest, KeepsWhatItReadUntilTheInterfaceIsForgotten)
@@ -113,10 +111,6 @@ TEST_F(UdevDeviceRegistryTest, ListsUsbInterfacesUnderBothClassNames)
     EXPECT_EQ(above(services->first(), u"idVendor"_s), QVariant(0x12d1));
     EXPECT_EQ(nameBelow(services->first()), u"en5"_s);
     EXPECT_EQ(nameBelow(services->last()), u"none"_s);
-
-    umockdev_testbed_remove_device(m_testbed.get(), "/sys/devices/usb1/1-1/1-1:1.0");
-    EXPECT_EQ(m_registry.servicesMatchingClass("IOUSBInterface"), QList{services->last()});
-    EXPECT_EQ(above(services->first(), u"idVendor"_s), u"none"_s);
 }
 
 } // namespace
