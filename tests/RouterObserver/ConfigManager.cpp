@@ -124,9 +124,3 @@ TEST_F(ConfigManagerTest, ReadsFlags)
         EXPECT_FALSE(boolValue(value)) << value.toString().toStdString();
     EXPECT_FALSE(boolValue(std::nullopt));
 }
-
-TEST_F(ConfigManagerTest, NeedsAPath)
-{
-    EXPECT_DEATH(ConfigManager(std::optional<QString>()),
-                 "\\(filePath != nil\\).*-\\[ConfigManager initWithFilePath:\\].*RouterObserver/ConfigManager.*46");
-}

@@ -109,6 +109,7 @@ TEST_F(RouterObserverTest, ReportsEachChangeOfTheModemAndForgetsTheTimeOnOthers)
     network_.setIPv4(u"eth0"_s, u"10.0.0.1"_s);
     EXPECT_FALSE(observer_.getModemPlugedInTime());
     network_.setIPv4(u"en5"_s, u"192.168.0.2"_s);
+    EXPECT_TRUE(observer_.getModemPlugedInTime());
     network_.clearIPv4(u"en5"_s);
     EXPECT_FALSE(observer_.getModemPlugedInTime());
     EXPECT_EQ(ready_.size(), 3);

@@ -30,6 +30,7 @@ TEST(DefaultApn, FollowsTheTable)
         {"no name at all", std::nullopt, {}, 0},
         {"an index of 64 bits is cut to 32", u"X"_s, {uR"({"profile":"X","index":4294967298})"_s}, 2},
         {"a negative index is none", u"X"_s, {uR"({"profile":"X","index":-1})"_s}, 199, true},
+        {"199 of a record's own", u"X"_s, {uR"({"profile":"X","index":199})"_s}, 199, false},
     };
     for (const Case &row : cases) {
         const DefaultApn choice = chooseDefaultApn(row.name, {u"A"_s, u"B"_s, u"C"_s, u"B"_s}, row.records);

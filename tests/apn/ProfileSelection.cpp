@@ -87,7 +87,7 @@ TEST(CheckDefaultApn, PicksTheNameOrItsSuccessor)
 {
     const std::tuple<std::optional<QString>, QString, int, QString> cases[] = {
         {u"b"_s, u"c,a"_s, 0, u"a,b,c"_s},     {u"d"_s, u"c,a"_s, 1, u"a,c,d"_s}, {u"a"_s, u"c,a"_s, 1, u"c,a"_s},
-        {std::nullopt, u"c,a"_s, 0, u"c,a"_s}, {u""_s, u"c,a"_s, 0, u"c,a"_s},    {u""_s, u"c,"_s, 1, u"c,"_s},
+        {std::nullopt, u"c,a"_s, 0, u"c,a"_s}, {u"B"_s, u"c,a"_s, 1, u"B,a,c"_s}, {u""_s, u"c,"_s, 1, u"c,"_s},
     };
     for (const auto &[name, before, index, after] : cases) {
         QStringList names = before.split(u',');

@@ -22,10 +22,7 @@ TEST(StateStore, PatternsMatchWholeKeys)
 {
     StateStore state;
     const QStringList keys{u"a/b"_s, u"a/b+c"_s, u"a/bb"_s, u"a/bb/c"_s, u"x"_s};
-    StateStore::Entries entries;
-    for (const QString &key : keys)
-        entries.insert(key, value(1));
-    state.replaceEntries(entries);
+    state.replaceEntries({{keys[0], {}}, {keys[1], {}}, {keys[2], {}}, {keys[3], {}}, {keys[4], {}}});
     const auto session = state.createSession(u"reader"_s, {});
 
     const std::pair<QString, QStringList> cases[]{
