@@ -2,6 +2,7 @@
 
 #include "tests/support/DesktopEnvironment.h"
 
+#include <QBitmap>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDir>
@@ -70,15 +71,8 @@ bool trayIsOwned(const XScreen &screen)
 /// @return the smallest rectangle that holds all pixels of @p colour on the screen; empty when there are none
 QRect areaOf(const QColor &colour)
 {
-    const QImage screen = screenshot();
-    QRect area;
-    for (int y = 0; y < screen.height(); ++y) {
-        for (int x = 0; x < screen.width(); ++x) {
-            if (screen.pixelColor(x, y) == colour)
-                area |= QRect(x, y, 1, 1);
-        }
-    }
-    return area;
+    const QImage matching = screenshot().createMaskFromColor(colour.rgb(), Qt::MaskOutColor);
+    return QRegion(QBitmap::fromImage(matching)).boundingRect();
 }
 
 std::unique_ptr<Program> startTrayer(int height, const std::vector<std::string> &options = {})
