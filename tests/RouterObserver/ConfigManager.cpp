@@ -58,6 +58,7 @@ TEST_F(ConfigManagerTest, ChangesTheDictionaryThatItHandsOut)
     EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"leaf"_s, u"k"_s, 1));
     EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"map"_s, u"k"_s, u"new"_s));
     EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"any"_s, u"4660"_s));
+    EXPECT_TRUE(config.setConfigurationByModuleKeyAndValue(u"list"_s, u"other"_s, u"4660"_s));
     EXPECT_FALSE(config.setConfigurationByModuleKeyAndValue(u"none"_s, u"k"_s, 1));
     const QVariantMap expected{{u"leaf"_s, u"text"_s},
                                {u"map"_s, QVariantMap{{u"k"_s, u"new"_s}}},

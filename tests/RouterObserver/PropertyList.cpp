@@ -87,6 +87,7 @@ TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
     } cases[] = {
         {"deep XML", "<plist>" + QByteArray("<array>").repeated(40), u"too deeply"_s},
         {"NUL in a key", binary({"\xD1\x01\x02"_ba, "\x53\x61\0b"_ba, "\x09"_ba}), u"object 1 is damaged"_s},
+        {"key that is no text", binary({"\xD1\x01\x02"_ba, "\x09"_ba, "\x09"_ba}), u"no property list"_s},
         {"no UTF-8", binary({"\x51\xE9"_ba}), u"unknown kind"_s},
         {"large", "<plist><string>" + QByteArray(1 << 20, 'x') + "</string></plist>", u"larger than"_s},
         {"loop", binary({"\xA1\x00"_ba}), u"too deeply"_s},

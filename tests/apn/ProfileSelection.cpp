@@ -31,6 +31,7 @@ TEST_F(Selection, ReadsTheListOfProfiles)
     folder.add(u"profile.xml"_s, u"A*B"_s);
     EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), u"A*B"_s);
     EXPECT_EQ(select(u"profile"_s), QStringList()) << "the list is no candidate";
+    EXPECT_EQ(systemLog.lines().last(), u"can not find *.xml files!"_s);
     folder.write(u"profile.xml"_s, "damaged");
     EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
     EXPECT_EQ(systemLog.lines().last(),

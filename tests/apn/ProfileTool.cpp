@@ -59,16 +59,21 @@ TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
 TEST(ProfileTool, PacksWhatTheCompanionReads)
 {
     const ProfileFolder folder;
-    const auto runTool = [](const QString &arguments) {
-        return QProcess::execute(QStringLiteral(TARVO_PROFILE_TOOL), arguments.split(u' '));
+    QProcess tool;
+    const auto run = [&](const QStringList &arguments) {
+        tool.start(QStringLiteral(TARVO_PROFILE_TOOL), arguments);
+        EXPECT_TRUE(tool.waitForFinished());
+        return tool.exitCode();
     };
-    const QString pack = u"pack --key %1 -o %2 "_s.arg(QStringLiteral(TARVO_DEMO_PRIVATE_KEY), folder.path(u"A.xml"_s));
+    const QString packed = folder.path(u"A.xml"_s);
+    const QStringList pack{u"pack"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_PRIVATE_KEY), u"-o"_s, packed};
     folder.write(u"a.json"_s, record.toUtf8());
     folder.write(u"names.json"_s, R"(["A"])");
-    EXPECT_EQ(runTool(pack + folder.path(u"a.json"_s)), 0);
-    EXPECT_EQ(runTool(u"unpack "_s + folder.path(u"A.xml"_s)), 0);
-    EXPECT_EQ(runTool(u"check "_s + folder.path({})), 1) << "there is no list";
-    EXPECT_EQ(runTool(pack + folder.path(u"names.json"_s)), 1) << "a list has its own name";
-    EXPECT_EQ(runTool(u"pack "_s + folder.path(u"a.json"_s)), 2);
-    EXPECT_EQ(decryptApnFile(folder.path(u"A.xml"_s)), record) << "and nothing was written over";
+    EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 0);
+    EXPECT_EQ(run({u"unpack"_s, packed}), 0);
+    EXPECT_EQ(tool.readAllStandardOutput(), record.toUtf8() + '\n');
+    EXPECT_EQ(run({u"check"_s, folder.path({})}), 1) << "there is no list";
+    EXPECT_EQ(run(pack + QStringList{folder.path(u"names.json"_s)}), 1) << "a list has its own name";
+    EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);
+    EXPECT_EQ(decryptApnFile(packed), record) << "and nothing was written over";
 }

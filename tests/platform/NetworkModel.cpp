@@ -89,6 +89,10 @@ TEST(NetworkModel, RoutesAreReadAgainWhereTheKernelLeavesThemOpen)
     NetworkModel model = twoServices();
     for (const quint8 last : QList<quint8>{1, 2})
         model.addRoute({mainTable, 100, 0, {{5, gateway(last)}}});
+    model.removeRoute({mainTable, 100, 0, {{5, gateway(1)}}});
+    model.addRoute({mainTable, 100, 0, {{5, gateway(3)}}});
+    EXPECT_EQ(routerOf(model, u"en5"_s), u"192.168.8.2"_s);
+    EXPECT_FALSE(model.areRoutesUncertain());
     model.replaceRoute({mainTable, 100, 0, {{5, gateway(4)}}});
     EXPECT_TRUE(model.areRoutesUncertain()) << "either of the two may have been replaced";
 }

@@ -110,6 +110,10 @@ TEST_F(UdevDeviceRegistryTest, ListsUsbInterfacesUnderBothClassNames)
     EXPECT_EQ(above(services->first(), u"idVendor"_s), QVariant(0x12d1));
     EXPECT_EQ(nameBelow(services->first()), u"en5"_s);
     EXPECT_EQ(nameBelow(services->last()), u"none"_s);
+
+    umockdev_testbed_remove_device(m_testbed.get(), "/sys/devices/usb1/1-1/1-1:1.0");
+    EXPECT_EQ(m_registry.servicesMatchingClass("IOUSBInterface"), QList{services->last()});
+    EXPECT_EQ(above(services->first(), u"idVendor"_s), u"none"_s);
 }
 
 } // namespace
