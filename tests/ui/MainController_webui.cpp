@@ -46,7 +46,6 @@ TEST(WebUIRule, DecidesByTheStatusAnswer)
         {uR"("connection_password_require":"1","dial_mode":"manual_dial")"_s, WebUIDecision::Leave},
         {uR"("connection_password_require":"1","dial_mode":"auto_dial")"_s, WebUIDecision::Open},
         {uR"("connection_password_require":"0","dial_mode":"auto_dial")"_s, WebUIDecision::DependsOnDefaultApn},
-        {uR"("dial_mode":"auto_dial")"_s, WebUIDecision::DependsOnDefaultApn},
     };
     for (const auto &[content, decision] : cases)
         EXPECT_EQ(decideWebUI(readWebUIFields(content)), decision) << content.toStdString();
