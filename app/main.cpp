@@ -36,8 +36,9 @@ int run(QApplication &application)
     UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); });
     dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
     LogindWorkspace workspace(systemBusAddress(), systemLog);
-    DesktopStatusBar statusBar;
-    DesktopNotifications notifications(QDBusConnection::sessionBus(), systemLog);
+    const QDBusConnection sessionBus = QDBusConnection::sessionBus();
+    DesktopStatusBar statusBar(sessionBus);
+    DesktopNotifications notifications(sessionBus, systemLog);
     SteadyClock clock;
 
     MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,

@@ -47,8 +47,8 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded)
     return hosted ? BarKind::Notifier : BarKind::None;
 }
 
-DesktopStatusBar::DesktopStatusBar()
-    : m_hosts([this] { choose(); })
+DesktopStatusBar::DesktopStatusBar(const QDBusConnection &bus)
+    : m_hosts(bus, [this] { choose(); })
 {
     const std::optional<XScreen> screen = XScreen::ofApplication();
     if (!screen)

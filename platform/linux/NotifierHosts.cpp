@@ -43,9 +43,9 @@ void whenFinished(const QDBusPendingCall &call, QObject *receiver, Handler handl
 
 } // namespace
 
-NotifierHosts::NotifierHosts(std::function<void()> changed)
+NotifierHosts::NotifierHosts(const QDBusConnection &bus, std::function<void()> changed)
     : m_changed(std::move(changed))
-    , m_bus(QDBusConnection::sessionBus())
+    , m_bus(bus)
     , m_watcher(watcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
 {
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,

@@ -18,8 +18,9 @@ class NotifierHosts final : public QObject {
     Q_OBJECT
 
 public:
+    /// @param bus      the session's bus; one that is not connected has no host
     /// @param changed  called from the event loop after any of what this object tells changed
-    explicit NotifierHosts(std::function<void()> changed);
+    NotifierHosts(const QDBusConnection &bus, std::function<void()> changed);
 
     /// @return whether the first answer is there; until then nothing is known of hosts
     bool known() const { return m_known; }

@@ -31,7 +31,7 @@ int main(int argc, char **argv)
     parser.process(application);
     const bool isTour = parser.isSet(u"tour"_s);
 
-    tarvo::DesktopStatusBar statusBar;
+    tarvo::DesktopStatusBar statusBar(QDBusConnection::sessionBus());
     tarvo::DemoWorld world(folder, statusBar, isTour ? nullptr : &QDesktopServices::openUrl);
     if (world.problem()) {
         std::cerr << "tarvo-demo: " << world.problem()->toStdString() << std::endl;

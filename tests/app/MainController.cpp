@@ -184,16 +184,6 @@ TEST_F(Companion, WithRefererAnEmptyAnswerIsStillAnAnswer)
     EXPECT_TRUE(modem.device.waitForRequests(1, "profile_type"));
 }
 
-TEST_F(Companion, StartUpStatesOpenTheModemsPagesOnce)
-{
-    plugIn(modem);
-    controller.checkModemMainState(u"\"modem_main_state\":\"modem_waitpin\""_s);
-    EXPECT_TRUE(controller.state().hasOpenedWebUI_);
-    EXPECT_TRUE(eventually([&] { return workspace.openedURLs().size() == 1; }));
-    EXPECT_EQ(workspace.openedURLs().first(), QUrl(u"http://"_s + modem.server.authority()));
-    EXPECT_TRUE(systemLog.contains(u"modemMainState state is modem_waitpin"_s));
-}
-
 TEST_F(Companion, SendsTheClock)
 {
     plugIn(modem);
@@ -202,12 +192,4 @@ TEST_F(Companion, SendsTheClock)
     ASSERT_EQ(sent.size(), 1);
     EXPECT_TRUE(QString::fromUtf8(sent[0].body)
                     .contains(QRegularExpression(u"&pc_current_time=\\d{4}-\\d\\d-\\d\\d_\\d\\d:\\d\\d:\\d\\d&AD="_s)));
-}
-
-TEST_F(Companion, QuitAsksTheApplicationAndLetsGoOfTheWatcher)
-{
-    EXPECT_FALSE(controller.windowShouldClose());
-    EXPECT_EQ(controller.applicationShouldTerminate(), 1);
-    controller.machineDidWake(); // without a watcher: nothing to ask
-    EXPECT_EQ(systemLog.lines().last(), u"machineDidWake"_s);
 }

@@ -129,15 +129,6 @@ TEST_F(Http, IgnoresTheProxyOfTheEnvironment)
     qunsetenv("http_proxy");
 }
 
-TEST_F(Http, PreparesEachNewSocketOnce)
-{
-    int sockets = 0;
-    const HttpRequest request{url(), {}, {}, [&](int socket) { sockets += socket >= 0 ? 1 : 100; }};
-    client.exchange(request, {});
-    client.exchange(request, {});
-    EXPECT_EQ(sockets, 1);
-}
-
 TEST_F(Http, AStopEndsATransferThatWouldNeverEnd)
 {
     server.setFault({FaultKind::NoAnswer});

@@ -131,7 +131,7 @@ protected:
 
     int clicks = 0;
     QPushButton button;
-    DesktopStatusBar bar;
+    DesktopStatusBar bar{QDBusConnection::sessionBus()};
     std::unique_ptr<StatusItem> empty = bar.createItem(variableStatusItemLength);
     std::unique_ptr<StatusItem> item = bar.createItem(squareStatusItemLength);
 };
@@ -160,6 +160,13 @@ TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
     tray = startTrayer(40);
     ASSERT_TRUE(waitFor([&] { return item->frame() && item->frame()->size() == QSize(38, 38); }));
     EXPECT_TRUE(waitFor([&] { return item->frame()->contains(areaOf(magenta)) && areaOf(magenta).height() == 38; }));
+}
+
+TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
+{
+    const auto tray = startTrayer(24);
+    DesktopStatusBar busless(QDBusConnection(QStringLiteral("no such bus")));
+    EXPECT_TRUE(waitFor([&] { return busless.kind() == BarKind::Tray; }));
 }
 
 TEST_F(DesktopStatusBarTest, LetsTheBackgroundOfAnOpaqueTrayShowAroundTheIcon)

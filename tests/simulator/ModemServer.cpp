@@ -116,58 +116,5 @@ TEST_F(ModemServerTest, KeepsWhatStandsUnescapedInARecord)
     EXPECT_EQ(modem.condition().pcApns[0].value(QStringLiteral("profile")), QStringLiteral("A&AD=B+C%20"));
 }
 
-TEST_F(ModemServerTest, DoesWhatTheFaultSays)
-{
-    const QByteArray whole = get("/logo_data.asp");
-    const QByteArray body = whole.mid(whole.indexOf("\r\n\r\n") + 4);
-    socket.abort();
-
-    server.setFault({.kind = FaultKind::HalfAnswer});
-    const QByteArray half = get("/logo_data.asp");
-    EXPECT_TRUE(half.contains("Content-Length: " + QByteArray::number(body.size()) + "\r\n"));
-    EXPECT_EQ(half.size() - half.indexOf("\r\n\r\n") - 4, body.size() / 2);
-
-    server.setFault({.kind = FaultKind::CloseKeptAlive});
-    socket.abort();
-    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
-    EXPECT_TRUE(get("/logo_data.asp").isEmpty());
-
-    server.setFault({.kind = FaultKind::WrongBytes});
-    socket.abort();
-    EXPECT_TRUE(get("/logo_data.asp").contains('\xff'));
-
-    server.setFault({.kind = FaultKind::Redirect, .location = "/elsewhere"});
-    socket.abort();
-    send(head("GET", "/") + "\r\n");
-    EXPECT_TRUE(read("\r\n\r\n").startsWith("HTTP/1.1 302 "));
-}
-
-TEST_F(ModemServerTest, NeverStopsAnEndlessAnswer)
-{
-    server.setFault({.kind = FaultKind::EndlessAnswer});
-    send(head("GET", "/logo_data.asp") + "\r\n");
-    qint64 received = 0;
-    while (received < 8 * 1024 * 1024 && socket.waitForReadyRead(5000))
-        received += socket.readAll().size();
-    EXPECT_GE(received, 8 * 1024 * 1024);
-}
-
-TEST_F(ModemServerTest, RefusesUntilTheFaultIsOver)
-{
-    server.setFault({.kind = FaultKind::Refuse});
-    socket.connectToHost(QHostAddress(QHostAddress::LocalHost), server.port());
-    EXPECT_FALSE(socket.waitForConnected(5000));
-    server.setFault({});
-    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
-}
-
-TEST_F(ModemServerTest, SparesRequestsThatTheFaultDoesNotName)
-{
-    server.setFault({.kind = FaultKind::CloseAtOnce, .part = "default_apn"});
-    EXPECT_FALSE(get("/logo_data.asp").isEmpty());
-    EXPECT_TRUE(get("/goform/goform_get_cmd_process?cmd=default_apn").isEmpty());
-    EXPECT_TRUE(modem.waitForRequests(2));
-}
-
 } // namespace
 } // namespace tarvo

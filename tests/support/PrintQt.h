@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QUrl>
 
 #include <ostream>
 
@@ -10,9 +9,4 @@
 inline void PrintTo(const QString &text, std::ostream *out)
 {
     *out << '"' << text.toStdString() << '"';
-}
-
-inline void PrintTo(const QUrl &url, std::ostream *out)
-{
-    *out << url.toString().toStdString();
 }
