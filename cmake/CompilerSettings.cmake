@@ -13,7 +13,7 @@ target_compile_definitions(tarvo_settings INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_
 # GCC 12 takes the stop state of its own <stop_token> for uninitialised, hence the last exception.
 target_compile_options(tarvo_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wconversion -Wno-sign-conversion
-  -Wformat=2 -Wno-maybe-uninitialized -fstack-protector-strong
+  -Wformat=2 $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized> -fstack-protector-strong
   $<$<BOOL:${TARVO_WARNINGS_AS_ERRORS}>:-Werror>)
 
 if(TARVO_SANITIZE)
