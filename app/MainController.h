@@ -11,7 +11,6 @@
 #include "monitor/FirmwareCheck.h"
 #include "platform/StepQueue.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 

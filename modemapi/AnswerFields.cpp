@@ -22,7 +22,7 @@ std::optional<QString> valueAfterKey(const std::optional<QString> &key, const st
     const qsizetype quote = found + key->size();
     const qsizetype begin = quote + characterLength(*infoString, quote);
     const qsizetype end = infoString->indexOf(closingQuote, begin);
-    if (end < 0 || begin > infoString->size())
+    if (end < 0)
         return std::nullopt;
     return infoString->mid(begin, end - begin);
 }

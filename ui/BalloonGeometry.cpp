@@ -164,6 +164,11 @@ OvRect OvRect::grownBy(double margin) const
     return {x - margin, y - margin, width + 2 * margin, height + 2 * margin};
 }
 
+OvRect flipped(const QRectF &rect)
+{
+    return {rect.x(), -rect.bottom(), rect.width(), rect.height()};
+}
+
 void BalloonShape::setBorderWidth(float value)
 {
     if (value != borderWidth)

@@ -2,6 +2,7 @@
 
 #include <QPainterPath>
 #include <QPointF>
+#include <QRectF>
 #include <QSizeF>
 
 #include <cstdint>
@@ -43,6 +44,9 @@ struct OvRect {
 
     bool operator==(const OvRect &) const = default;
 };
+
+/// @return @p rect, whose y grows downwards, in coordinates whose y grows upwards from the same origin
+OvRect flipped(const QRectF &rect);
 
 /// The measures of a balloon, in points.
 struct BalloonShape {

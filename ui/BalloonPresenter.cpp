@@ -53,13 +53,6 @@ private:
     std::unique_ptr<Balloon> m_replacement;
 };
 
-/// Turns a rectangle with y downwards into one with y upwards, around the same origin, or back.
-OvRect flipped(const QRect &rect)
-{
-    return {static_cast<double>(rect.x()), -static_cast<double>(rect.y() + rect.height()),
-            static_cast<double>(rect.width()), static_cast<double>(rect.height())};
-}
-
 std::unique_ptr<OvAttachedWindow> balloonAt(QWidget *view, const BalloonPlacement &placement, float distance)
 {
     return OvAttachedWindow::initWithView(view, {placement.point.x(), -placement.point.y()}, placement.side, distance);

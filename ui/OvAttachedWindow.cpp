@@ -15,12 +15,7 @@ namespace {
 constexpr Qt::WindowFlags balloonFlags = Qt::ToolTip | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint
     | Qt::WindowDoesNotAcceptFocus | Qt::WindowStaysOnTopHint;
 
-/// Turns coordinates with y downwards into ones with y upwards, and back, around the same origin.
-OvRect flipped(const QRectF &rect)
-{
-    return {rect.x(), -rect.bottom(), rect.width(), rect.height()};
-}
-
+/// Turns a point with y downwards into one with y upwards, and back, around the same origin.
 QPointF flipped(QPointF point)
 {
     return {point.x(), -point.y()};
