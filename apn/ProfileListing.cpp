@@ -48,6 +48,8 @@ private:
             skip(path, QStringLiteral("it is a folder"));
         else if (isProfile)
             m_listing.profiles.append(path);
+        else if (entry.is_directory(error) && entry.is_symlink(error))
+            skip(path, QStringLiteral("it is a link to a folder"));
         if (entry.is_directory(error) && !entry.is_symlink(error))
             list(path + u'/', depth + 1);
     }

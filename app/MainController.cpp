@@ -1,43 +1,60 @@
 #include "app/MainController.h"
 
 #include "RouterObserver/ConfigManager.h"
-#include "monitor/RepeatingTimer.h"
-#include "platform/StatusBar.h"
+#include "modemapi/ModemClient.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
-#include "ui/Balloon.h"
-#include "ui/BalloonPresenter.h"
-#include "ui/CustomView.h"
 
-#include <QMessageBox>
-#include <QTimer>
+#include <QCoreApplication>
 
+#include <array>
+#include <functional>
 #include <utility>
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 MainController::MainController(Services services)
-    : services_(std::move(services))
+    : m_services(std::move(services))
+    , m_monitor([this](const Work &work) { snapshotPublished(work); })
+    , m_pages(m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); })
+    , m_icon(m_services.statusBar, m_services.systemLog, iconActions())
+    , m_balloon(m_services.notifications, m_services.isScreenComposited, [this] { return m_icon.frame(); })
+    , m_updateAlert(m_pages)
+    , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
+              m_services.systemLog})
+    , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
+    , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
+    , m_poller(m_services.clock, m_services.systemLog,
+               [this](ModemClient &client, const QString &page) { pass(client, page); })
+    , m_threads(m_services.systemLog)
 {
-    log(QStringLiteral("Tarvo init success"));
+    log(u"Tarvo init success"_s);
 }
 
-MainController::~MainController()
+MainController::~MainController() = default;
+
+StatusIcon::Actions MainController::iconActions()
 {
-    endAttachment();
+    return {.click = [this] { m_pages.openHomepage(); },
+            .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); },
+            .openModemPage = [this] { m_pages.openWebUI(); },
+            .openMessages = [this] { m_pages.openWebUISmsPage(); },
+            .quit = [this] { windowShouldClose(); }};
 }
 
 void MainController::awakeFromNib()
 {
-    services_.workspace.addSleepObserver([this] { machineWillSleep(); }, [this] { machineDidWake(); });
+    m_services.workspace.addSleepObserver([this] { machineWillSleep(); }, [this] { machineDidWake(); });
 }
 
 void MainController::applicationDidFinishLaunching()
 {
     if (!routerObserver_)
         routerObserver_ =
-            std::make_unique<RouterObserver>(services_.dynamicStore, services_.deviceRegistry, services_.systemLog);
-    startToolbarStatus();
+            std::make_unique<RouterObserver>(m_services.dynamicStore, m_services.deviceRegistry, m_services.systemLog);
+    m_icon.startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
         RouterReports{[this](const ReadyDictionary &ready) { procECMReady(ready); },
                       [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }}));
@@ -45,8 +62,8 @@ void MainController::applicationDidFinishLaunching()
 
 bool MainController::windowShouldClose()
 {
-    if (services_.terminate)
-        services_.terminate();
+    if (m_services.terminate)
+        m_services.terminate();
     return false;
 }
 
@@ -60,13 +77,15 @@ void MainController::applicationWillTerminate() { }
 
 void MainController::machineWillSleep()
 {
-    log(QStringLiteral("machineWillSleep"));
+    log(u"machineWillSleep"_s);
+    m_asleep = true;
     stopGetModemStatus();
 }
 
 void MainController::machineDidWake()
 {
-    log(QStringLiteral("machineDidWake"));
+    log(u"machineDidWake"_s);
+    m_asleep = false;
     if (!routerObserver_)
         return;
     if (routerObserver_->isInterfaceRouterReady("IOUSBInterface")
@@ -80,14 +99,25 @@ void MainController::procECMReady(const ReadyDictionary &ready)
         waitingIPv4Ready();
         return;
     }
-    endAttachment(); // what still runs for an earlier device must not see this one's flags and address
-    state_.resetForReadyDevice();
-    routerAddr_.set(ready.router);
-    routerInterface_.set(ready.kOmbraBSDName);
+    const auto &binderFor = m_services.socketBinderFor;
+    m_location = {*ready.router, ready.kOmbraBSDName,
+                  binderFor && ready.kOmbraBSDName ? binderFor(*ready.kOmbraBSDName) : SocketBinder()};
+    if (m_asleep)
+        return; // wake starts with it
+    m_attachment.reset(); // what still runs for an earlier device must not see this one's flags
+    resetForReadyDevice();
     startGetModemInfo();
-    log(QStringLiteral("ECMReady"));
+    log(u"ECMReady"_s);
     log(*ready.router);
-    log(ready.kOmbraBSDName.value_or(QStringLiteral("(null)")));
+    log(ready.kOmbraBSDName.value_or(u"(null)"_s));
+}
+
+void MainController::resetForReadyDevice()
+{
+    m_pages.reset();
+    m_provisioner.reset();
+    m_monitor.resetForReadyDevice();
+    m_news.resetForReadyDevice();
 }
 
 void MainController::procInterfaceRemoved(const QString &bsdName)
@@ -100,92 +130,74 @@ void MainController::waitingIPv4Ready() { }
 
 void MainController::startGetModemInfo()
 {
-    log(QStringLiteral("startGetModemInfo"));
+    log(u"startGetModemInfo"_s);
     startGetModemStatus();
 }
 
-QString MainController::getNetInfoAddress() const
+void MainController::startGetModemStatus()
 {
-    return configurationText(QStringLiteral("NetInfoAddress")).value_or(QStringLiteral("logo_data.asp"));
+    m_attachment.reset();
+    m_icon.showPolling();
+    if (!m_location)
+        return;
+    m_attachment = std::make_unique<Attachment>(*m_location, m_threads);
+    m_poller.start(m_attachment->work());
 }
 
-QString MainController::getConnectModeAddress() const
+void MainController::stopGetModemStatus()
 {
-    return configurationText(QStringLiteral("ConnectModeAddress")).value_or(QStringLiteral("logo_data.asp"));
+    log(u"DeviceRemoved,stopGetModemStatus"_s);
+    m_attachment.reset();
+    resetForStop();
+    if (m_balloon.isShown())
+        m_balloon.toggleAttachedWindowAtPoint(qtTrId("DeviceRemovedTip"));
+    m_icon.showRemoval();
 }
 
-void MainController::setcurrentNetWorkStatus(int status)
+void MainController::resetForStop()
 {
-    state_.setcurrentNetWorkStatus(status);
+    m_poller.stop();
+    m_monitor.resetForStop();
+    m_pages.reset();
+    m_provisioner.reset();
+    m_news.resetForStop();
 }
 
-void MainController::setNetWorkTransferType(int type)
+void MainController::pass(ModemClient &client, const QString &page)
 {
-    state_.setNetWorkTransferType(type);
+    const std::array<std::function<void()>, 5> steps{
+        [&] { m_provisioner.setAllApnFromPC(client); },
+        [&] { m_provisioner.setApnReady(client); },
+        [&] { m_pages.openWebUIForQX740(client, page); },
+        [&] { m_firmwareCheck.checkFotaUpdateWhenDue(client, page); },
+        [&] {
+            if (configurationFlag(u"IsDisplayNetStatusInToolBar"_s))
+                m_monitor.setAllStatusByUrlContents(client.work(), page);
+        },
+    };
+    for (const auto &step : steps) {
+        if (client.work().isOver())
+            return;
+        step();
+    }
 }
 
-void MainController::setNetWorkTransferTypeByNewNetStatus(int status)
+void MainController::snapshotPublished(const Work &work)
 {
-    state_.setNetWorkTransferTypeByNewNetStatus(status);
+    const StatusSnapshot snapshot = m_monitor.snapshot().get();
+    if (!snapshot.haveNewVersionFlag_ && !snapshot.haveDataLimitFlag_)
+        work.post(m_mainThread, [this] { m_icon.setStatusImage(u"online"_s); });
+    m_news.startDisPlayUIStatusThread(work);
 }
 
-QString MainController::getAppPath() const
+std::optional<QString> MainController::router() const
 {
-    return QStringLiteral("/Applications/Safari.app");
-}
-
-bool MainController::launchAppFromPath(const std::optional<QString> &path)
-{
-    return path && services_.workspace.launchApplication(*path);
-}
-
-void MainController::openApp()
-{
-    launchAppFromPath(getAppPath());
+    return m_attachment ? std::optional(m_attachment->work().router()) : std::nullopt;
 }
 
 void MainController::log(const QString &line) const
 {
-    services_.systemLog.write(line);
-}
-
-bool MainController::whileAttached(const std::function<void()> &step)
-{
-    const std::scoped_lock lock(attachmentMutex_);
-    if (WorkScope::current().stop_requested())
-        return false;
-    step();
-    return true;
-}
-
-void MainController::onMainThread(std::function<void()> step)
-{
-    mainThread_.post([stop = WorkScope::current(), step = std::move(step)] {
-        if (!stop.stop_requested())
-            step();
-    });
-}
-
-void MainController::endAttachment()
-{
-    const std::scoped_lock lock(attachmentMutex_);
-    if (updateThreadRunLoop_)
-        updateThreadRunLoop_->request_stop();
-    updateThreadRunLoop_.reset();
-}
-
-bool MainController::startThread(std::function<void()> work)
-{
-    const std::scoped_lock lock(attachmentMutex_);
-    if (WorkScope::current().stop_requested())
-        return false;
-    if (!updateThreadRunLoop_)
-        updateThreadRunLoop_.emplace();
-    threads_.start([stop = updateThreadRunLoop_->get_token(), work = std::move(work)] {
-        const WorkScope scope(stop);
-        work();
-    });
-    return true;
+    m_services.systemLog.write(line);
 }
 
 } // namespace tarvo

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "attachment/Attachment.h"
+
 #include <QString>
 
 #include <functional>
@@ -23,8 +25,9 @@ struct Services {
     Clock &clock;
     SystemLog &systemLog;
 
-    /// Ties a new socket to a network interface, if the kernel allows it; called on any thread. Empty ties nothing.
-    std::function<void(int socket, const QString &interfaceName)> bindSocketToInterface;
+    /// @return what ties sockets to the network interface of that name, as it is now; called on the main thread. Empty
+    ///         ties nothing
+    std::function<SocketBinder(const QString &interfaceName)> socketBinderFor;
 
     /// Asks the application to end; called on the main thread.
     std::function<void()> terminate;

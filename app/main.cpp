@@ -42,7 +42,8 @@ int run(QApplication &application)
     SteadyClock clock;
 
     MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,
-                               bindSocketToInterface, &QApplication::quit, &notifications, isScreenComposited});
+                               [&](const QString &name) { return socketBinder(dynamicStore.interfaceIndex(name)); },
+                               &QApplication::quit, &notifications, isScreenComposited});
     const TerminationSignals signals([] { QApplication::quit(); });
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();

@@ -1,10 +1,12 @@
 #include "modemapi/HttpClient.h"
 
 #include <curl/curl.h>
+#include <sys/socket.h>
 
 #include <algorithm>
 #include <mutex>
 #include <stdexcept>
+#include <utility>
 
 namespace tarvo {
 
@@ -43,27 +45,61 @@ HeaderList headerList(const QList<QByteArray> &lines)
     return list;
 }
 
-size_t receive(char *bytes, size_t size, size_t count, void *context)
+/// What has come of an answer so far.
+struct Receipt {
+    QByteArray body;
+    qsizetype size = 0; ///< of all that came: heads, body and trailers
+
+    /// @return whether @p length more bytes are within the bound
+    bool count(size_t length)
+    {
+        size += static_cast<qsizetype>(length);
+        return size <= HttpClient::maximumAnswerSize;
+    }
+};
+
+size_t receiveBody(char *bytes, size_t size, size_t count, void *context)
 {
-    auto &data = *static_cast<QByteArray *>(context);
-    const auto length = static_cast<qsizetype>(size * count);
-    if (length > HttpClient::maximumAnswerSize - data.size())
+    auto &receipt = *static_cast<Receipt *>(context);
+    if (!receipt.count(size * count))
         return CURL_WRITEFUNC_ERROR;
-    data.append(bytes, length);
+    receipt.body.append(bytes, static_cast<qsizetype>(size * count));
     return size * count;
+}
+
+size_t receiveHeaderLine(char *, size_t size, size_t count, void *context)
+{
+    return static_cast<Receipt *>(context)->count(size * count) ? size * count : CURL_WRITEFUNC_ERROR;
+}
+
+curl_socket_t openSocket(void *, curlsocktype, curl_sockaddr *address)
+{
+    // Programs that are started meanwhile must not inherit it.
+    return ::socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol);
 }
 
 int prepare(void *context, curl_socket_t socket, curlsocktype)
 {
-    const auto &prepareSocket = *static_cast<const std::function<void(int)> *>(context);
-    if (prepareSocket)
-        prepareSocket(socket);
-    return CURL_SOCKOPT_OK;
+    const auto &prepareSocket = *static_cast<const std::function<bool(int)> *>(context);
+    return !prepareSocket || prepareSocket(socket) ? CURL_SOCKOPT_OK : CURL_SOCKOPT_ERROR;
+}
+
+int portOf(const QUrl &url)
+{
+    return url.port(url.scheme() == u"https" ? 443 : 80);
 }
 
 bool sameServer(const QUrl &one, const QUrl &other)
 {
-    return one.scheme() == other.scheme() && one.host() == other.host() && one.port() == other.port();
+    return one.scheme() == other.scheme() && one.host() == other.host() && portOf(one) == portOf(other);
+}
+
+/// @return path and query of @p url as they go into the request line, with the question mark of an empty query
+QByteArray requestTarget(const QUrl &url)
+{
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    const QByteArray query = url.hasQuery() ? '?' + url.query(QUrl::FullyEncoded).toLatin1() : QByteArray();
+    return (path.isEmpty() ? "/" : path) + query;
 }
 
 } // namespace
@@ -105,21 +141,22 @@ private:
         if (stop.stop_requested() || left <= 0)
             return {{}, QStringLiteral("stopped")};
 
-        HttpAnswer answer;
+        Receipt receipt;
         const HeaderList headers = headerList(request.headers);
-        prepareHandle(url, request, left, headers.get(), answer.data);
+        prepareHandle(url, request, left, headers.get());
+        prepareReceipt(receipt);
         const CURLcode result = perform(stop);
         if (result != CURLE_OK)
             return {{}, QString::fromUtf8(stop.stop_requested() ? "stopped" : curl_easy_strerror(result))};
-        return answer;
+        return {std::move(receipt.body), std::nullopt};
     }
 
-    void prepareHandle(const QUrl &url, const HttpRequest &request, long long milliseconds, curl_slist *headers,
-                       QByteArray &data)
+    void prepareHandle(const QUrl &url, const HttpRequest &request, long long milliseconds, curl_slist *headers)
     {
         CURL *easy = m_easy.get();
         curl_easy_reset(easy); // keeps the open connections
         curl_easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
+        curl_easy_setopt(easy, CURLOPT_REQUEST_TARGET, requestTarget(url).constData());
         curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
         curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
         curl_easy_setopt(easy, CURLOPT_PROXY, "");
@@ -127,15 +164,23 @@ private:
         curl_easy_setopt(easy, CURLOPT_TIMEOUT_MS, static_cast<long>(milliseconds));
         curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(milliseconds));
         curl_easy_setopt(easy, CURLOPT_HTTPHEADER, headers);
-        curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, receive);
-        curl_easy_setopt(easy, CURLOPT_WRITEDATA, &data);
+        curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, openSocket);
         curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepare);
         curl_easy_setopt(easy, CURLOPT_SOCKOPTDATA, &request.prepareSocket);
         if (request.body) {
             curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body->size()));
             curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, request.body->constData());
             curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
+            curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
         }
+    }
+
+    void prepareReceipt(Receipt &receipt)
+    {
+        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEFUNCTION, receiveBody);
+        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEDATA, &receipt);
+        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERFUNCTION, receiveHeaderLine);
+        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERDATA, &receipt);
     }
 
     CURLcode perform(const std::stop_token &stop)

@@ -18,8 +18,8 @@ struct HttpRequest {
     QUrl url; ///< http or https; anything else is an error
     QList<QByteArray> headers; ///< whole header lines, e.g. `Referer: http://192.0.2.1/`
     std::optional<QByteArray> body; ///< posted when set; nil makes a GET request
-    /// Called with each new socket before it is connected; may be empty.
-    std::function<void(int socket)> prepareSocket;
+    /// Called with each new socket before it is connected; false fails the exchange. May be empty.
+    std::function<bool(int socket)> prepareSocket;
 };
 
 /// What came of an exchange.
@@ -31,8 +31,8 @@ struct HttpAnswer {
 /// Makes HTTP exchanges one after the other, over a connection that is kept open between them. For one thread.
 ///
 /// An exchange ends after five seconds at the latest, or at once when its token is stopped. Proxies are never used,
-/// redirects are followed for reads and on the same host only, an answer of more than 4 MiB is an error. A post always
-/// opens a connection of its own, so that it is never sent a second time because an old connection turned out closed.
+/// redirects are followed for reads and on the same server only, an answer of more than 4 MiB in all is an error. A post
+/// always has a connection of its own, so that it is never sent a second time because an old one turned out closed.
 class HttpClient {
 public:
     static constexpr std::chrono::milliseconds timeout{5000};

@@ -7,7 +7,9 @@ namespace tarvo {
 
 QString md5String(const QString &text)
 {
-    return QString::fromLatin1(QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Md5).toHex());
+    const QByteArray bytes = text.toUtf8();
+    const QByteArray digested(bytes.constData()); // ends before the first zero
+    return QString::fromLatin1(QCryptographicHash::hash(digested, QCryptographicHash::Md5).toHex());
 }
 
 QString sessionToken(const QString &innerVersion, const QString &crVersion, const QString &rd)

@@ -4,7 +4,8 @@
 
 namespace tarvo {
 
-/// @return the MD5 digest (RFC 1321) of the UTF-8 bytes of @p text, as 32 lower-case hexadecimal digits
+/// @return the MD5 digest (RFC 1321) of the UTF-8 bytes of @p text up to the first zero byte, as 32 lower-case
+///         hexadecimal digits
 QString md5String(const QString &text);
 
 /// The token that proves to the modem that a set command comes from someone who has just asked it for a session.

@@ -1,21 +1,58 @@
 #include "monitor/FirmwareCheck.h"
 
+#include "RouterObserver/ConfigManager.h"
+#include "modemapi/AnswerFields.h"
+#include "modemapi/ConnectionStatus.h"
+#include "modemapi/ModemClient.h"
+
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-std::optional<FirmwareCheckSchedule> nextFirmwareCheck(const FirmwareCheckSchedule &schedule,
-                                                       const std::stop_token &attachment, Clock::TimePoint now)
+bool FirmwareCheckSchedule::isDue(const std::stop_token &current, Clock::TimePoint now) const
 {
-    if (schedule.attachment == attachment && now - schedule.lastCheck < 10min)
-        return std::nullopt;
-    return FirmwareCheckSchedule{attachment, now};
+    return attachment != current || now >= due;
 }
 
 bool offersNewFirmware(const QString &packageState)
 {
     return packageState.contains(u'1') || packageState.contains(u"version_has_new_critical_software")
         || packageState.contains(u"version_has_new_optional_software");
+}
+
+FirmwareCheck::FirmwareCheck(SharedSnapshot &snapshot, Clock &clock)
+    : m_snapshot(snapshot)
+    , m_clock(clock)
+{
+}
+
+bool FirmwareCheck::checkFotaUpdateWhenConnected(ModemClient &client)
+{
+    if (!configurationFlag(u"NeedCheckFotaUpdate"_s))
+        return true;
+    const auto answer = client.getWebRequestContent(u"dm_find_package&multi_data=1"_s);
+    const auto packageState = getModemInfoFromKeyForWeb5(u"dm_find_package\":"_s, answer);
+    if (!packageState) {
+        client.log(u"fotaOtaState  is null!"_s);
+        return false;
+    }
+    m_snapshot.update(client.work(),
+                      [&](StatusSnapshot &snapshot) { snapshot.isHaveNewVersion_ = offersNewFirmware(*packageState); });
+    return true;
+}
+
+void FirmwareCheck::checkFotaUpdateWhenDue(ModemClient &client, const QString &content)
+{
+    const std::stop_token attachment = client.work().stopToken();
+    if (!isConnectedWithStautusContent(getConnectionStatusWithWebContent(content)))
+        return;
+    bool due = false;
+    client.work().whileAttached([&] { due = m_schedule.isDue(attachment, m_clock.now()); });
+    if (!due)
+        return;
+    const auto pause = checkFotaUpdateWhenConnected(client) ? 10min : 1min;
+    client.work().whileAttached([&] { m_schedule = {attachment, m_clock.now() + pause}; });
 }
 
 } // namespace tarvo

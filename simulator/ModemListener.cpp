@@ -11,6 +11,7 @@ namespace {
 
 const QByteArray notUtf8 = "{\"ppp_status\":\"\xff\xfe\xc3\x28\"}";
 constexpr qint64 endlessChunk = 64 * 1024;
+constexpr qsizetype endlessLine = 1000;
 
 QByteArray headOf(const ModemReply &reply, const QByteArray &furtherLines)
 {
@@ -85,8 +86,12 @@ private:
             return;
         }
         case FaultKind::EndlessAnswer:
-            m_endless = true;
+            m_endless = QByteArray(endlessChunk, 'x');
             m_socket->write(headOf(reply, "Connection: close\r\n"));
+            return;
+        case FaultKind::EndlessHead:
+            m_endless = "X: " + QByteArray(endlessLine, 'x') + "\r\n";
+            m_socket->write("HTTP/1.1 200 OK\r\n");
             return;
         case FaultKind::WrongBytes:
             reply.body = notUtf8;
@@ -110,15 +115,15 @@ private:
 
     void writeOn()
     {
-        if (m_endless && m_socket->bytesToWrite() < endlessChunk)
-            m_socket->write(QByteArray(endlessChunk, 'x'));
+        while (!m_endless.isEmpty() && m_socket->isOpen() && m_socket->bytesToWrite() < endlessChunk)
+            m_socket->write(m_endless);
     }
 
     ModemListener &m_owner;
     QTcpSocket *m_socket;
     quint64 m_number;
     int m_requests = 0;
-    bool m_endless = false;
+    QByteArray m_endless; ///< sent again and again; empty for nothing
     QByteArray m_buffer;
 };
 

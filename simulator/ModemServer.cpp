@@ -18,6 +18,7 @@ std::optional<FaultKind> faultKind(const QString &name)
         {u"slow"_s, FaultKind::SlowAnswer},
         {u"half"_s, FaultKind::HalfAnswer},
         {u"endless"_s, FaultKind::EndlessAnswer},
+        {u"endless-head"_s, FaultKind::EndlessHead},
         {u"bytes"_s, FaultKind::WrongBytes},
         {u"close"_s, FaultKind::CloseAtOnce},
         {u"close-kept"_s, FaultKind::CloseKeptAlive},

@@ -25,6 +25,7 @@ enum class FaultKind {
     SlowAnswer, ///< answers after a delay
     HalfAnswer, ///< breaks off in the middle of the body
     EndlessAnswer, ///< never stops sending
+    EndlessHead, ///< never stops sending header lines
     WrongBytes, ///< a body that is no UTF-8
     CloseAtOnce, ///< closes instead of answering
     CloseKeptAlive, ///< answers a connection's first request and closes at the next

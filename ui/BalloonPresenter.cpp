@@ -87,9 +87,11 @@ std::unique_ptr<OvAttachedWindow> balloonInCorner(QWidget *view)
 
 } // namespace
 
-BalloonPresenter::BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited)
-    : notifications_(notifications)
-    , isScreenComposited_(std::move(isScreenComposited))
+BalloonPresenter::BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited,
+                                   std::function<std::optional<QRect>()> iconFrame)
+    : m_notifications(notifications)
+    , m_isScreenComposited(std::move(isScreenComposited))
+    , m_iconFrame(std::move(iconFrame))
     , balloonView_(std::make_unique<QWidget>())
 {
     Ui::BalloonView interface;
@@ -99,11 +101,19 @@ BalloonPresenter::BalloonPresenter(Notifications *notifications, std::function<b
 
 BalloonPresenter::~BalloonPresenter() = default;
 
+void BalloonPresenter::toggleAttachedWindowAtPoint(const std::optional<QString> &text)
+{
+    if (attachedWindow)
+        attachedWindow.reset();
+    else if (text && !text->isEmpty())
+        attachedWindow = show(*text, m_iconFrame());
+}
+
 std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const std::optional<QRect> &iconFrame)
 {
-    if (iconFrame || !notifications_ || !notifications_->available())
+    if (iconFrame || !m_notifications || !m_notifications->available())
         return showWindow(text, iconFrame);
-    return std::make_unique<NotificationBalloon>(*notifications_, text,
+    return std::make_unique<NotificationBalloon>(*m_notifications, text,
                                                  [this, text] { return showWindow(text, std::nullopt); });
 }
 
@@ -118,7 +128,7 @@ std::unique_ptr<Balloon> BalloonPresenter::showWindow(const QString &text, const
     QPalette palette = ballooonTextField_->palette();
     palette.setColor(QPalette::WindowText, window->borderColor());
     ballooonTextField_->setPalette(palette);
-    window->setTranslucent(isScreenComposited_ && isScreenComposited_());
+    window->setTranslucent(m_isScreenComposited && m_isScreenComposited());
     window->setAccessibleName(text);
     return std::make_unique<WindowBalloon>(std::move(window));
 }

@@ -21,20 +21,28 @@ class BalloonPresenter {
 public:
     /// @param notifications       outlives the presenter; null where there are none
     /// @param isScreenComposited  whether windows may be translucent; may be empty, which means no
-    BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited);
+    /// @param iconFrame           tells where the icon is, in global coordinates with y downwards; nil when that is not
+    ///                            known
+    BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited,
+                     std::function<std::optional<QRect>()> iconFrame);
     ~BalloonPresenter();
+    BalloonPresenter(const BalloonPresenter &) = delete;
+    BalloonPresenter &operator=(const BalloonPresenter &) = delete;
 
-    /// Shows @p text until the returned balloon is destroyed, which must be before the next is shown.
-    /// @param iconFrame  where the icon is, in global coordinates with y downwards; nil when that is not known
-    std::unique_ptr<Balloon> show(const QString &text, const std::optional<QRect> &iconFrame);
+    /// Closes the balloon if one is shown; otherwise opens one with @p text, unless that is nil or empty.
+    void toggleAttachedWindowAtPoint(const std::optional<QString> &text);
+    bool isShown() const { return attachedWindow != nullptr; }
 
 private:
+    std::unique_ptr<Balloon> show(const QString &text, const std::optional<QRect> &iconFrame);
     std::unique_ptr<Balloon> showWindow(const QString &text, const std::optional<QRect> &iconFrame);
 
-    Notifications *notifications_;
-    std::function<bool()> isScreenComposited_;
+    Notifications *m_notifications;
+    const std::function<bool()> m_isScreenComposited;
+    const std::function<std::optional<QRect>()> m_iconFrame;
     std::unique_ptr<QWidget> balloonView_;
     QLabel *ballooonTextField_ = nullptr;
+    std::unique_ptr<Balloon> attachedWindow; ///< the balloon while it is shown
 };
 
 } // namespace tarvo

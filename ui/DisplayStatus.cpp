@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarvo {
@@ -21,88 +22,89 @@ QString withAmounts(QString text, std::initializer_list<float> amounts)
     return text;
 }
 
-QString threeDayTip(ModemState &state)
+QString threeDayTip(const StatusSnapshot &snapshot)
 {
-    return withAmounts(qtTrId("DatalimitExceedForThreedays"), {state.m_totalThreeData});
+    return withAmounts(qtTrId("DatalimitExceedForThreedays"), {snapshot.m_totalThreeData});
 }
 
-QString monthlyLimitTip(ModemState &state)
+QString monthlyLimitTip(const StatusSnapshot &snapshot)
 {
-    return withAmounts(qtTrId("DatalimitExceed"), {state.m_totalMonthData});
+    return withAmounts(qtTrId("DatalimitExceed"), {snapshot.m_totalMonthData});
 }
 
-QString monthlyReminderTip(ModemState &state)
+QString monthlyReminderTip(const StatusSnapshot &snapshot)
 {
-    const float surplus = state.m_surplusData;
-    if (!(surplus < 0))
-        return withAmounts(qtTrId("DatalimitReachedForOneMonth"), {state.m_useData, surplus});
-    state.m_surplusData = -surplus;
-    return withAmounts(qtTrId("DatalimitReachedForOneMonth_Negative"), {state.m_useData, -surplus});
+    const float surplus = snapshot.m_surplusData;
+    if (surplus < 0)
+        return withAmounts(qtTrId("DatalimitReachedForOneMonth_Negative"), {snapshot.m_useData, -surplus});
+    return withAmounts(qtTrId("DatalimitReachedForOneMonth"), {snapshot.m_useData, surplus});
 }
 
 struct DataLimitNews {
     int type;
-    std::atomic<bool> ModemState::*present;
-    std::atomic<bool> ModemState::*previous;
+    bool StatusSnapshot::*present;
     QStringView image;
-    QString (*tip)(ModemState &state);
+    QString (*tip)(const StatusSnapshot &snapshot);
 };
 
 // Both monthly kinds share an image; the three-day kind has the one that looks like a mere warning.
 constexpr DataLimitNews dataLimitNews[] = {
-    {DisplayType::ThreeDayLimitExceeded, &ModemState::isHaveDataLimitExceedForThreedays_,
-     &ModemState::previousHaveDateLimitExceededForThreedays_, u"dataFluxReached", threeDayTip},
-    {DisplayType::MonthlyLimitExceeded, &ModemState::isHaveDataLimitExceedForOneMonth_,
-     &ModemState::previousHaveDateLimitExceeded_, u"dataFluxExceeded", monthlyLimitTip},
-    {DisplayType::MonthlyLimitReached, &ModemState::isHaveDataLimitReachedForOneMonth_,
-     &ModemState::previousHaveDateLimitReached_, u"dataFluxExceeded", monthlyReminderTip},
+    {DisplayType::ThreeDayLimitExceeded, &StatusSnapshot::isHaveDataLimitExceedForThreedays_, u"dataFluxReached",
+     threeDayTip},
+    {DisplayType::MonthlyLimitExceeded, &StatusSnapshot::isHaveDataLimitExceedForOneMonth_, u"dataFluxExceeded",
+     monthlyLimitTip},
+    {DisplayType::MonthlyLimitReached, &StatusSnapshot::isHaveDataLimitReachedForOneMonth_, u"dataFluxExceeded",
+     monthlyReminderTip},
 };
 
 DisplayStatus shown(QStringView image, const QString &tip, bool seenBefore)
 {
-    return {.image = image.toString(), .tip = tip, .balloonText = seenBefore ? QString() : tip};
+    return {.image = image.toString(), .tip = tip, .balloonText = seenBefore ? QString() : tip, .isNews = true};
 }
 
-DisplayStatus evaluateNewVersion(ModemState &state)
+DisplayStatus evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore)
 {
-    DisplayStatus status{.tip = QString()};
-    state.openUpdateUrlWhileHasNewVersion_ = state.isHaveNewVersion_.load();
-    if (state.isHaveNewVersion_) {
-        if (state.haveDataLimitFlag_)
-            state.openDateLimitUrlWhileHasLimit_ = false;
-        status = shown(u"newVersion", qtTrId("HaveNewVersionTipWhenConnected"), state.previousHaveNewVersion_);
-        status.announcesUpdate = !state.previousHaveNewVersion_;
-    }
-    state.previousHaveNewVersion_ = state.isHaveNewVersion_.load();
+    if (!snapshot.isHaveNewVersion_)
+        return {.tip = QString(), .clickOpensUpdatePage = false};
+    DisplayStatus status = shown(u"newVersion", qtTrId("HaveNewVersionTipWhenConnected"), seenBefore);
+    status.announcesUpdate = !seenBefore;
+    status.clickOpensUpdatePage = true;
+    if (snapshot.haveDataLimitFlag_)
+        status.clickOpensLimitPage = false;
     return status;
 }
 
-DisplayStatus evaluateDataLimit(ModemState &state, const DataLimitNews &news)
+DisplayStatus evaluateDataLimit(const StatusSnapshot &snapshot, const DataLimitNews &news, bool seenBefore)
 {
-    const bool present = state.*news.present;
-    DisplayStatus status{.tip = QString()};
-    state.openDateLimitUrlWhileHasLimit_ = present;
-    if (present) {
-        if (state.isHaveNewVersion_)
-            state.openUpdateUrlWhileHasNewVersion_ = false;
-        status = shown(news.image, news.tip(state), state.*news.previous);
-    }
-    state.*news.previous = present;
+    if (!(snapshot.*news.present))
+        return {.tip = QString(), .clickOpensLimitPage = false};
+    DisplayStatus status = shown(news.image, news.tip(snapshot), seenBefore);
+    status.clickOpensLimitPage = true;
+    if (snapshot.isHaveNewVersion_)
+        status.clickOpensUpdatePage = false;
+    if (news.type == DisplayType::MonthlyLimitReached && snapshot.m_surplusData < 0)
+        status.surplus = -snapshot.m_surplusData;
     return status;
+}
+
+/// @return how many decimals leave @p number three digits
+int decimalsFor(double number)
+{
+    if (number >= 99.95)
+        return 0;
+    return number >= 9.995 ? 1 : 2;
 }
 
 } // namespace
 
-DisplayStatus evaluateDisplayType(ModemState &state, int type)
+DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore)
 {
-    if (state.stopProcModemStatus_)
-        return {};
     if (type == DisplayType::NewVersion)
-        return evaluateNewVersion(state);
+        return evaluateNewVersion(snapshot, seenBefore);
     for (const DataLimitNews &news : dataLimitNews)
         if (news.type == type)
-            return evaluateDataLimit(state, news);
-    if (state.haveNewVersionFlag_ || state.haveDataLimitFlag_)
+            return evaluateDataLimit(snapshot, news, seenBefore);
+    if (snapshot.haveNewVersionFlag_ || snapshot.haveDataLimitFlag_)
         return {};
     return {.tip = QString()};
 }
@@ -114,7 +116,13 @@ QString dataAmount(double gigabytes)
     const QLocale locale;
     if (!(std::abs(gigabytes) <= mostGigabytes))
         return locale.toString(gigabytes, 'g', 3) + u" GB"_s;
-    return locale.formattedDataSize(std::llround(gigabytes * gigabyte), 2, QLocale::DataSizeTraditionalFormat);
+    const double bytes = std::abs(gigabytes) * gigabyte;
+    double unit = 1;
+    while (std::round(bytes / unit) >= 1024) // what rounding makes 1024 of a unit is one of the next
+        unit *= 1024;
+    const int decimals = unit == 1 ? 0 : decimalsFor(bytes / unit);
+    const qint64 whole = std::llround(unit == 1 ? bytes : std::max(bytes, unit));
+    return locale.formattedDataSize(gigabytes < 0 ? -whole : whole, decimals, QLocale::DataSizeTraditionalFormat);
 }
 
 } // namespace tarvo

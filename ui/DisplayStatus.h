@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/ModemState.h"
+#include "modemapi/StatusSnapshot.h"
 
 #include <QString>
 
@@ -23,16 +23,22 @@ struct DisplayStatus {
     QString balloonText{}; ///< what a balloon has to say now; empty for nothing
     bool announcesUpdate = false; ///< the update panel is due
 
+    bool isNews = false; ///< the news are there: this is what was shown before, next time
+    std::optional<bool> clickOpensUpdatePage{}; ///< nil leaves that as it is, as the next
+    std::optional<bool> clickOpensLimitPage{};
+    /// The amount that remains, once an overrun has been told as such; nil leaves it as it is.
+    std::optional<float> surplus{};
+
     bool operator==(const DisplayStatus &) const = default;
 };
 
-/// Evaluates the display type @p type against @p state, and keeps there what the user's next click opens and what was
-/// seen this time. A negative surplus is replaced by its magnitude once it has been told as an overrun.
-///
-/// Without a device nothing is shown and nothing changes. The caller keeps other writers of @p state away.
-DisplayStatus evaluateDisplayType(ModemState &state, int type);
+/// @param type        the kind of news, 5 to 8; any other only clears the tip when no notice is pending
+/// @param seenBefore  whether these news were there at the last evaluation
+/// @return what @p snapshot, of a modem that is there, asks for
+DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore);
 
-/// @return @p gigabytes, of 2^30 bytes, as an amount in the user's language, in the unit that suits its size
+/// @return @p gigabytes, of 2^30 bytes, as an amount in the user's language, in the unit that suits its size, with
+///         three digits that count
 QString dataAmount(double gigabytes);
 
 } // namespace tarvo

@@ -74,13 +74,14 @@ void CompanionPanel::refresh()
 
 QString CompanionPanel::knowledge() const
 {
-    ModemState &state = m_world.controller().state();
-    if (state.stopProcModemStatus_)
+    MainController &controller = m_world.controller();
+    const StatusSnapshot snapshot = controller.snapshot();
+    if (controller.news().stopProcModemStatus())
         return u"Not polling"_s;
     return u"Polling %1  ·  %2 of %3 GB used this month  ·  roaming %4"_s.arg(m_world.server().authority())
-        .arg(static_cast<double>(state.m_useData), 0, 'f', 1)
-        .arg(static_cast<double>(state.m_totalMonthData), 0, 'f', 1)
-        .arg(state.isRoamOn_ ? u"allowed"_s : u"off"_s);
+        .arg(static_cast<double>(snapshot.m_useData), 0, 'f', 1)
+        .arg(static_cast<double>(snapshot.m_totalMonthData), 0, 'f', 1)
+        .arg(snapshot.isRoamOn_ ? u"allowed"_s : u"off"_s);
 }
 
 } // namespace tarvo

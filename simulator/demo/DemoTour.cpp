@@ -111,7 +111,7 @@ void DemoTour::start()
     begin(u"The companion starts; no modem is plugged in"_s);
     check(u"it says that it is up"_s, m_world.systemLog().contains(u"Tarvo init success"_s));
     check(u"the icon shows \"ready\""_s, eventually([this] { return image() == u"ready"; }));
-    check(u"it is not polling"_s, m_world.controller().state().stopProcModemStatus_);
+    check(u"it is not polling"_s, m_world.controller().news().stopProcModemStatus());
     takePicture(u"waiting"_s);
     end();
 }
@@ -137,18 +137,19 @@ void DemoTour::plugIn()
 void DemoTour::reachLimits()
 {
     begin(u"All data limits are exceeded"_s);
-    ModemState &state = m_world.controller().state();
-    check(u"the icon's news are gone through to the end"_s, eventually([&] { return !state.startDisplayFlowing_; }));
+    MainController &controller = m_world.controller();
+    check(u"the icon's news are gone through to the end"_s,
+          eventually([&] { return !controller.news().startDisplayFlowing(); }));
     m_world.modem().change([](ModemCondition &condition) {
         condition.threeDaysReceived = 4 * gibibyte;
         condition.monthlyReceived = 12 * gibibyte;
     });
     seeLimit(u"three-day limit"_s, u"dataFluxReached"_s, u"three-day-limit"_s);
-    check(u"the snapshot has it"_s, state.isHaveDataLimitExceedForThreedays_);
+    check(u"the snapshot has it"_s, controller.snapshot().isHaveDataLimitExceedForThreedays_);
     seeLimit(u"monthly limit"_s, u"dataFluxExceeded"_s, u"monthly-limit"_s);
-    check(u"the snapshot has it"_s, state.isHaveDataLimitExceedForOneMonth_);
+    check(u"the snapshot has it"_s, controller.snapshot().isHaveDataLimitExceedForOneMonth_);
     seeLimit(u"monthly reminder"_s, u"dataFluxExceeded"_s, u"monthly-reminder"_s);
-    check(u"the snapshot has it"_s, state.isHaveDataLimitReachedForOneMonth_);
+    check(u"the snapshot has it"_s, controller.snapshot().isHaveDataLimitReachedForOneMonth_);
     clickIcon(u"with a limit exceeded"_s, u"/data"_s);
     end();
 }
@@ -208,7 +209,7 @@ void DemoTour::wake()
     m_world.wake();
     check(u"polling starts again"_s, eventually([&] { return pagesFetched() > before; }));
     check(u"the modem's pages are opened for the password"_s,
-          eventually([this] { return m_world.controller().state().hasOpenedWebUI_ && lastPage().endsWith(u"/"); }));
+          eventually([this] { return m_world.controller().pages().hasOpenedWebUI() && lastPage().endsWith(u"/"); }));
     end();
 }
 
@@ -234,10 +235,11 @@ void DemoTour::unplug()
 {
     begin(u"The modem is unplugged"_s);
     m_world.unplug();
-    const ModemState &state = m_world.controller().state();
+    const StatusSnapshot snapshot = m_world.controller().snapshot();
     check(u"the icon shows \"ready\" without a tip"_s, image() == u"ready" && toolTip().isEmpty());
     check(u"nothing is known any more"_s,
-          state.stopProcModemStatus_ && !state.isHaveNewVersion_ && state.m_useData == 0.F);
+          m_world.controller().news().stopProcModemStatus() && !snapshot.isHaveNewVersion_
+              && snapshot.m_useData == 0.F);
     const qsizetype before = pagesFetched();
     check(u"the modem is left alone"_s, !eventually([&] { return pagesFetched() > before; }, 2s));
     takePicture(u"unplugged"_s);

@@ -54,7 +54,7 @@ DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWo
         .statusBar = m_statusBar,
         .clock = m_clock,
         .systemLog = m_systemLog,
-        .bindSocketToInterface = {},
+        .socketBinderFor = {},
         .terminate = [] { QCoreApplication::quit(); },
         .notifications = &m_notifications,
         .isScreenComposited = isScreenComposited,

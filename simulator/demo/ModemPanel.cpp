@@ -34,6 +34,7 @@ const QList<std::pair<QString, FaultKind>> &faults()
         {u"Answers after two seconds"_s, FaultKind::SlowAnswer},
         {u"Breaks off half-way"_s, FaultKind::HalfAnswer},
         {u"Never stops sending"_s, FaultKind::EndlessAnswer},
+        {u"Never stops sending headers"_s, FaultKind::EndlessHead},
         {u"Sends bytes that are no text"_s, FaultKind::WrongBytes},
         {u"Hangs up"_s, FaultKind::CloseAtOnce},
         {u"Hangs up on the second request"_s, FaultKind::CloseKeptAlive},

@@ -11,6 +11,7 @@ TEST(SessionToken, HashesTextsAsRfc1321Does)
 {
     EXPECT_EQ(md5String(u""_s), u"d41d8cd98f00b204e9800998ecf8427e"_s);
     EXPECT_EQ(md5String(u"message digest"_s), u"f96b697d7cb7938d525a2f31aaf161d0"_s);
+    EXPECT_EQ(md5String(u"\0more"_s), md5String(QString())) << "a zero ends the text";
     EXPECT_EQ(md5String(u"é"_s), u"66ddcd97cfdeabb2f6fb8a999b4bc76f"_s) << "the bytes are UTF-8";
 }
 

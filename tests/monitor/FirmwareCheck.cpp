@@ -51,26 +51,32 @@ TEST_F(Firmware, IsAskedForOnceConnectedAndSeenInTheSamePass)
     EXPECT_EQ(pass(1), 0);
     connected(u"ppp_connected"_s);
     EXPECT_EQ(pass(2), 1);
-    EXPECT_TRUE(controller.state().isHaveNewVersion_);
-    EXPECT_TRUE(controller.state().haveNewVersionFlag_);
+    EXPECT_TRUE(controller.snapshot().isHaveNewVersion_ && controller.snapshot().haveNewVersionFlag_);
     EXPECT_EQ(pass(3), 1);
 
     clock.advance(10min);
     ASSERT_TRUE(modem.device.waitForRequests(2, "dm_find_package"));
     unplug();
-    EXPECT_FALSE(controller.state().isHaveNewVersion_);
+    EXPECT_FALSE(controller.snapshot().isHaveNewVersion_);
 }
 
-TEST_F(Firmware, AFailedCheckChangesNothing)
+TEST_F(AttachedModem, AFailedFirmwareCheckChangesNothingAndIsTriedAgainInAMinute)
 {
+    configure({{u"NeedCheckFotaUpdate"_s, true}});
     modem.device.setFixedAnswer("dm_find_package", "{}");
-    plugIn(modem);
-    controller.state().isHaveNewVersion_ = true;
-    EXPECT_EQ(pass(1), 1);
+    snapshot.reset({.isHaveNewVersion_ = true});
+    ManualClock clock;
+    FirmwareCheck check(snapshot, clock);
+    const auto askedAfter = [&](std::chrono::seconds pause) {
+        clock.advance(pause);
+        check.checkFotaUpdateWhenDue(client, u"ppp_status: 'ppp_connected'"_s);
+        return modem.device.requests("dm_find_package").size();
+    };
+    EXPECT_EQ(askedAfter(0s), 1);
     EXPECT_TRUE(systemLog.contains(u"fotaOtaState  is null!"_s));
-    EXPECT_TRUE(controller.state().isHaveNewVersion_);
-
+    EXPECT_TRUE(snapshot.get().isHaveNewVersion_);
+    EXPECT_EQ(askedAfter(59s), 1);
+    EXPECT_EQ(askedAfter(1s), 2);
     configure(usualSettings());
-    controller.checkFotaUpdateWhenConnected();
-    EXPECT_EQ(modem.device.requests("dm_find_package").size(), 1) << "the settings forbid it";
+    EXPECT_EQ(askedAfter(1h), 2) << "the settings forbid it";
 }

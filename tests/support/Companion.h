@@ -2,6 +2,7 @@
 
 #include "RouterObserver/RouterObserver.h"
 #include "app/MainController.h"
+#include "modemapi/ModemClient.h"
 #include "platform/StateStore.h"
 #include "simulator/ManualClock.h"
 #include "simulator/ModemServer.h"
@@ -17,6 +18,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace tarvo {
 
@@ -34,6 +37,18 @@ void configure(const QVariantMap &settings);
 
 /// The settings that the tests start from: modems of the vendor 4660 are supported, the icon is shown and stays.
 QVariantMap usualSettings();
+
+/// A modem that is plugged in, and a client that asks it; nobody else is there.
+struct AttachedModem : testing::Test {
+    AttachedModem() { configure(usualSettings()); }
+
+    Modem modem;
+    RecordingLog systemLog;
+    ThreadGroup threads{systemLog};
+    std::optional<Attachment> attachment{std::in_place, ModemLocation{modem.server.authority(), {}, {}}, threads};
+    ModemClient client{attachment->work(), systemLog};
+    SharedSnapshot snapshot;
+};
 
 /// The real controller among simulated surroundings: manual time, a network of entries, modems on loopback.
 struct Companion : testing::Test {

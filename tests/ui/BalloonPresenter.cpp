@@ -2,7 +2,6 @@
 
 #include "simulator/SimulatedNotifications.h"
 #include "tests/support/PrintQt.h"
-#include "ui/Balloon.h"
 #include "ui/OvAttachedWindow.h"
 
 #include <QApplication>
@@ -29,8 +28,10 @@ const OvAttachedWindow *shownWindow()
 TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
 {
     SimulatedNotifications notifications;
-    BalloonPresenter presenter(&notifications, {});
-    auto balloon = presenter.show(u"news"_s, QRect(400, 0, 24, 24));
+    std::optional<QRect> icon = QRect(400, 0, 24, 24);
+    BalloonPresenter presenter(&notifications, {}, [&] { return icon; });
+    const auto toggle = [&] { presenter.toggleAttachedWindowAtPoint(u"news"_s); };
+    toggle();
     ASSERT_NE(shownWindow(), nullptr);
     const auto *label = shownWindow()->findChild<QLabel *>();
     EXPECT_EQ(label->text(), u"news"_s);
@@ -38,19 +39,21 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     const int width = shownWindow()->width();
     EXPECT_EQ(shownWindow()->geometry(), QRect(412 - width / 2, 24 + 5, width, 60));
 
-    balloon.reset();
-    balloon = presenter.show(u"news"_s, std::nullopt);
+    toggle();
+    icon.reset();
+    toggle();
     EXPECT_TRUE(notifications.shown() && notifications.shown()->text == u"news");
     EXPECT_EQ(shownWindow(), nullptr);
     notifications.refuse();
     EXPECT_NE(shownWindow(), nullptr);
 
-    balloon.reset();
+    toggle();
     EXPECT_EQ(shownWindow(), nullptr);
-    presenter.show(u"news"_s, std::nullopt).reset();
+    toggle();
+    toggle();
     EXPECT_FALSE(notifications.shown());
     notifications.setAvailable(false);
-    balloon = presenter.show(u"news"_s, std::nullopt);
+    toggle();
     ASSERT_NE(shownWindow(), nullptr);
     EXPECT_FALSE(shownWindow()->hasArrow());
     EXPECT_TRUE(shownWindow()->screen()->availableGeometry().contains(shownWindow()->geometry()));

@@ -12,77 +12,48 @@
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-struct WithDevice : ModemState {
-    WithDevice() { resetForReadyDevice(); }
-};
-
-} // namespace
-
-TEST(DisplayStatus, WithoutNewsThereIsNoTipAndWithoutADeviceNoChange)
+TEST(DisplayStatus, WithoutNewsThereIsNoTipUnlessANoticeIsPending)
 {
-    WithDevice state;
-    EXPECT_EQ(evaluateDisplayType(state, 4), (DisplayStatus{.tip = QString()}));
-    state.haveDataLimitFlag_ = true;
-    EXPECT_EQ(evaluateDisplayType(state, 9), DisplayStatus()) << "a pending notice keeps the tip";
-
-    state.stopProcModemStatus_ = state.isHaveNewVersion_ = true;
-    EXPECT_EQ(evaluateDisplayType(state, 5), DisplayStatus());
-    EXPECT_FALSE(state.previousHaveNewVersion_);
+    EXPECT_EQ(evaluateDisplayType({}, 4, false), (DisplayStatus{.tip = QString()}));
+    EXPECT_EQ(evaluateDisplayType({.haveDataLimitFlag_ = true}, 9, false), DisplayStatus());
 }
 
-TEST(DisplayStatus, TellsNewsOnceForEachTimeItComesUp)
+TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
 {
-    const std::tuple<int, std::atomic<bool> ModemState::*, QString, QString> cases[] = {
-        {5, &ModemState::isHaveNewVersion_, u"newVersion"_s, u"HaveNewVersionTipWhenConnected"_s},
-        {6, &ModemState::isHaveDataLimitExceedForThreedays_, u"dataFluxReached"_s, u"DatalimitExceedForThreedays"_s},
-        {7, &ModemState::isHaveDataLimitExceedForOneMonth_, u"dataFluxExceeded"_s, u"DatalimitExceed"_s},
-        {8, &ModemState::isHaveDataLimitReachedForOneMonth_, u"dataFluxExceeded"_s, u"DatalimitReachedForOneMonth"_s},
+    const std::tuple<int, bool StatusSnapshot::*, QString, QString> cases[] = {
+        {5, &StatusSnapshot::isHaveNewVersion_, u"newVersion"_s, u"HaveNewVersionTipWhenConnected"_s},
+        {6, &StatusSnapshot::isHaveDataLimitExceedForThreedays_, u"dataFluxReached"_s,
+         u"DatalimitExceedForThreedays"_s},
+        {7, &StatusSnapshot::isHaveDataLimitExceedForOneMonth_, u"dataFluxExceeded"_s, u"DatalimitExceed"_s},
+        {8, &StatusSnapshot::isHaveDataLimitReachedForOneMonth_, u"dataFluxExceeded"_s,
+         u"DatalimitReachedForOneMonth"_s},
     };
     for (const auto &[type, news, image, text] : cases) {
-        WithDevice state;
-        for (int time = 1; time <= 2; ++time) {
-            state.*news = true;
-            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{image, text, text, type == 5})) << type;
-            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{image, text, QString(), false})) << type;
-            state.*news = false;
-            EXPECT_EQ(evaluateDisplayType(state, type), (DisplayStatus{.tip = QString()})) << type;
-        }
-    }
-}
+        const bool firmware = type == DisplayType::NewVersion;
+        StatusSnapshot snapshot;
+        DisplayStatus expected{.tip = QString()};
+        (firmware ? expected.clickOpensUpdatePage : expected.clickOpensLimitPage) = false;
+        EXPECT_EQ(evaluateDisplayType(snapshot, type, true), expected) << type;
 
-TEST(DisplayStatus, TheLastTypeTakesTheClick)
-{
-    WithDevice state;
-    state.isHaveDataLimitExceedForThreedays_ = state.haveDataLimitFlag_ = state.openDateLimitUrlWhileHasLimit_ = true;
-    const std::tuple<int, bool, bool, bool> cases[] = {
-        {5, true, true, false}, {5, false, false, false}, {5, true, true, false},
-        {6, true, false, true}, {7, true, false, false},
-    };
-    for (const auto &[type, newVersion, update, limit] : cases) {
-        state.isHaveNewVersion_ = newVersion;
-        evaluateDisplayType(state, type);
-        EXPECT_EQ(state.openUpdateUrlWhileHasNewVersion_, update) << type;
-        EXPECT_EQ(state.openDateLimitUrlWhileHasLimit_, limit) << type;
+        snapshot.*news = snapshot.haveDataLimitFlag_ = snapshot.isHaveNewVersion_ = true;
+        expected = {image, text, text, firmware, true, firmware, !firmware, std::nullopt};
+        EXPECT_EQ(evaluateDisplayType(snapshot, type, false), expected) << type;
+        expected.balloonText.clear();
+        expected.announcesUpdate = false;
+        EXPECT_EQ(evaluateDisplayType(snapshot, type, true), expected) << type;
     }
-}
-
-TEST(DisplayStatus, TellsAnOverrunOnceAndKeepsItsMagnitude)
-{
-    WithDevice state;
-    state.isHaveDataLimitReachedForOneMonth_ = true;
-    state.m_surplusData = -1.5F;
-    EXPECT_EQ(evaluateDisplayType(state, 8).tip, u"DatalimitReachedForOneMonth_Negative"_s);
-    EXPECT_EQ(state.m_surplusData, 1.5F);
-    EXPECT_EQ(evaluateDisplayType(state, 8).tip, u"DatalimitReachedForOneMonth"_s);
 }
 
 TEST(DisplayStatus, WritesAmountsInTheUsersWay)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::English));
-    EXPECT_EQ(dataAmount(-0.5), u"-512.00 MB"_s);
+    const std::pair<double, QString> cases[] = {
+        {0, u"0 bytes"_s},     {-0.5, u"-512 MB"_s},  {0.99999, u"1.00 GB"_s}, {0.999, u"1,023 MB"_s},
+        {9.996, u"10.0 GB"_s}, {12.04, u"12.0 GB"_s}, {100, u"100 GB"_s},      {2048, u"2.00 TB"_s},
+    };
+    for (const auto &[gigabytes, text] : cases)
+        EXPECT_EQ(dataAmount(gigabytes), text);
     EXPECT_EQ(dataAmount(1e30), u"1E+30 GB"_s);
     EXPECT_EQ(dataAmount(std::numeric_limits<double>::quiet_NaN()), u"nan GB"_s);
     QLocale::setDefault(QLocale(QLocale::French));

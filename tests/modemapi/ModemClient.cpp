@@ -1,19 +1,20 @@
+#include "modemapi/ModemClient.h"
+
+#include "modemapi/ConnectionStatus.h"
 #include "simulator/ReceivedRequest.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 
-#include <QCryptographicHash>
+#include <QRegularExpression>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A companion whose modem is plugged in, but not polled.
-struct Requests : Companion {
+struct Requests : AttachedModem {
     Requests()
     {
-        plugIn(modem);
         modem.device.change([](ModemCondition &condition) { condition.waInnerVersion = u"WA"_s; });
     }
 
@@ -31,12 +32,12 @@ void setReferer(bool on)
 
 TEST_F(Requests, ReadsCarryTheirOwnAddressAsRefererOnlyWhenConfigured)
 {
-    EXPECT_EQ(controller.getWebRequestContent(std::nullopt), std::nullopt);
+    EXPECT_EQ(client.getWebRequestContent(std::nullopt), std::nullopt);
     modem.device.setFixedAnswer("cmd=profile_type&multi_data=1", "answer");
     for (const bool on : {false, true}) {
         setReferer(on);
         modem.device.clearRequests();
-        EXPECT_EQ(controller.getWebRequestContent(u"profile_type&multi_data=1"_s), u"answer"_s);
+        EXPECT_EQ(client.getWebRequestContent(u"profile_type&multi_data=1"_s), u"answer"_s);
         const auto requests = modem.device.requests();
         ASSERT_EQ(requests.size(), 1);
         EXPECT_EQ(requests[0].target, "/goform/goform_get_cmd_process?cmd=profile_type&multi_data=1");
@@ -48,19 +49,19 @@ TEST_F(Requests, ReadsCarryTheirOwnAddressAsRefererOnlyWhenConfigured)
 TEST_F(Requests, NoAnswerIsNilForAPlainReadAndEmptyForOneWithReferer)
 {
     modem.server.setFault({FaultKind::CloseAtOnce});
-    EXPECT_EQ(controller.getWebRequestContent(u"x"_s), std::nullopt);
+    EXPECT_EQ(client.getWebRequestContent(u"x"_s), std::nullopt);
     EXPECT_TRUE(systemLog.lines().last().startsWith(u"webContent: (null), error: ")) << "the error's text follows";
     setReferer(true);
-    EXPECT_EQ(controller.getWebRequestContent(u"x"_s), u""_s);
+    EXPECT_EQ(client.getWebRequestContent(u"x"_s), u""_s);
     EXPECT_EQ(systemLog.lines().last(), u"data is nil"_s);
 
     modem.server.setFault({FaultKind::WrongBytes});
-    EXPECT_EQ(controller.getWebRequestContent(u"x"_s), std::nullopt) << "no UTF-8 is no text";
+    EXPECT_EQ(client.getWebRequestContent(u"x"_s), std::nullopt) << "no UTF-8 is no text";
 }
 
 TEST_F(Requests, ASetCommandProvesThatItHasASession)
 {
-    EXPECT_TRUE(controller.setWebRequestWithId(u"SET_ONLINE_MODE&a=1"_s))
+    EXPECT_TRUE(client.setWebRequestWithId(u"SET_ONLINE_MODE&a=1"_s))
         << modem.device.refusals().join(u'\n').toStdString();
     const auto requests = modem.device.requests();
     ASSERT_EQ(requests.size(), 2);
@@ -79,7 +80,7 @@ TEST_F(Requests, WithoutASessionNothingIsSent)
     for (const QByteArray &session : {QByteArray(R"({"cr_version":"1"})"), QByteArray(R"({"RD":""})")}) {
         modem.device.clearRequests();
         modem.device.setFixedAnswer("cmd=cr_version", session);
-        EXPECT_FALSE(controller.setWebRequestWithId(u"SET_LPM_MODE"_s));
+        EXPECT_FALSE(client.setWebRequestWithId(u"SET_LPM_MODE"_s));
         EXPECT_EQ(modem.device.requests().size(), 1);
         EXPECT_TRUE(systemLog.contains(u"sessionId  is null!"_s));
         EXPECT_EQ(systemLog.lines().last(), u"SET_LPM_MODE set request failed!"_s);
@@ -100,31 +101,46 @@ TEST_F(Requests, SuccessIsJudgedByTheAnswer)
     for (const auto &[answer, success, line] : cases) {
         modem.device.clearFixedAnswers();
         modem.device.setFixedAnswer("goform_set_cmd", answer);
-        EXPECT_EQ(controller.setWebRequestWithId(u"ID"_s), success) << answer.constData();
+        EXPECT_EQ(client.setWebRequestWithId(u"ID"_s), success) << answer.constData();
         if (!success) {
             EXPECT_EQ(systemLog.lines().last(), line);
         }
     }
-    EXPECT_FALSE(controller.setWebRequestWithId(std::nullopt));
+    EXPECT_FALSE(client.setWebRequestWithId(std::nullopt));
 }
 
 TEST_F(Requests, ConnectionAndDialModeFollowTheConfiguration)
 {
     const auto answer = u"ppp_status: '' pppstate: 'old' my: 'mine' \"dial_mode\":\"auto_dial\""_s;
-    EXPECT_EQ(controller.getConnectionStatusWithWebContent(answer), u""_s) << "empty is found";
-    EXPECT_EQ(controller.getConnectionStatusWithWebContent(u"pppstate: 'old'"_s), u"old"_s);
-    EXPECT_EQ(controller.getConnectMode(answer), std::nullopt) << "not wanted";
-    EXPECT_TRUE(controller.isConnectedWithStautusContent(u"ipv4_ipv6_connected"_s));
-    EXPECT_FALSE(controller.isConnectedWithStautusContent(u"Connected"_s));
-    EXPECT_FALSE(controller.isConnectedWithStautusContent(std::nullopt)) << "not equal to an absent setting";
+    EXPECT_EQ(getConnectionStatusWithWebContent(answer), u""_s) << "empty is found";
+    EXPECT_EQ(getConnectionStatusWithWebContent(u"pppstate: 'old'"_s), u"old"_s);
+    EXPECT_EQ(getConnectMode(answer), std::nullopt) << "not wanted";
+    EXPECT_TRUE(isConnectedWithStautusContent(u"ipv4_ipv6_connected"_s));
+    EXPECT_FALSE(isConnectedWithStautusContent(u"Connected"_s));
+    EXPECT_FALSE(isConnectedWithStautusContent(std::nullopt)) << "not equal to an absent setting";
 
     configure({{u"NeedManualSetConnectStatus"_s, u"yes"_s},
                {u"ConnectedStatusValue"_s, u"Connected"_s},
                {u"NeedDialModeJudge"_s, 1}});
-    EXPECT_EQ(controller.getConnectionStatusWithWebContent(answer), std::nullopt) << "no key configured";
-    EXPECT_EQ(controller.getConnectMode(answer), u"auto_dial"_s);
-    EXPECT_TRUE(controller.isConnectedWithStautusContent(u"Connected"_s));
-    EXPECT_TRUE(controller.isAutoConnect(u"auto_dial"_s));
-    EXPECT_TRUE(controller.state().isAutoConnectOn_);
-    EXPECT_FALSE(controller.isAutoConnect(std::nullopt));
+    EXPECT_EQ(getConnectionStatusWithWebContent(answer), std::nullopt) << "no key configured";
+    EXPECT_EQ(getConnectMode(answer), u"auto_dial"_s);
+    EXPECT_TRUE(isConnectedWithStautusContent(u"Connected"_s));
+}
+
+TEST_F(Requests, SendsTheClock)
+{
+    client.setPcDate();
+    const auto sent = modem.device.requests("RESET_NTP_TIME");
+    ASSERT_EQ(sent.size(), 1);
+    EXPECT_TRUE(QString::fromUtf8(sent[0].body)
+                    .contains(QRegularExpression(u"&pc_current_time=\\d{4}-\\d\\d-\\d\\d_\\d\\d:\\d\\d:\\d\\d&AD="_s)));
+}
+
+TEST_F(Requests, WhatWasEndedHasNotFailed)
+{
+    attachment.reset();
+    EXPECT_EQ(client.getWebRequestContent(u"x"_s), std::nullopt);
+    EXPECT_FALSE(client.setWebRequestWithId(u"x"_s));
+    EXPECT_EQ(systemLog.lines(), QStringList());
+    EXPECT_TRUE(modem.device.requests().isEmpty());
 }

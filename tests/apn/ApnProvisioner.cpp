@@ -17,21 +17,21 @@ QByteArray notFoundRecord(const QByteArray &name)
           R"("standby_dns": "","ipv6_prefer_dns": "","ipv6_standby_dns": ""})";
 }
 
+/// @return the set commands that @p which was sent, without their tokens, in order
+QList<QByteArray> commands(const Modem &which)
+{
+    QList<QByteArray> found;
+    for (const ReceivedRequest &request : which.device.requests("goformId="))
+        found.append(request.body.sliced(9, request.body.lastIndexOf("&AD=") - 9));
+    return found;
+}
+
 struct Provisioning : Companion {
     Provisioning()
     {
         QVariantMap settings = usualSettings();
         settings.insert(u"WebDefaultApnProfileName"_s, u"A;B;C"_s);
         configure(settings);
-    }
-
-    /// @return the set commands that @p which was sent, without their tokens, in order
-    static QList<QByteArray> commands(const Modem &which)
-    {
-        QList<QByteArray> found;
-        for (const ReceivedRequest &request : which.device.requests("goformId="))
-            found.append(request.body.sliced(9, request.body.lastIndexOf("&AD=") - 9));
-        return found;
     }
 
     /// Plugs the modem in afresh and lets one pass go by. @return the commands of it
@@ -96,7 +96,7 @@ TEST_F(Provisioning, HoldsBackUnlessTheModemHasRoomAndAsks)
     modem.device.setFixedAnswer("profile_type", "{}");
     EXPECT_EQ(provision(QString()), QList<QByteArray>());
     EXPECT_TRUE(systemLog.contains(u"profileType is null!"_s));
-    EXPECT_TRUE(controller.state().onlySetAPNFlag_) << "a later pass asks again";
+    EXPECT_TRUE(controller.provisioner().onlySetAPNFlag()) << "a later pass asks again";
 
     modem.device.clearFixedAnswers();
     modem.device.setFixedAnswer("pc_apn_list_query", R"({"data":[1,2,3,4]})");
@@ -149,12 +149,12 @@ TEST_F(Provisioning, AnUnplugEndsItAndLeavesNothingForTheNextModem)
     }
 }
 
-TEST_F(Provisioning, GoesOnlineOnlyWhenRoamingOrDiallingByItself)
+TEST_F(AttachedModem, GoesOnlineOnlyWhenRoamingOrDiallingByItself)
 {
-    plugIn(modem);
-    controller.setOnline();
-    controller.state().isAutoConnectOn_ = true;
-    controller.setOnline();
-    controller.setLpm();
+    ApnProvisioner provisioner(snapshot, systemLog);
+    provisioner.setOnline(client);
+    snapshot.reset({.isAutoConnectOn_ = true});
+    provisioner.setOnline(client);
+    provisioner.setLpm(client);
     EXPECT_EQ(commands(modem), (QList<QByteArray>{"SET_ONLINE_MODE", "SET_LPM_MODE"}));
 }

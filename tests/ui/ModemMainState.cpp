@@ -1,4 +1,4 @@
-#include "monitor/ModemMainState.h"
+#include "ui/ModemMainState.h"
 
 #include <gtest/gtest.h>
 

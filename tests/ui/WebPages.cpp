@@ -1,3 +1,5 @@
+#include "ui/WebPages.h"
+
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 #include "ui/CustomView.h"
@@ -21,7 +23,6 @@ struct WebUI : Companion {
                          {u"NeedDisplayWhenDeviceRemoved"_s, false}});
         configure(settings);
         controller.stopGetModemStatus(); // the next icon is made with these settings
-        controller.startToolbarStatus();
     }
 
     QStringList opened() const
@@ -86,18 +87,22 @@ TEST_F(WebUI, OpensOnceForEachPlugIn)
 
 TEST_F(WebUI, ClickOpensThePageThatTheNewsCallsFor)
 {
+    SharedSnapshot snapshot;
+    StepQueue mainThread;
+    WebPages pages(workspace, snapshot, mainThread, [] { return std::nullopt; });
     for (const auto &[update, limit] : {std::pair(true, true), {false, true}, {false, false}}) {
-        controller.state().openUpdateUrlWhileHasNewVersion_ = update;
-        controller.state().haveDataLimitFlag_ = limit;
-        view().click();
+        pages.setClickTargets(update, std::nullopt);
+        snapshot.reset({.haveDataLimitFlag_ = limit});
+        pages.openHomepage();
     }
     for (const QVariant &page : {QVariant(u"no address"_s), QVariant(u"http://[bad"_s), QVariant()}) {
         settings.insert(u"OperatorHomePage"_s, page);
         configure(settings);
-        view().click();
+        pages.openHomepage();
     }
+    pages.openWebUI();
     EXPECT_EQ(opened(), (QStringList{u"http://update/"_s, u"http://limit/"_s, u"http://home/"_s}));
-    EXPECT_FALSE(controller.state().hasOpenedWebUI_);
+    EXPECT_FALSE(pages.hasOpenedWebUI());
 }
 
 TEST_F(WebUI, MenuSaysTheTipAndOpensPages)

@@ -1,0 +1,165 @@
+#include "modemapi/ModemClient.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "modemapi/AnswerFields.h"
+#include "modemapi/SessionToken.h"
+#include "platform/StrictUtf8.h"
+#include "platform/SystemLog.h"
+
+#include <QDateTime>
+#include <QUrl>
+
+#include <utility>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray refererHeader(const QString &url)
+{
+    return "Referer: " + url.toUtf8();
+}
+
+QString textOrNull(const std::optional<QString> &text)
+{
+    return text.value_or(u"(null)"_s);
+}
+
+} // namespace
+
+ModemClient::ModemClient(Work work, SystemLog &systemLog)
+    : m_work(std::move(work))
+    , m_systemLog(systemLog)
+{
+}
+
+QString ModemClient::getNetInfoAddress()
+{
+    return configurationText(u"NetInfoAddress"_s).value_or(u"logo_data.asp"_s);
+}
+
+QString ModemClient::getConnectModeAddress()
+{
+    return configurationText(u"ConnectModeAddress"_s).value_or(u"logo_data.asp"_s);
+}
+
+void ModemClient::log(const QString &line) const
+{
+    if (!m_work.isOver())
+        m_systemLog.write(line);
+}
+
+QString ModemClient::modemUrl(const QString &path) const
+{
+    return u"http://%1/%2"_s.arg(m_work.router(), path);
+}
+
+HttpAnswer ModemClient::exchange(const QString &url, const QList<QByteArray> &headers,
+                                 const std::optional<QByteArray> &body)
+{
+    return m_http.exchange({QUrl(url), headers, body, m_work.bindSocket()}, m_work.stopToken());
+}
+
+std::optional<QString> ModemClient::getContentFormRefererRequest(const QString &url, std::optional<QString> *)
+{
+    const HttpAnswer answer = exchange(url, {refererHeader(url)});
+    if (answer.data.isEmpty())
+        log(u"data is nil"_s);
+    return strictUtf8(answer.data, ByteOrderMark::Drop);
+}
+
+ModemClient::WebContent ModemClient::plainContent(const QString &url)
+{
+    const HttpAnswer answer = exchange(url, {});
+    if (answer.error)
+        return {std::nullopt, answer.error};
+    if (auto text = strictUtf8(answer.data, ByteOrderMark::Drop))
+        return {std::move(text), std::nullopt};
+    return {std::nullopt, u"the answer is no UTF-8"_s};
+}
+
+ModemClient::WebContent ModemClient::content(const QString &url)
+{
+    if (configurationFlag(u"AddRefererIntoHttpHeader"_s))
+        return {getContentFormRefererRequest(url, nullptr), std::nullopt};
+    return plainContent(url);
+}
+
+std::optional<QString> ModemClient::statusPage()
+{
+    const QString url = modemUrl(getNetInfoAddress());
+    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !QUrl(url).isValid())
+        return std::nullopt;
+    WebContent page = content(url);
+    if (page.error)
+        log(u"error: "_s + *page.error);
+    else if (!page.text)
+        log(u"content string is null!"_s);
+    return std::move(page.text);
+}
+
+std::optional<QString> ModemClient::getWebRequestContent(const std::optional<QString> &command)
+{
+    if (!command)
+        return std::nullopt;
+    WebContent answer = content(modemUrl(u"goform/goform_get_cmd_process?cmd="_s + *command));
+    if (answer.error || !answer.text)
+        log(u"webContent: %1, error: %2"_s.arg(textOrNull(answer.text), textOrNull(answer.error)));
+    return std::move(answer.text);
+}
+
+std::optional<QString> ModemClient::setWebRequestToServer(const QString &url, const QString &httpBody,
+                                                          std::optional<QString> *errorBack)
+{
+    const auto session = getContentFormRefererRequest(
+        modemUrl(u"goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1"_s), nullptr);
+    const auto crVersion = getModemInfoFromKeyForWeb5(u"cr_version\":"_s, session);
+    const auto innerVersion = getModemInfoFromKeyForWeb5(u"wa_inner_version\":"_s, session);
+    const auto rd = getModemInfoFromKeyForWeb5(u"RD\":"_s, session);
+    if (!rd || rd->isEmpty()) {
+        log(u"sessionId  is null!"_s);
+        return u"\"result\":\"failure\""_s;
+    }
+
+    const QString token = sessionToken(innerVersion.value_or(QString()), crVersion.value_or(QString()), *rd);
+    const HttpAnswer answer =
+        exchange(url, {refererHeader(url), "Content-Type: application/x-www-form-urlencoded; charset=utf-8"},
+                 (httpBody + u"&AD="_s + token).toUtf8());
+    if (errorBack)
+        *errorBack = answer.error;
+    if (answer.data.isEmpty())
+        log(u"data is nil"_s);
+    return strictUtf8(answer.data, ByteOrderMark::Drop);
+}
+
+bool ModemClient::setWebRequestWithId(const std::optional<QString> &command)
+{
+    if (!command)
+        return false;
+    const auto answer = setWebRequestToServer(modemUrl(u"goform/goform_set_cmd_process?"_s),
+                                              u"goformId="_s + *command, nullptr);
+    if (!answer) {
+        log(*command + u" setReqResultStr: (null), error: (null)"_s);
+        return false;
+    }
+    const auto result = getModemInfoFromKeyForWeb5(u"result\":"_s, answer);
+    if (!result) {
+        log(*command + u" set request result is null!"_s);
+        return false;
+    }
+    if (!result->contains(u"success")) {
+        log(*command + u" set request failed!"_s);
+        return false;
+    }
+    return true;
+}
+
+void ModemClient::setPcDate()
+{
+    const QString now = QDateTime::currentDateTime().toString(u"yyyy-MM-dd_HH:mm:ss");
+    setWebRequestWithId(u"RESET_NTP_TIME&pc_current_time="_s + now);
+}
+
+} // namespace tarvo

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "attachment/Attachment.h"
+#include "modemapi/HttpClient.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace tarvo {
+
+class SystemLog;
+
+/// Asks one modem, over a connection of its own that is tied to the modem's interface.
+///
+/// For one thread at a time; every request blocks that thread, for five seconds at most. When the work for the modem is
+/// over, requests end at once and nothing more is logged.
+class ModemClient {
+public:
+    /// @param systemLog  outlives the client
+    ModemClient(Work work, SystemLog &systemLog);
+
+    /// @return the work on whose behalf the modem is asked
+    const Work &work() const { return m_work; }
+
+    /// @return the path of the status page on the modem's server
+    static QString getNetInfoAddress();
+    /// @return the path of the page that tells how the modem dials
+    static QString getConnectModeAddress();
+
+    /// Fetches the status page in the configured way. @return its text; nil, with a line in the log, when there is none
+    std::optional<QString> statusPage();
+
+    /// Sends the set form @p httpBody, extended by the session token, to @p url.
+    /// @param errorBack  set to the transport's error text; may be null
+    /// @return the answer; empty when nothing came back; nil when it is no UTF-8; a fixed failure text when the modem
+    ///         gives no session
+    std::optional<QString> setWebRequestToServer(const QString &url, const QString &httpBody,
+                                                 std::optional<QString> *errorBack);
+    /// Fetches @p url with itself as the "Referer" header. Errors are logged, never handed back in @p errorBack.
+    /// @return the answer; empty when nothing came back; nil when it is no UTF-8
+    std::optional<QString> getContentFormRefererRequest(const QString &url, std::optional<QString> *errorBack);
+    /// Runs the get command @p command, which may carry further query parts.
+    /// @return the answer; nil for a nil command or when there is no text
+    std::optional<QString> getWebRequestContent(const std::optional<QString> &command);
+    /// Runs the set command @p command, which may carry further form fields.
+    /// @return whether the modem reported success; false for a nil command
+    bool setWebRequestWithId(const std::optional<QString> &command);
+
+    /// Sends the computer's clock to the modem.
+    void setPcDate();
+
+    /// Writes @p line to the log, unless the work is over: what was ended has not failed.
+    void log(const QString &line) const;
+
+private:
+    /// What a plain read brings: the text, or why there is none.
+    struct WebContent {
+        std::optional<QString> text;
+        std::optional<QString> error;
+    };
+
+    QString modemUrl(const QString &path) const;
+    HttpAnswer exchange(const QString &url, const QList<QByteArray> &headers,
+                        const std::optional<QByteArray> &body = std::nullopt);
+    WebContent plainContent(const QString &url);
+    /// Reads @p url with or without a "Referer", as the settings say.
+    WebContent content(const QString &url);
+
+    const Work m_work;
+    SystemLog &m_systemLog;
+    HttpClient m_http;
+};
+
+} // namespace tarvo

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "attachment/Attachment.h"
+#include "attachment/Guarded.h"
+
+#include <functional>
+
+namespace tarvo {
+
+/// What is known of the modem at one moment. Amounts are in gigabytes of 2^30 bytes.
+struct StatusSnapshot {
+    bool isConnected_ = false; ///< nothing sets it at present
+    bool isRoamOn_ = false; ///< the modem's setting allows roaming
+    bool isAutoConnectOn_ = false; ///< the modem dials by itself
+
+    bool isHaveNewVersion_ = false; ///< the modem offers new firmware
+    bool isHaveDataLimitReachedForOneMonth_ = false; ///< the monthly reminder's threshold is passed
+    bool isHaveDataLimitExceedForOneMonth_ = false;
+    bool isHaveDataLimitExceedForThreedays_ = false;
+
+    // A notice is pending, since it first came up until the next device is ready. Both also stand when there is no
+    // device, so that nothing shows a normal state then.
+    bool haveNewVersionFlag_ = false;
+    bool haveDataLimitFlag_ = false;
+
+    float m_useData = 0; ///< used this month
+    float m_surplusData = 0; ///< left this month; below zero when the limit is passed and that was not yet told
+    float m_totalMonthData = 0; ///< the monthly limit
+    float m_totalThreeData = 0; ///< the three-day limit
+
+    /// @return whether any data limit or reminder is passed
+    bool hasDataLimitNews() const
+    {
+        return isHaveDataLimitReachedForOneMonth_ || isHaveDataLimitExceedForOneMonth_
+            || isHaveDataLimitExceedForThreedays_;
+    }
+
+    bool operator==(const StatusSnapshot &) const = default;
+};
+
+/// The one snapshot, which is replaced whole: nobody sees half of a pass. For every thread.
+class SharedSnapshot {
+public:
+    StatusSnapshot get() const { return m_snapshot.get(); }
+
+    /// Publishes what @p change makes of the present snapshot, unless @p work is over.
+    /// @return whether it was published
+    bool update(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change);
+
+    /// Publishes @p snapshot on behalf of no modem: main thread, when no work is under way.
+    void reset(const StatusSnapshot &snapshot) { m_snapshot.set(snapshot); }
+
+private:
+    Guarded<StatusSnapshot> m_snapshot;
+};
+
+} // namespace tarvo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "attachment/Attachment.h"
+#include "platform/Clock.h"
+
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace tarvo {
+
+class ModemClient;
+class RepeatingTimer;
+class SystemLog;
+
+/// Fetches the modem's status page once a second, on a worker of its own for each attachment.
+class Poller {
+public:
+    /// What follows a page that came, on the worker.
+    using Pass = std::function<void(ModemClient &client, const QString &page)>;
+
+    /// @param clock, systemLog  outlive the poller
+    Poller(Clock &clock, SystemLog &systemLog, Pass pass);
+    ~Poller();
+
+    /// Starts a worker for @p work; tries again every second while the system has no thread to give (main thread).
+    void start(const Work &work);
+    /// Forgets the timer; the worker has been ended with its attachment (main thread).
+    void stop();
+
+    /// @return whether the timer has been made since the last `stop`; nothing reads it at present
+    bool ifOpenUrlWhileDevicePlugIn() const { return ifOpenUrlWhileDevicePlugIn_; }
+
+private:
+    void newUpdateStatus(const Work &work);
+    std::shared_ptr<RepeatingTimer> timerFor(const Work &work);
+    void timerHandler(const std::shared_ptr<RepeatingTimer> &timer, std::unique_ptr<ModemClient> &client,
+                      const Work &work);
+    void updateModemStatus(ModemClient &client);
+
+    Clock &m_clock;
+    SystemLog &m_systemLog;
+    const Pass m_pass;
+    /// Ticks once a second, also through a second ready report. Touched only on behalf of the present attachment.
+    std::shared_ptr<RepeatingTimer> modemStatusTimer_;
+    std::atomic<bool> ifOpenUrlWhileDevicePlugIn_{false};
+    QObject m_context; ///< what is put off ends with the poller
+};
+
+} // namespace tarvo

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "modemapi/StatusSnapshot.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace tarvo {
+
+/// Owns the snapshot, and turns the modem's status pages into it.
+class StatusMonitor {
+public:
+    /// @param published  called on the polling worker after each page has become the snapshot
+    explicit StatusMonitor(std::function<void(const Work &work)> published);
+
+    SharedSnapshot &snapshot() { return m_snapshot; }
+
+    /// Turns the status page @p content into the snapshot (polling worker).
+    void setAllStatusByUrlContents(const Work &work, const QString &content);
+    /// Keeps in `isAutoConnectOn_` whether @p dialMode means that the modem dials by itself. @return the same
+    bool isAutoConnect(const Work &work, const std::optional<QString> &dialMode);
+
+    // The network status codes, which nothing reads at present (main thread).
+    void setcurrentNetWorkStatus(std::int32_t status);
+    void setNetWorkTransferType(std::int32_t type);
+    /// Derives the transfer type: 2 when nothing changed, else 0 for the new status 1 and 1 for any other.
+    void setNetWorkTransferTypeByNewNetStatus(std::int32_t status);
+    std::int32_t netWorkTransferType() const { return netWorkTransferType_; }
+
+    /// A device became ready: no notice is pending (main thread, when no work is under way).
+    void resetForReadyDevice();
+    /// The device is gone or the machine sleeps: nothing is known, and both notices are pending, so that nothing shows
+    /// a normal state until a device is ready again (main thread, when no work is under way).
+    void resetForStop();
+
+private:
+    const std::function<void(const Work &work)> m_published;
+    SharedSnapshot m_snapshot;
+    std::int32_t currentNetWorkStatus_ = 0;
+    std::int32_t netWorkTransferType_ = 1;
+};
+
+} // namespace tarvo

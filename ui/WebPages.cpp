@@ -1,0 +1,155 @@
+#include "ui/WebPages.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "modemapi/AnswerFields.h"
+#include "modemapi/ModemClient.h"
+#include "platform/StepQueue.h"
+#include "platform/Workspace.h"
+#include "ui/ModemMainState.h"
+#include "ui/WebUIRule.h"
+
+#include <QUrl>
+
+#include <utility>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString serverOf(const QString &router)
+{
+    return u"http://"_s + router;
+}
+
+} // namespace
+
+WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router)
+    : m_workspace(workspace)
+    , m_snapshot(snapshot)
+    , m_mainThread(mainThread)
+    , m_router(std::move(router))
+{
+}
+
+void WebPages::openHomepage()
+{
+    if (openUpdateUrlWhileHasNewVersion_)
+        openNewVersionPage();
+    else if (m_snapshot.get().haveDataLimitFlag_)
+        openDateLimitPage();
+    else
+        openConfiguredPage(u"OperatorHomePage"_s);
+}
+
+void WebPages::openWebUISmsPage()
+{
+    openConfiguredPage(u"WebUISmsPage"_s);
+}
+
+void WebPages::openNewVersionPage()
+{
+    openConfiguredPage(u"FotaNewVersionHomePage"_s);
+}
+
+void WebPages::openDateLimitPage()
+{
+    openConfiguredPage(u"DateLimitHomePage"_s);
+}
+
+void WebPages::openWebUI()
+{
+    if (const auto router = m_router())
+        openPage(serverOf(*router));
+}
+
+void WebPages::openConfiguredPage(const QString &module)
+{
+    if (const auto page = configurationText(module))
+        openPage(*page);
+}
+
+void WebPages::openPage(const QString &page)
+{
+    const QUrl url(page, QUrl::StrictMode);
+    if (url.isValid() && !url.isRelative())
+        m_workspace.openURL(url);
+}
+
+void WebPages::openPageFor(const Work &work, const QString &page)
+{
+    work.post(m_mainThread, [this, page] { openPage(page); });
+}
+
+void WebPages::openWebUIForQX740(ModemClient &client, const QString &content)
+{
+    if (hasOpenedWebUI_)
+        return;
+    const WebUIFields fields = readWebUIFields(content);
+    const WebUIDecision decision = decideWebUI(fields);
+    if (decision == WebUIDecision::Open
+        || (decision == WebUIDecision::DependsOnDefaultApn && needsUserForApn(client, fields)))
+        openWebUIOnce(client.work());
+}
+
+bool WebPages::needsUserForApn(ModemClient &client, const WebUIFields &fields)
+{
+    const std::optional<QString> defaultApn = client.getWebRequestContent(u"default_apn"_s);
+    client.log(defaultApn ? u"default_apn: "_s + *defaultApn : u"default_apn is nil"_s);
+    return defaultApnNeedsUser(defaultApn, fields);
+}
+
+void WebPages::openWebUIOnce(const Work &work)
+{
+    bool first = false;
+    work.whileAttached([&] { first = !hasOpenedWebUI_.exchange(true); });
+    if (first)
+        openPageFor(work, configurationText(u"OperatorHomePage"_s).value_or(serverOf(work.router())));
+}
+
+void WebPages::checkModemMainState(ModemClient &client, const QString &content)
+{
+    const auto home = configurationText(u"OperatorHomePage"_s);
+    const auto mainState = getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content);
+    client.log(u"modemMainState state is "_s + mainState.value_or(u"(null)"_s));
+
+    const StartUpAction action = startUpAction(mainState, m_counter);
+    if (action.opened)
+        client.work().whileAttached([&] { hasOpenedWebUI_ = true; });
+    if (action.page == StartUpPage::HomeOrModem)
+        openPageFor(client.work(), home.value_or(serverOf(client.work().router())));
+    else if (action.page == StartUpPage::Home && home)
+        openPageFor(client.work(), *home);
+}
+
+void WebPages::setClickTargets(std::optional<bool> updatePage, std::optional<bool> limitPage)
+{
+    openUpdateUrlWhileHasNewVersion_ = updatePage.value_or(openUpdateUrlWhileHasNewVersion_);
+    openDateLimitUrlWhileHasLimit_ = limitPage.value_or(openDateLimitUrlWhileHasLimit_);
+}
+
+void WebPages::reset()
+{
+    hasOpenedWebUI_ = false;
+    openUpdateUrlWhileHasNewVersion_ = false;
+    openDateLimitUrlWhileHasLimit_ = false;
+    m_counter = 0;
+}
+
+QString WebPages::getAppPath() const
+{
+    return u"/Applications/Safari.app"_s;
+}
+
+bool WebPages::launchAppFromPath(const std::optional<QString> &path)
+{
+    return path && m_workspace.launchApplication(*path);
+}
+
+void WebPages::openApp()
+{
+    launchAppFromPath(getAppPath());
+}
+
+} // namespace tarvo

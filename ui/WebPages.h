@@ -1,0 +1,83 @@
+#pragma once
+
+#include "modemapi/StatusSnapshot.h"
+
+#include <QString>
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace tarvo {
+
+class ModemClient;
+class StepQueue;
+class Workspace;
+struct WebUIFields;
+
+/// Opens web pages for the user, and knows which were opened for this modem and what a click on the icon opens.
+///
+/// On the main thread unless said otherwise.
+class WebPages {
+public:
+    /// @return the address of the modem that is plugged in; nil when there is none
+    using Router = std::function<std::optional<QString>()>;
+
+    /// Everything referred to outlives this object.
+    /// @param mainThread  carries the opening of pages to the main thread
+    WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router);
+
+    /// The icon's click: opens the page that the news calls for.
+    void openHomepage();
+    void openWebUISmsPage();
+    void openNewVersionPage();
+    void openDateLimitPage();
+    /// Opens the modem's own web server; nothing when no modem is there.
+    void openWebUI();
+    /// Opens @p page in the user's browser; a text that is no URL opens nothing.
+    void openPage(const QString &page);
+
+    /// Opens the modem's pages once for each plug-in, when @p content says that the user has to enter something there
+    /// (polling worker).
+    void openWebUIForQX740(ModemClient &client, const QString &content);
+    /// Applies the rules of the modem's start-up states in @p content (polling worker). Nothing calls it at present.
+    void checkModemMainState(ModemClient &client, const QString &content);
+
+    /// The news decide what a click opens; nil leaves that as it is. Any thread.
+    void setClickTargets(std::optional<bool> updatePage, std::optional<bool> limitPage);
+
+    bool hasOpenedWebUI() const { return hasOpenedWebUI_; }
+    bool openUpdateUrlWhileHasNewVersion() const { return openUpdateUrlWhileHasNewVersion_; }
+    bool openDateLimitUrlWhileHasLimit() const { return openDateLimitUrlWhileHasLimit_; }
+
+    /// The device is another one, or gone: no page has been opened for it, when no work is under way.
+    void reset();
+
+    QString getAppPath() const;
+    /// @return whether the application was started; false for a nil path
+    bool launchAppFromPath(const std::optional<QString> &path);
+    /// Starts the application at `getAppPath`. Nothing calls it at present.
+    void openApp();
+
+private:
+    /// Opens the page configured as @p module; nothing when there is none.
+    void openConfiguredPage(const QString &module);
+    /// Asks the modem for its default access point. @return whether the user has to complete it
+    bool needsUserForApn(ModemClient &client, const WebUIFields &fields);
+    /// Opens the modem's pages, unless they were opened by themselves since the device came.
+    void openWebUIOnce(const Work &work);
+    void openPageFor(const Work &work, const QString &page);
+
+    Workspace &m_workspace;
+    const SharedSnapshot &m_snapshot;
+    StepQueue &m_mainThread;
+    const Router m_router;
+
+    std::atomic<bool> hasOpenedWebUI_{false}; ///< the modem's pages were opened by themselves
+    std::atomic<bool> openUpdateUrlWhileHasNewVersion_{false}; ///< a click opens the firmware page
+    std::atomic<bool> openDateLimitUrlWhileHasLimit_{false};
+    std::atomic<std::int32_t> m_counter{0}; ///< compared in `checkModemMainState`; nothing increments it
+};
+
+} // namespace tarvo
