@@ -122,7 +122,7 @@ class Modem:
 
     def polls(self):
         """The times, in seconds, at which the status page was asked for."""
-        lines = self.record.read_text().splitlines()
+        *lines, _ = self.record.read_text().split("\n")  # the last one is empty, or still being written
         return [r["time"] / 1000 for r in map(json.loads, lines) if r["target"].startswith("/logo_data.asp")]
 
 
