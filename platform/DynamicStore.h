@@ -59,10 +59,11 @@ public:
 /// The network state of the machine as key/value entries, with notification of changes.
 ///
 /// Used on the main thread only. Callbacks come from the event loop, one changed key at a time, and only when the
-/// key's value really changed or was announced afresh.
+/// key's value really changed. What is announced afresh comes as one pattern of keys.
 class DynamicStore {
 public:
-    /// Told the session that was notified and the key that changed (one element).
+    /// Told the session that was notified and the key that changed, or the pattern of the keys that were announced
+    /// afresh (one element).
     using Callback = std::function<void(DynamicStoreSession &session, const QStringList &changedKeys)>;
 
     virtual ~DynamicStore() = default;
