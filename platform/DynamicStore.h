@@ -24,6 +24,9 @@ inline const QString globalIPv4SetupKey = QStringLiteral("Setup:/Network/Global/
 inline const QString kSCDynamicStorePropNetInterfaces = QStringLiteral("Interfaces");
 /// In a service's IPv4 state: the name of the interface that carries the service.
 inline const QString kSCPropInterfaceName = QStringLiteral("InterfaceName");
+/// In a service's IPv4 state: the interface's addresses with their prefix lengths, such as 192.168.8.100/24
+/// (`QStringList`).
+inline const QString kSCPropNetIPv4Addresses = QStringLiteral("Addresses");
 /// In a service's IPv4 state: the address of its default gateway; absent when it has none.
 inline const QString kSCPropNetIPv4Router = QStringLiteral("Router");
 /// In the global setup: the service identifiers, the preferred one first (`QStringList`).

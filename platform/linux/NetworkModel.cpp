@@ -33,9 +33,19 @@ QString dotted(quint32 address)
         .arg(address & 0xff);
 }
 
-void insertService(StateStore::Entries &entries, const QString &name, const QString &router)
+QStringList withPrefixLengths(const std::set<InterfaceAddress> &addresses)
 {
-    QVariantMap state{{store::kSCPropInterfaceName, name}};
+    QStringList texts;
+    for (const InterfaceAddress &address : addresses)
+        texts.append(QStringLiteral("%1/%2").arg(dotted(address.local)).arg(address.prefixLength));
+    return texts;
+}
+
+void insertService(StateStore::Entries &entries, const QString &name, const std::set<InterfaceAddress> &addresses,
+                   const QString &router)
+{
+    QVariantMap state{{store::kSCPropInterfaceName, name},
+                      {store::kSCPropNetIPv4Addresses, withPrefixLengths(addresses)}};
     if (!router.isEmpty())
         state.insert(store::kSCPropNetIPv4Router, router);
     entries.insert(store::serviceIPv4Key(name), state);
@@ -162,7 +172,7 @@ StateStore::Entries NetworkModel::entries(const QSet<QString> &hidden) const
         if (!link.up || link.addresses.empty())
             continue;
         services.append(link.name);
-        insertService(entries, link.name, routerOf.value(index));
+        insertService(entries, link.name, link.addresses, routerOf.value(index));
     }
     entries.insert(store::interfaceListKey, {{store::kSCDynamicStorePropNetInterfaces, names}});
     entries.insert(store::globalIPv4SetupKey, {{store::kSCPropNetServiceOrder, services}});
