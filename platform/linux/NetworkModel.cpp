@@ -107,8 +107,10 @@ void NetworkModel::replaceRoute(const DefaultRoute &route)
 void NetworkModel::removeRoute(const DefaultRoute &route)
 {
     auto gone = std::ranges::find(m_routes, route);
-    if (gone == m_routes.end())
-        gone = onlyRouteLike(route); // next hops may have been dropped from it since
+    if (gone == m_routes.end()) {
+        gone = onlyRouteLike(route); // next hops may have been dropped from it since, or it took the other's place
+        m_routesUncertain |= gone != m_routes.end();
+    }
     if (gone != m_routes.end())
         m_routes.erase(gone);
 }
@@ -135,6 +137,17 @@ void NetworkModel::takeRoutes(NetworkModel read)
 {
     m_routes = std::move(read.m_routes);
     setRoutesCertain();
+}
+
+void NetworkModel::keepLinks(const NetworkModel &before, const std::function<bool(int index)> &exists)
+{
+    for (const auto &[index, old] : before.m_links) {
+        const auto link = m_links.find(index);
+        if (link == m_links.end() && exists(index))
+            m_links.emplace(index, old);
+        else if (link != m_links.end() && link->second.addresses.empty())
+            link->second.addresses = old.addresses;
+    }
 }
 
 QHash<QString, int> NetworkModel::interfaceIndexes() const
