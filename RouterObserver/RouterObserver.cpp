@@ -8,6 +8,7 @@
 #include <QVariantList>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvo {
 
@@ -82,11 +83,15 @@ void RouterObserver::updateSupportedNetworkInterface(DynamicStoreSession &sessio
     if (!value)
         return;
     const QStringList interfaces = value->value(store::kSCDynamicStorePropNetInterfaces).toStringList();
+    const bool watchedIPv4 = watchIPv4On_;
     const bool newSupportedInterface = addSupportedInterfaces(interfaces);
-    reportVanishedInterfaces(interfaces);
+    const bool deviceGone = reportVanishedInterfaces(interfaces);
     preInterfaces_ = interfaces;
     if (newSupportedInterface)
         startWatchSupportedInterfaceIPv4(observer_);
+    // A removal ends the work with whichever device was in use, so that one that remains is to be reported once more.
+    if (deviceGone && watchedIPv4)
+        updateSupportedInterfaceIPv4(*ipv4MonitorRls_, {store::anyServiceIPv4Pattern});
 }
 
 bool RouterObserver::addSupportedInterfaces(const QStringList &interfaces)
@@ -94,20 +99,25 @@ bool RouterObserver::addSupportedInterfaces(const QStringList &interfaces)
     const qsizetype before = supportedBSDNames_.size();
     for (const QString &bsdName : interfaces) {
         if (isSupportedEnthernetBSDName(bsdName))
-            supportedBSDNames_.insert(bsdName);
+            supportedBSDNames_.insert(bsdName, getIOServiceOfBSDName(bsdName));
     }
     return supportedBSDNames_.size() > before;
 }
 
-void RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)
+bool RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)
 {
-    const QSet<QString> present(interfaces.begin(), interfaces.end());
-    for (const QString &bsdName : preInterfaces_) {
-        if (present.contains(bsdName) || !supportedBSDNames_.contains(bsdName))
+    bool reported = false;
+    for (const QString &bsdName : std::as_const(preInterfaces_)) {
+        const auto known = supportedBSDNames_.constFind(bsdName);
+        if (known == supportedBSDNames_.cend() || interfaces.contains(bsdName))
             continue;
-        interfaceRemoved(bsdName);
+        if (supportedBSDNames_.keys(*known).size() == 1) {
+            interfaceRemoved(bsdName);
+            reported = true;
+        }
         supportedBSDNames_.remove(bsdName);
     }
+    return reported;
 }
 
 void RouterObserver::startWatchSupportedInterfaceIPv4(const std::shared_ptr<const RouterReports> &observer)

@@ -6,7 +6,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QSet>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -73,8 +73,10 @@ public:
 private:
     /// Adds the supported ones among @p interfaces to the known. @return whether one of them is new
     bool addSupportedInterfaces(const QStringList &interfaces);
-    /// Reports and forgets the supported interfaces that were there at the last update and are not in @p interfaces.
-    void reportVanishedInterfaces(const QStringList &interfaces);
+    /// Forgets the supported interfaces that were there at the last update and are not in @p interfaces, and reports
+    /// those whose device is gone: a device whose interface has another name by now is still there.
+    /// @return whether one was reported
+    bool reportVanishedInterfaces(const QStringList &interfaces);
     bool hasEthernetRouter(IOServiceHandle service);
 
     DynamicStore &dynamicStore_;
@@ -84,7 +86,7 @@ private:
 
     std::shared_ptr<const RouterReports> observer_;
     QStringList preInterfaces_;
-    QSet<QString> supportedBSDNames_;
+    QHash<QString, IOServiceHandle> supportedBSDNames_; ///< with the devices behind them
     std::unique_ptr<DynamicStoreSession> interfaceMonitorRls_;
     std::unique_ptr<DynamicStoreSession> ipv4MonitorRls_;
     bool watchIPv4On_ = false;

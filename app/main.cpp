@@ -19,7 +19,9 @@
 #include <QDBusConnection>
 #include <QLocale>
 #include <QTextStream>
+#include <QTimer>
 
+#include <chrono>
 #include <cstdlib>
 
 using namespace tarvo;
@@ -33,7 +35,19 @@ int run(QApplication &application)
         systemLog.write(*problem);
 
     NetlinkDynamicStore dynamicStore(systemLog);
-    UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); });
+    // What waits for a device that could not be looked at hears of the same state once more, and asks again.
+    QTimer lookAgain;
+    lookAgain.setSingleShot(true);
+    lookAgain.setInterval(std::chrono::seconds(1));
+    QObject::connect(&lookAgain, &QTimer::timeout, &lookAgain, [&] {
+        dynamicStore.announce(store::interfaceListKey);
+        dynamicStore.announce(store::anyServiceIPv4Pattern);
+    });
+    UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); },
+                                      [&] {
+                                          if (!lookAgain.isActive())
+                                              lookAgain.start();
+                                      });
     dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
     LogindWorkspace workspace(systemBusAddress(), systemLog);
     const QDBusConnection sessionBus = QDBusConnection::sessionBus();

@@ -24,6 +24,9 @@ inline const QString globalIPv4SetupKey = QStringLiteral("Setup:/Network/Global/
 inline const QString kSCDynamicStorePropNetInterfaces = QStringLiteral("Interfaces");
 /// In a service's IPv4 state: the name of the interface that carries the service.
 inline const QString kSCPropInterfaceName = QStringLiteral("InterfaceName");
+/// In a service's IPv4 state: the interface's addresses with their prefix lengths, such as 192.168.8.100/24
+/// (`QStringList`).
+inline const QString kSCPropNetIPv4Addresses = QStringLiteral("Addresses");
 /// In a service's IPv4 state: the address of its default gateway; absent when it has none.
 inline const QString kSCPropNetIPv4Router = QStringLiteral("Router");
 /// In the global setup: the service identifiers, the preferred one first (`QStringList`).
@@ -59,10 +62,11 @@ public:
 /// The network state of the machine as key/value entries, with notification of changes.
 ///
 /// Used on the main thread only. Callbacks come from the event loop, one changed key at a time, and only when the
-/// key's value really changed or was announced afresh.
+/// key's value really changed. What is announced afresh comes as one pattern of keys.
 class DynamicStore {
 public:
-    /// Told the session that was notified and the key that changed (one element).
+    /// Told the session that was notified and the key that changed, or the pattern of the keys that were announced
+    /// afresh (one element).
     using Callback = std::function<void(DynamicStoreSession &session, const QStringList &changedKeys)>;
 
     virtual ~DynamicStore() = default;

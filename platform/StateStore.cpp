@@ -147,20 +147,31 @@ void StateStore::replaceEntries(Entries entries)
 
 void StateStore::announce(const QString &pattern)
 {
-    QStringList keys;
-    forEachMatch(m_entries, pattern, [&](const QString &key, const QVariantMap &) { keys.append(key); });
-    notify(keys);
+    std::vector<Notice> due;
+    forEachMatch(m_entries, pattern, [&](const QString &key, const QVariantMap &) {
+        for (Session *session : m_sessions) {
+            const Notice notice{session, pattern};
+            if (session->wants(key) && std::ranges::find(due, notice) == due.end())
+                due.push_back(notice);
+        }
+    });
+    tell(due);
 }
 
 void StateStore::notify(const QStringList &changedKeys)
 {
-    std::vector<std::pair<Session *, QString>> due;
+    std::vector<Notice> due;
     for (const QString &key : changedKeys) {
         for (Session *session : m_sessions) {
             if (session->wants(key))
                 due.emplace_back(session, key);
         }
     }
+    tell(due);
+}
+
+void StateStore::tell(const std::vector<Notice> &due)
+{
     for (const auto &[session, key] : due) {
         if (std::ranges::find(m_sessions, session) != m_sessions.end())
             session->tell(key);

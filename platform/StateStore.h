@@ -2,6 +2,7 @@
 
 #include "platform/DynamicStore.h"
 
+#include <utility>
 #include <vector>
 
 namespace tarvo {
@@ -24,13 +25,16 @@ public:
     /// Replaces the whole state, then tells each session of each key whose value differs, in key order.
     void replaceEntries(Entries entries);
 
-    /// Tells the sessions of every key that matches @p pattern whole, although nothing changed.
+    /// Tells each session that asked for any of the keys that match @p pattern whole of the pattern itself, once and
+    /// although nothing changed: who looks at several entries can then choose among them.
     void announce(const QString &pattern);
 
 private:
     class Session;
+    using Notice = std::pair<Session *, QString>;
 
     void notify(const QStringList &changedKeys);
+    void tell(const std::vector<Notice> &due);
 
     Entries m_entries;
     std::vector<Session *> m_sessions;

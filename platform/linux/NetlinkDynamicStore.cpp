@@ -4,9 +4,11 @@
 #include "platform/linux/RouteMessages.h"
 
 #include <linux/rtnetlink.h>
+#include <net/if.h>
 #include <sys/socket.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <utility>
 
@@ -20,12 +22,15 @@ namespace {
 constexpr auto publicationDelay = 200ms; // udev takes less to rename a new link
 constexpr auto gapLineInterval = 10s;
 constexpr int mostRoundsAtOnce = 4;
+constexpr int messagesBetweenEvents = 32;
+constexpr std::chrono::milliseconds mostPatience = 30s;
 
 } // namespace
 
 NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
     : m_systemLog(systemLog)
     , m_available(m_events.isOpen() && m_events.subscribe())
+    , m_patience(publicationDelay)
 {
     if (!m_available) {
         m_systemLog.write(u"network state: no netlink socket"_s);
@@ -36,6 +41,11 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
         receiveEvents();
         if (!m_publicationTimer.isActive())
             m_publicationTimer.start(publicationDelay);
+    });
+    m_readAgainTimer.setSingleShot(true);
+    QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
+        m_gap = true;
+        publish();
     });
     m_publicationTimer.setSingleShot(true);
     QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
@@ -56,11 +66,13 @@ void NetlinkDynamicStore::announceServices()
     announce(store::anyServiceIPv4Pattern);
 }
 
-void NetlinkDynamicStore::receiveEvents()
+/// @return whether the model follows every event that there is; if some were lost, up to the next loss
+bool NetlinkDynamicStore::receiveEvents()
 {
-    if (m_events.receiveEvents([this](nl_msg *message) { applyRouteMessage(message, m_model); })
-        == NetlinkSocket::Received::Lost)
+    const auto received = m_events.receiveEvents([this](nl_msg *message) { applyRouteMessage(message, m_model); });
+    if (received.lost)
         noteGap();
+    return received.everything;
 }
 
 void NetlinkDynamicStore::noteGap()
@@ -72,41 +84,71 @@ void NetlinkDynamicStore::noteGap()
     m_systemLog.write(u"network state: events were lost, reading everything again"_s);
 }
 
-/// Replaces the model by what the kernel tells now. @return false when that may be incomplete: the old one is kept
-bool NetlinkDynamicStore::readEverything()
+/// Asks the kernel for everything of some kinds. The events that come meanwhile are held: more of them come than the
+/// socket holds when a large state is read in a storm.
+NetlinkSocket::Dumped NetlinkDynamicStore::read(const QList<int> &requests, NetworkModel &model)
 {
     NetlinkSocket dumps;
-    NetworkModel read;
-    const auto apply = [&](nl_msg *message) { applyRouteMessage(message, read); };
-    if (!dumps.isOpen() || !dumps.dump(RTM_GETLINK, AF_UNSPEC, apply) || !dumps.dump(RTM_GETADDR, AF_INET, apply)
-        || !dumps.dump(RTM_GETROUTE, AF_INET, apply))
-        return false;
-    read.setRoutesCertain();
+    auto worst = dumps.isOpen() ? NetlinkSocket::Dumped::Complete : NetlinkSocket::Dumped::Failed;
+    int count = 0;
+    for (int i = 0; i < requests.size() && worst != NetlinkSocket::Dumped::Failed; ++i) {
+        const int family = requests[i] == RTM_GETLINK ? AF_UNSPEC : AF_INET;
+        worst = std::max(worst, dumps.dump(requests[i], family, [&](nl_msg *message) {
+            applyRouteMessage(message, model);
+            if (++count % messagesBetweenEvents == 0)
+                m_events.holdEvents();
+        }));
+    }
+    return worst;
+}
+
+/// Replaces the model by what the kernel tells now; where that fails, the old one is kept.
+///
+/// While links come and go all the time, the kernel may never tell the whole state undisturbed. What is missing from a
+/// disturbed answer is kept as far as it is there, and it is asked for again after a while.
+void NetlinkDynamicStore::readEverything()
+{
+    NetworkModel model;
+    const auto outcome = read({RTM_GETLINK, RTM_GETADDR, RTM_GETROUTE}, model);
+    if (outcome == NetlinkSocket::Dumped::Failed)
+        return;
+    if (outcome == NetlinkSocket::Dumped::Interrupted)
+        model.keepLinks(m_model,
+                        [](int index) { return if_indextoname(index, std::array<char, IF_NAMESIZE>().data()); });
+    model.setRoutesCertain();
     m_removed.unite(m_model.takeRemovedLinks());
-    m_model = std::move(read);
-    return true;
+    m_model = std::move(model);
+    m_gap = false;
+    if (outcome == NetlinkSocket::Dumped::Interrupted)
+        readAgainLater();
+    else
+        m_patience = publicationDelay;
 }
 
-bool NetlinkDynamicStore::readRoutes()
+void NetlinkDynamicStore::readAgainLater()
 {
-    NetlinkSocket dumps;
-    NetworkModel read;
-    const auto apply = [&](nl_msg *message) { applyRouteMessage(message, read); };
-    if (!dumps.isOpen() || !dumps.dump(RTM_GETROUTE, AF_INET, apply))
-        return false;
-    m_model.takeRoutes(std::move(read));
-    return true;
+    m_readAgainTimer.start(m_patience);
+    m_patience = std::min(2 * m_patience, mostPatience);
 }
 
-/// Brings the model up to date: events come in while it is read, and they may call for reading again.
+void NetlinkDynamicStore::readRoutes()
+{
+    NetworkModel model;
+    if (read({RTM_GETROUTE}, model) == NetlinkSocket::Dumped::Complete)
+        m_model.takeRoutes(std::move(model));
+}
+
+/// Brings the model up to date: events come in while it is read, and they may call for reading again. It is read only
+/// when no older event waits to be applied.
 void NetlinkDynamicStore::settle()
 {
     for (int round = 0; round < mostRoundsAtOnce; ++round) {
-        receiveEvents();
+        if (!receiveEvents())
+            continue;
         if (m_gap)
-            m_gap = !readEverything();
+            readEverything();
         else if (m_model.areRoutesUncertain())
-            m_gap = !readRoutes();
+            readRoutes();
         else
             return;
     }
@@ -117,6 +159,8 @@ void NetlinkDynamicStore::publish()
     settle();
     if (m_gap || m_model.areRoutesUncertain())
         m_publicationTimer.start(publicationDelay);
+    if (m_gap)
+        return;
 
     const QSet<QString> changedHands = updateIndexes(m_model.interfaceIndexes());
     if (!changedHands.isEmpty())

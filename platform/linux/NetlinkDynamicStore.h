@@ -6,11 +6,13 @@
 
 #include <QDeadlineTimer>
 #include <QHash>
+#include <QList>
 #include <QSet>
 #include <QSocketNotifier>
 #include <QString>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -43,10 +45,12 @@ public:
     void announceServices();
 
 private:
-    void receiveEvents();
+    bool receiveEvents();
     void noteGap();
-    bool readEverything();
-    bool readRoutes();
+    NetlinkSocket::Dumped read(const QList<int> &requests, NetworkModel &model);
+    void readEverything();
+    void readRoutes();
+    void readAgainLater();
     void settle();
     void publish();
     QSet<QString> updateIndexes(QHash<QString, int> indexes);
@@ -57,6 +61,7 @@ private:
     NetworkModel m_model;
     /// Something was missed: the model is to be read again.
     bool m_gap = true;
+    std::chrono::milliseconds m_patience; ///< until what was read while it changed is read again
     QDeadlineTimer m_nextGapLine;
 
     QHash<QString, int> m_published;
@@ -65,6 +70,7 @@ private:
 
     std::unique_ptr<QSocketNotifier> m_notifier;
     QTimer m_publicationTimer;
+    QTimer m_readAgainTimer;
 };
 
 } // namespace tarvo

@@ -3,11 +3,14 @@
 #include <linux/rtnetlink.h>
 #include <netlink/errno.h>
 #include <netlink/handlers.h>
+#include <netlink/msg.h>
 #include <netlink/netlink.h>
 #include <netlink/route/rtnl.h>
 #include <netlink/socket.h>
 #include <sys/socket.h>
 #include <sys/time.h>
+
+#include <utility>
 
 namespace tarvo {
 
@@ -15,6 +18,7 @@ namespace {
 
 constexpr int receiveBufferBytes = 1 << 20; // the kernel gives less to a user's program
 constexpr int mostMessagesAtOnce = 4096;
+constexpr std::size_t mostMessagesHeld = 1 << 16;
 
 int handOver(nl_msg *message, void *handler)
 {
@@ -49,17 +53,44 @@ bool NetlinkSocket::subscribe()
 
 NetlinkSocket::Received NetlinkSocket::receiveEvents(const Handler &handler)
 {
-    for (int i = 0; i < mostMessagesAtOnce; ++i) {
-        const int result = receive(handler);
-        if (result < 0)
-            return result == -NLE_AGAIN ? Received::Everything : Received::Lost;
-    }
-    return Received::Some;
+    for (const Message &message : std::exchange(m_held, {}))
+        handler(message.get());
+    Received received = receiveNow(handler);
+    received.lost |= std::exchange(m_heldLost, false);
+    return received;
 }
 
-bool NetlinkSocket::dump(int request, int family, const Handler &handler)
+void NetlinkSocket::holdEvents()
 {
-    return nl_rtgen_request(m_socket.get(), request, family, NLM_F_DUMP) >= 0 && receive(handler) >= 0;
+    if (m_held.size() >= mostMessagesHeld)
+        return;
+    const Received received = receiveNow([this](nl_msg *message) {
+        nlmsg_get(message);
+        m_held.emplace_back(message, &nlmsg_free);
+    });
+    m_heldLost |= received.lost;
+}
+
+/// A loss is told before the messages that came before it, and no other one until the socket has been empty.
+NetlinkSocket::Received NetlinkSocket::receiveNow(const Handler &handler)
+{
+    Received received;
+    for (int i = 0; i < mostMessagesAtOnce && !received.everything; ++i) {
+        const int result = receive(handler);
+        received.everything = result == -NLE_AGAIN;
+        received.lost |= result < 0 && result != -NLE_AGAIN;
+    }
+    return received;
+}
+
+NetlinkSocket::Dumped NetlinkSocket::dump(int request, int family, const Handler &handler)
+{
+    if (nl_rtgen_request(m_socket.get(), request, family, NLM_F_DUMP) < 0)
+        return Dumped::Failed;
+    const int result = receive(handler);
+    if (result == -NLE_DUMP_INTR)
+        return Dumped::Interrupted;
+    return result < 0 ? Dumped::Failed : Dumped::Complete;
 }
 
 /// @return a negative libnl error code when something went wrong

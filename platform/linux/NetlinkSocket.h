@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 struct nl_msg;
 struct nl_sock;
@@ -13,10 +14,15 @@ class NetlinkSocket {
 public:
     using Handler = std::function<void(nl_msg *message)>;
 
-    enum class Received {
-        Everything, ///< the socket is empty now
-        Some, ///< there is more to receive
-        Lost, ///< messages were lost before the next one
+    struct Received {
+        bool lost = false; ///< messages were lost before or between those that came
+        bool everything = false; ///< the socket was empty in the end, so that a later loss will be told again
+    };
+
+    enum class Dumped {
+        Complete,
+        Interrupted, ///< what was read may lack objects that are there, because others came or went meanwhile
+        Failed,
     };
 
     /// Opens a socket; @ref isOpen tells whether that succeeded.
@@ -29,20 +35,28 @@ public:
     /// @return whether the kernel agreed
     bool subscribe();
 
-    /// Hands each event that is there to @p handler, up to a bound that keeps the caller's event loop alive.
+    /// Hands each event that is there to @p handler, those that were held first, up to a bound that keeps the caller's
+    /// event loop alive.
     Received receiveEvents(const Handler &handler);
+
+    /// Takes the events that are there out of the socket, which holds few, for the next @ref receiveEvents.
+    void holdEvents();
 
     /// Reads all objects of one kind, and hands each to @p handler.
     /// @param request  an `RTM_GET...` message type
     /// @param family   an address family; AF_UNSPEC for links
-    /// @return false when what was read may be incomplete, because it changed meanwhile or an error came
-    bool dump(int request, int family, const Handler &handler);
+    Dumped dump(int request, int family, const Handler &handler);
 
 private:
+    using Message = std::unique_ptr<nl_msg, void (*)(nl_msg *)>;
+
+    Received receiveNow(const Handler &handler);
     int receive(const Handler &handler);
 
     std::unique_ptr<nl_sock, void (*)(nl_sock *)> m_socket;
     bool m_open = false;
+    std::vector<Message> m_held;
+    bool m_heldLost = false;
 };
 
 } // namespace tarvo

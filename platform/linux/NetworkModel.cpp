@@ -33,9 +33,19 @@ QString dotted(quint32 address)
         .arg(address & 0xff);
 }
 
-void insertService(StateStore::Entries &entries, const QString &name, const QString &router)
+QStringList withPrefixLengths(const std::set<InterfaceAddress> &addresses)
 {
-    QVariantMap state{{store::kSCPropInterfaceName, name}};
+    QStringList texts;
+    for (const InterfaceAddress &address : addresses)
+        texts.append(QStringLiteral("%1/%2").arg(dotted(address.local)).arg(address.prefixLength));
+    return texts;
+}
+
+void insertService(StateStore::Entries &entries, const QString &name, const std::set<InterfaceAddress> &addresses,
+                   const QString &router)
+{
+    QVariantMap state{{store::kSCPropInterfaceName, name},
+                      {store::kSCPropNetIPv4Addresses, withPrefixLengths(addresses)}};
     if (!router.isEmpty())
         state.insert(store::kSCPropNetIPv4Router, router);
     entries.insert(store::serviceIPv4Key(name), state);
@@ -97,8 +107,10 @@ void NetworkModel::replaceRoute(const DefaultRoute &route)
 void NetworkModel::removeRoute(const DefaultRoute &route)
 {
     auto gone = std::ranges::find(m_routes, route);
-    if (gone == m_routes.end())
-        gone = onlyRouteLike(route); // next hops may have been dropped from it since
+    if (gone == m_routes.end()) {
+        gone = onlyRouteLike(route); // next hops may have been dropped from it since, or it took the other's place
+        m_routesUncertain |= gone != m_routes.end();
+    }
     if (gone != m_routes.end())
         m_routes.erase(gone);
 }
@@ -125,6 +137,17 @@ void NetworkModel::takeRoutes(NetworkModel read)
 {
     m_routes = std::move(read.m_routes);
     setRoutesCertain();
+}
+
+void NetworkModel::keepLinks(const NetworkModel &before, const std::function<bool(int index)> &exists)
+{
+    for (const auto &[index, old] : before.m_links) {
+        const auto link = m_links.find(index);
+        if (link == m_links.end() && exists(index))
+            m_links.emplace(index, old);
+        else if (link != m_links.end() && link->second.addresses.empty())
+            link->second.addresses = old.addresses;
+    }
 }
 
 QHash<QString, int> NetworkModel::interfaceIndexes() const
@@ -162,7 +185,7 @@ StateStore::Entries NetworkModel::entries(const QSet<QString> &hidden) const
         if (!link.up || link.addresses.empty())
             continue;
         services.append(link.name);
-        insertService(entries, link.name, routerOf.value(index));
+        insertService(entries, link.name, link.addresses, routerOf.value(index));
     }
     entries.insert(store::interfaceListKey, {{store::kSCDynamicStorePropNetInterfaces, names}});
     entries.insert(store::globalIPv4SetupKey, {{store::kSCPropNetServiceOrder, services}});

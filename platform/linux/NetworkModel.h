@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <compare>
+#include <functional>
 #include <map>
 #include <set>
 #include <utility>
@@ -64,6 +65,10 @@ public:
     bool areRoutesUncertain() const { return m_routesUncertain; }
     /// Takes the routes of @p read, a model into which all routes have just been read, for certain.
     void takeRoutes(NetworkModel read);
+
+    /// Keeps, with its addresses, what a model into which everything has just been read may lack because links came and
+    /// went meanwhile: the links of @p before that @p exists, and the addresses of those that seem to have none.
+    void keepLinks(const NetworkModel &before, const std::function<bool(int index)> &exists);
 
     /// @return the indexes of the links that were removed since the last call
     QSet<int> takeRemovedLinks() { return std::exchange(m_removedLinks, {}); }

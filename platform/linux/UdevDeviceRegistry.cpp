@@ -1,7 +1,9 @@
 #include "platform/linux/UdevDeviceRegistry.h"
 
 #include <libudev.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace tarvo {
@@ -21,24 +23,72 @@ const QString vendorKey = u"idVendor"_s;
 const QString productKey = u"idProduct"_s;
 const QString nameKey = u"BSD Name"_s;
 
-std::optional<QVariant> usbNumber(udev_device *device, const char *attribute)
+/// One look at a device. It fails when a call of libudev comes back empty for a reason that says nothing of the device.
+class Look {
+public:
+    /// @return what @p call of libudev returns
+    template <typename Call>
+    auto operator()(Call call)
+    {
+        errno = 0;
+        const auto result = call();
+        m_failed = m_failed || (!result && isShortage(errno));
+        return result;
+    }
+    bool failed() const { return m_failed; }
+
+private:
+    static bool isShortage(int error)
+    {
+        return error == EMFILE || error == ENFILE || error == ENOMEM || error == EINTR || error == EAGAIN;
+    }
+
+    bool m_failed = false;
+};
+
+std::optional<QVariant> usbNumber(udev_device *device, const char *attribute, Look &look)
 {
-    const QByteArray text(udev_device_get_sysattr_value(device, attribute));
+    const QByteArray text(look([&] { return udev_device_get_sysattr_value(device, attribute); }));
     bool isNumber = false;
     const qlonglong number = text.trimmed().toUShort(&isNumber, 16);
     return isNumber ? std::optional<QVariant>(number) : std::nullopt;
 }
 
 /// Looks no further than the USB device: what is above that is a hub with numbers of its own.
-std::optional<QVariant> nearestUsbNumber(udev_device *device, const char *attribute)
+std::optional<QVariant> nearestUsbNumber(udev_device *device, const char *attribute, Look &look)
 {
-    for (; device; device = udev_device_get_parent(device)) {
-        if (const auto number = usbNumber(device, attribute))
+    while (device) {
+        if (const auto number = usbNumber(device, attribute, look))
             return number;
-        if (qstrcmp(udev_device_get_devtype(device), "usb_device") == 0)
+        const char *const type = look([&] { return udev_device_get_devtype(device); });
+        if (look.failed() || qstrcmp(type, "usb_device") == 0)
             break;
+        device = look([&] { return udev_device_get_parent(device); });
     }
     return std::nullopt;
+}
+
+bool isDeviceBehind(udev_device *device, int interfaceIndex, Look &look)
+{
+    const QByteArray index(look([&] { return udev_device_get_sysattr_value(device, "ifindex"); }));
+    return index.trimmed().toInt() == interfaceIndex && look([&] { return udev_device_get_parent(device); });
+}
+
+QVariantMap usbIdentity(udev_device *device, Look &look)
+{
+    QVariantMap identity;
+    if (const auto vendor = nearestUsbNumber(device, "idVendor", look))
+        identity.insert(vendorKey, *vendor);
+    if (const auto product = nearestUsbNumber(device, "idProduct", look))
+        identity.insert(productKey, *product);
+    return identity;
+}
+
+/// Needs neither a descriptor nor memory, so that no shortage makes it look again at links that are no devices.
+bool hasDevice(const QString &interfaceName)
+{
+    const QByteArray path = "/sys/class/net/" + interfaceName.toUtf8() + "/device";
+    return access(path.constData(), F_OK) == 0 || (errno != ENOENT && errno != ENOTDIR);
 }
 
 QList<QByteArray> pathsOf(udev_enumerate *enumeration)
@@ -64,8 +114,10 @@ std::optional<QVariant> interfaceNameBelow(udev *context, udev_device *device)
 
 } // namespace
 
-UdevDeviceRegistry::UdevDeviceRegistry(std::function<int(const QString &name)> interfaceIndex)
+UdevDeviceRegistry::UdevDeviceRegistry(std::function<int(const QString &name)> interfaceIndex,
+                                       std::function<void()> lookFailed)
     : m_interfaceIndex(std::move(interfaceIndex))
+    , m_lookFailed(std::move(lookFailed))
     , m_udev(udev_new(), &udev_unref)
 {
 }
@@ -76,27 +128,36 @@ IOServiceHandle UdevDeviceRegistry::serviceMatchingBSDName(const QString &bsdNam
     if (index == 0 || !m_udev)
         return 0;
     KnownInterface &known = m_knownInterfaces[index];
-    if (known.service == 0 && known.name != bsdName)
-        known.service = readInterface(bsdName, index);
+    if (known.service == 0 && known.name != bsdName) {
+        const auto service = readInterface(bsdName, index);
+        if (!service) {
+            m_lookFailed();
+            return 0;
+        }
+        known.service = *service;
+    }
     known.name = bsdName;
     if (known.service != 0)
         m_interfaces[known.service].insert(nameKey, bsdName);
     return known.service;
 }
 
-/// @return a new handle; 0 for an interface that is no device, or that has another name by now
-IOServiceHandle UdevDeviceRegistry::readInterface(const QString &name, int index)
+/// @return a new handle; 0 for an interface that is no device, or that has another name by now; nil when that cannot be
+///         told at present
+std::optional<IOServiceHandle> UdevDeviceRegistry::readInterface(const QString &name, int index)
 {
-    const Device device(udev_device_new_from_subsystem_sysname(m_udev.get(), "net", name.toUtf8().constData()));
-    if (!device || QByteArray(udev_device_get_sysattr_value(device.get(), "ifindex")).trimmed().toInt() != index
-        || !udev_device_get_parent(device.get()))
+    if (!hasDevice(name))
         return 0;
-    Properties properties;
-    if (const auto vendor = nearestUsbNumber(device.get(), "idVendor"))
-        properties.insert(vendorKey, *vendor);
-    if (const auto product = nearestUsbNumber(device.get(), "idProduct"))
-        properties.insert(productKey, *product);
-    m_interfaces.insert(++m_lastHandle, properties);
+    Look look;
+    const Device device(
+        look([&] { return udev_device_new_from_subsystem_sysname(m_udev.get(), "net", name.toUtf8().constData()); }));
+    const bool found = device && isDeviceBehind(device.get(), index, look);
+    const QVariantMap identity = found ? usbIdentity(device.get(), look) : QVariantMap();
+    if (look.failed())
+        return std::nullopt;
+    if (!found)
+        return 0;
+    m_interfaces.insert(++m_lastHandle, identity);
     return m_lastHandle;
 }
 
@@ -135,7 +196,7 @@ std::optional<QVariant> UdevDeviceRegistry::searchProperty(IOServiceHandle servi
     if (usbInterface != m_usbInterfaces.cend())
         return searchUsbInterface(*usbInterface, key, direction);
 
-    const Properties properties = m_interfaces.value(service);
+    const QVariantMap properties = m_interfaces.value(service);
     const auto property = properties.constFind(key);
     const bool isAbove = key != nameKey;
     if (property == properties.cend() || (isAbove && direction == RegistrySearch::Downward))
@@ -153,7 +214,8 @@ std::optional<QVariant> UdevDeviceRegistry::searchUsbInterface(const QByteArray 
         return key == nameKey ? interfaceNameBelow(m_udev.get(), device.get()) : std::nullopt;
     if (key != vendorKey && key != productKey)
         return std::nullopt;
-    return nearestUsbNumber(device.get(), key.toLatin1().constData());
+    Look look;
+    return nearestUsbNumber(device.get(), key.toLatin1().constData(), look);
 }
 
 } // namespace tarvo

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QHash>
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -18,11 +19,13 @@ namespace tarvo {
 ///
 /// What identifies the device behind a network interface is read once, when the interface is first asked for, and kept
 /// until it is forgotten: while a device is being removed, the nearest identity above it is already another device's.
-/// An interface that is no device, such as a bridge or a tunnel, costs one look for each name it ever has.
+/// An interface that is no device, such as a bridge or a tunnel, costs one look for each name it ever has. A look that
+/// fails for a shortage, such as one of descriptors, says nothing of the device: the next question looks again.
 class UdevDeviceRegistry final : public DeviceRegistry {
 public:
     /// @param interfaceIndex  tells the index of the network interface of a name; 0 when there is none
-    explicit UdevDeviceRegistry(std::function<int(const QString &name)> interfaceIndex);
+    /// @param lookFailed      called each time a device behind a network interface could not be looked at
+    UdevDeviceRegistry(std::function<int(const QString &name)> interfaceIndex, std::function<void()> lookFailed);
 
     IOServiceHandle serviceMatchingBSDName(const QString &bsdName) override;
     std::optional<QList<IOServiceHandle>> servicesMatchingClass(const QByteArray &className) override;
@@ -33,23 +36,22 @@ public:
     void forgetInterface(int interfaceIndex);
 
 private:
-    using Properties = QHash<QString, QVariant>;
-
     struct KnownInterface {
         QString name; ///< null before the first look
         IOServiceHandle service = 0; ///< 0 when the look under this name found no device
     };
 
-    IOServiceHandle readInterface(const QString &name, int index);
+    std::optional<IOServiceHandle> readInterface(const QString &name, int index);
     std::optional<QVariant> searchUsbInterface(const QByteArray &path, const QString &key,
                                                RegistrySearch direction) const;
 
     std::function<int(const QString &)> m_interfaceIndex;
+    std::function<void()> m_lookFailed;
     std::shared_ptr<udev> m_udev;
 
     IOServiceHandle m_lastHandle = 0;
     QHash<int, KnownInterface> m_knownInterfaces; ///< by interface index
-    QHash<IOServiceHandle, Properties> m_interfaces; ///< what was read of each network interface
+    QHash<IOServiceHandle, QVariantMap> m_interfaces; ///< what was read of each network interface
     QHash<QByteArray, IOServiceHandle> m_handleOfUsbInterface; ///< by path in sysfs
     QHash<IOServiceHandle, QByteArray> m_usbInterfaces; ///< path in sysfs
 };

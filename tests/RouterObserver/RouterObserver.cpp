@@ -150,6 +150,19 @@ TEST_F(RouterObserverTest, ReportsRemovalOnceAndAReplugByTheSameWatch)
     EXPECT_EQ(removed_.size(), 2);
 }
 
+TEST_F(RouterObserverTest, AfterARemovalAndWhenToldAfreshTheFirstModemIsReady)
+{
+    observer_.startWatchNetworkInterface(reports_);
+    for (const QString &name : {u"en5"_s, u"en6"_s, u"veth"_s})
+        name == u"veth"_s ? network_.addInterface(name) : plugIn(name, u"192.168.0.1"_s);
+    store_.announce(store::anyServiceIPv4Pattern);
+    EXPECT_EQ(ready_.last().kOmbraBSDName, u"en5"_s);
+    network_.removeInterface(u"en5"_s);
+    EXPECT_EQ(ready_.last().kOmbraBSDName, u"en6"_s);
+    network_.removeInterface(u"veth"_s);
+    EXPECT_EQ(ready_.size(), 4);
+}
+
 TEST_F(RouterObserverTest, ProbesForAnEthernetInterfaceWithARouter)
 {
     const auto probe = [this] {

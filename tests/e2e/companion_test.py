@@ -122,7 +122,7 @@ class Modem:
 
     def polls(self):
         """The times, in seconds, at which the status page was asked for."""
-        lines = self.record.read_text().splitlines()
+        *lines, _ = self.record.read_text().split("\n")  # the last one is empty, or still being written
         return [r["time"] / 1000 for r in map(json.loads, lines) if r["target"].startswith("/logo_data.asp")]
 
 
@@ -203,16 +203,23 @@ class CompanionTest(unittest.TestCase):
         self.until_ready(self.modem, "enx1", times=2)
         self.assertNotIn("DeviceRemoved,stopGetModemStatus", self.log)
 
-    def test_a_rename_is_a_removal_and_an_arrival(self):
+    def test_a_rename_is_no_removal(self):
+        foreign = Modem(self, "192.168.8")
+        foreign.plug("enp1", usb=False, metric=1)
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
         self.assertNotIn("usb0", self.log, "the name that the link had for a moment")
+        self.modem.tell("fault refuse")
         ip("link set enx1 down")
         self.usb.rename("enx1", "enx2")
         ip("link set enx1 name enx2")
+        failures = self.log.count("data is nil")
+        self.until(lambda: self.log.count("data is nil") >= failures + 2)
+        self.modem.tell("fault none")
         self.modem.bring_up("enx2")
         self.until_ready(self.modem, "enx2", times=2)
-        self.assertIn("DeviceRemoved,stopGetModemStatus", self.log)
+        self.assertNotIn("DeviceRemoved,stopGetModemStatus", self.log)
+        self.assertEqual(foreign.record.read_text(), "")
 
     def test_a_second_modem_takes_over(self):
         second = Modem(self, "192.168.9")
@@ -221,6 +228,8 @@ class CompanionTest(unittest.TestCase):
         second.plug("enx2", metric=200)
         self.until_ready(second, "enx2", times=2)
         self.assertIn("192.168.9.1", self.log)
+        second.unplug("enx2")
+        self.until_ready(self.modem, "enx1", times=3)
 
     def test_a_foreign_router_of_the_same_address_is_never_spoken_to(self):
         foreign = Modem(self, "192.168.8")

@@ -108,11 +108,15 @@ TEST_F(NetlinkDynamicStoreTest, TellsOnlyOfRealChanges)
        "addr add 10.1.1.1/32 dev lo\nlink set lo up"_s);
     const QString lo = store::serviceIPv4Key(u"lo"_s);
     EXPECT_TRUE(waitFor([&] { return m_told.contains(lo); }));
-    EXPECT_FALSE(m_told.contains(store::serviceIPv4Key(u"enx5"_s)));
+    const QString enx5 = store::serviceIPv4Key(u"enx5"_s);
+    EXPECT_FALSE(m_told.contains(enx5));
+    ip(u"addr add 192.168.8.101/24 dev enx5\naddr del 10.1.1.1/32 dev lo"_s);
+    EXPECT_TRUE(waitFor([&] { return m_told.count(lo) == 2; }));
+    EXPECT_EQ(m_told.count(enx5), 1) << "another address of the same router";
 
     m_told.clear();
     m_store->announceServices();
-    EXPECT_EQ(m_told, (QStringList{store::serviceIPv4Key(u"enx5"_s), lo}));
+    EXPECT_EQ(m_told, QStringList{store::anyServiceIPv4Pattern});
 }
 
 TEST_F(NetlinkDynamicStoreTest, TakesANameAwayBeforeAnotherLinkHasIt)
@@ -130,15 +134,16 @@ TEST_F(NetlinkDynamicStoreTest, TakesANameAwayBeforeAnotherLinkHasIt)
 
 TEST_F(NetlinkDynamicStoreTest, SurvivesABurstThatOverrunsTheSocket)
 {
-    QString burst;
+    QString burst = u"link set en5 down\n"_s;
     for (int i = 0; i < 1000; ++i)
         burst += u"link add a%1 group 9 type veth peer name b%1\n"_s.arg(i);
     const auto count = [&] {
         return m_session->copyValue(store::interfaceListKey)->value(u"Interfaces"_s).toList().size();
     };
-    ip(burst + u"route replace default via 192.168.8.2"_s);
-    EXPECT_TRUE(waitFor([&] { return count() == 2003; }));
-    EXPECT_EQ(router(), u"192.168.8.2"_s);
+    ip(burst + u"link set en5 up\nroute add default via 192.168.8.2"_s);
+    m_store->announceServices();
+    EXPECT_EQ(count(), 2003);
+    EXPECT_EQ(router(), u"192.168.8.2"_s) << "what waits in the socket is older than what was read";
     EXPECT_TRUE(m_log.contains(u"network state: events were lost, reading everything again"_s));
 }
 

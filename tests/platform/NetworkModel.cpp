@@ -95,6 +95,20 @@ TEST(NetworkModel, RoutesAreReadAgainWhereTheKernelLeavesThemOpen)
     EXPECT_FALSE(model.areRoutesUncertain());
     model.replaceRoute({mainTable, 100, 0, {{5, gateway(4)}}});
     EXPECT_TRUE(model.areRoutesUncertain()) << "either of the two may have been replaced";
+    model.setRoutesCertain();
+    model.addRoute({mainTable, 50, 0, {{5, gateway(6)}}});
+    model.removeRoute({mainTable, 50, 0, {{5, gateway(7)}}});
+    EXPECT_TRUE(model.areRoutesUncertain()) << "either a next hop had gone, or this is older than what was read";
+}
+
+TEST(NetworkModel, ADisturbedReadingTakesAwayOnlyWhatIsGone)
+{
+    NetworkModel read;
+    read.setLink(5, u"en5"_s, true);
+    NetworkModel before = twoServices();
+    before.setLink(7, u"gone"_s, true);
+    read.keepLinks(before, [](int index) { return index != 7; });
+    EXPECT_EQ(read.entries(), twoServices().entries());
 }
 
 } // namespace

@@ -54,7 +54,7 @@ TEST(StateStore, TellsEachChangedKeyOnceAndOnlyThose)
 
     told.clear();
     state.announce(u"k/[14]"_s);
-    EXPECT_EQ(told, (QList<QStringList>{{u"k/1"_s}, {u"k/4"_s}}));
+    EXPECT_EQ(told, QList<QStringList>{{u"k/[14]"_s}});
 }
 
 TEST(StateStore, ASessionMayBeClosedByItsOwnCallback)

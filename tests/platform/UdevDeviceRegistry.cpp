@@ -5,6 +5,7 @@
 #include <QMap>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <umockdev.h>
 
 #include <memory>
@@ -65,7 +66,9 @@ protected:
 
     std::unique_ptr<UMockdevTestbed, decltype(&g_object_unref)> m_testbed{nullptr, &g_object_unref};
     QMap<QString, int> m_indexes{{u"en5"_s, 5}, {u"veth6"_s, 6}};
-    UdevDeviceRegistry m_registry{[this](const QString &name) { return m_indexes.value(name); }};
+    int m_failures = 0;
+    UdevDeviceRegistry m_registry{[this](const QString &name) { return m_indexes.value(name); },
+                                  [this] { ++m_failures; }};
 };
 
 TEST_F(UdevDeviceRegistryTest, KnowsTheUsbDeviceBehindAnInterface)
@@ -91,6 +94,20 @@ TEST_F(UdevDeviceRegistryTest, KeepsWhatItReadUntilTheInterfaceIsForgotten)
     m_registry.forgetInterface(5);
     EXPECT_EQ(above(service, u"idVendor"_s), u"none"_s);
     EXPECT_EQ(m_registry.serviceMatchingBSDName(u"enx0"_s), 0);
+}
+
+TEST_F(UdevDeviceRegistryTest, LooksAgainAfterAShortageOfDescriptors)
+{
+    rlimit usual{};
+    getrlimit(RLIMIT_NOFILE, &usual);
+    for (rlimit few{0, usual.rlim_max}; few.rlim_cur < 40; ++few.rlim_cur) {
+        setrlimit(RLIMIT_NOFILE, &few);
+        m_registry.serviceMatchingBSDName(u"en5"_s);
+        setrlimit(RLIMIT_NOFILE, &usual);
+        EXPECT_EQ(above(m_registry.serviceMatchingBSDName(u"en5"_s), u"idVendor"_s), 0x12d1) << few.rlim_cur;
+        m_registry.forgetInterface(5);
+    }
+    EXPECT_GT(m_failures, 0);
 }
 
 TEST_F(UdevDeviceRegistryTest, TakesNeitherAHubNorAnotherLinkForTheDevice)
