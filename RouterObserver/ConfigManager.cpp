@@ -1,16 +1,11 @@
 #include "RouterObserver/ConfigManager.h"
 
 #include "RouterObserver/PropertyList.h"
-#include "RouterObserver/PropertyListLimits.h"
+#include "RouterObserver/SettingFile.h"
 #include "platform/Assertion.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QMetaType>
 #include <QSaveFile>
-#include <QStandardPaths>
-#include <QStringList>
 #include <QVariantList>
 
 #include <algorithm>
@@ -21,36 +16,6 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QStringList settingFolders()
-{
-    return QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation)
-        + QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)
-        + QStringList{QCoreApplication::applicationDirPath() + u"/../share"_s};
-}
-
-std::optional<QString> findSettingFile()
-{
-    for (const QString &folder : settingFolders()) {
-        const QString path = folder + u"/tarvo/Config.plist"_s;
-        if (QFileInfo::exists(path))
-            return QFileInfo(path).absoluteFilePath();
-    }
-    return std::nullopt;
-}
-
-PropertyListReading readSettingFile(const QString &path)
-{
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return {std::nullopt, u"it is no regular file"_s};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {std::nullopt, file.errorString()};
-    auto reading = readPropertyList(file.read(maxPropertyListSize + 1));
-    if (reading.root && reading.root->typeId() != QMetaType::QVariantMap)
-        return {std::nullopt, u"its root is no dictionary"_s};
-    return reading;
-}
 
 bool isList(const QVariant &value)
 {
@@ -122,7 +87,7 @@ void ConfigManager::load()
 {
     if (!settingPath_)
         return;
-    const auto reading = readSettingFile(*settingPath_);
+    const auto reading = readSettingFile(*settingPath_).values;
     if (reading.root)
         configDict_ = reading.root->toMap();
     else

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/InterfaceState.h"
+#include "platform/UsbNetworkDevices.h"
+
+#include <QList>
+#include <QString>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace tarvo {
+
+/// What the settings say of a device.
+enum class Support {
+    Supported,
+    Excluded, ///< its vendor may be supported, but the product is to be left alone
+    Unsupported,
+};
+
+/// A USB device, and what the network and the settings make of it.
+struct Device {
+    UsbNetworkDevice usb;
+    InterfaceState network{};
+    Support support = Support::Unsupported;
+
+    bool operator==(const Device &) const = default;
+
+    /// @return vendor and product in hexadecimal, as `lsusb` writes them
+    QString identifier() const;
+    /// @return the names of vendor and product; the identifier when there are none
+    QString name() const;
+};
+
+Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings);
+
+/// @return the supported one among @p devices that has come furthest on its way to a gateway, the first of several;
+///         nil when none is supported
+std::optional<Device> deviceToCheck(const QList<Device> &devices);
+
+/// Vendor and product of a device.
+struct DeviceId {
+    quint16 vendor = 0;
+    quint16 product = 0;
+
+    bool operator==(const DeviceId &) const = default;
+};
+
+/// Reads `VENDOR:PRODUCT`, both hexadecimal. @return nil when @p text is something else
+std::optional<DeviceId> deviceIdFrom(const QString &text);
+
+} // namespace tarvo

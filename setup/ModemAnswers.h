@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace tarvo {
+
+/// What a gateway answered, as far as it tells a modem.
+struct ModemFacts {
+    bool answers = false; ///< something serves HTTP there
+    bool hasPage = false; ///< the status page has text
+    std::optional<QString> connection{}; ///< the connection status; nil when the page has no such field
+    QStringList missingFields{}; ///< of those about data and roaming
+    bool takesCommands = false; ///< a get command brought a field
+    std::optional<bool> givesSession{}; ///< nil when it was not asked for one
+
+    bool operator==(const ModemFacts &) const = default;
+
+    /// @return whether these are the answers of a modem
+    bool isModem() const { return connection && takesCommands; }
+};
+
+/// @return the path of the page that tells the modem's status
+QString statusPagePath(const QVariantMap &settings);
+
+/// @return the connection status in @p page, read as @p settings say; nil when there is none
+std::optional<QString> connectionStatus(const QString &page, const QVariantMap &settings);
+
+/// @return the fields about data and roaming that @p page does not have in either style
+QStringList missingDataFields(const QString &page);
+
+} // namespace tarvo
