@@ -14,7 +14,7 @@ namespace tarvo {
 struct ModemQuestion {
     QString gateway;
     /// Called with each new socket before it is connected: ties it to the interface that the gateway is behind.
-    std::function<void(int socket)> prepareSocket;
+    std::function<bool(int socket)> prepareSocket;
     QVariantMap settings; ///< say which page, and how it is asked for
 };
 

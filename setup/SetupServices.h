@@ -1,5 +1,6 @@
 #pragma once
 
+#include "attachment/Attachment.h"
 #include "platform/DesktopFacts.h"
 #include "platform/InterfaceState.h"
 #include "setup/Chain.h"
@@ -20,11 +21,11 @@ struct SetupServices {
 
     /// Called on the main thread.
     std::function<InterfaceState(int interfaceIndex)> interfaceState;
+    /// @return what ties new sockets to the interface of a device, on any thread. Called on the main thread.
+    std::function<SocketBinder(const UsbNetworkDevice &device)> socketBinderFor;
 
     // The others are called on other threads, and may take seconds.
 
-    /// Ties a new socket to the interface of a device.
-    std::function<void(int socket, const UsbNetworkDevice &device)> bindSocket;
     std::function<DesktopFacts()> readDesktop;
     /// Has the running companion start again.
     std::function<ActionResult()> restartCompanion;

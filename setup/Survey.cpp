@@ -40,8 +40,7 @@ QList<Device> Survey::devices(const QVariantMap &settings) const
 
 ModemQuestion Survey::questionFor(const Device &device, const QVariantMap &settings) const
 {
-    const auto prepareSocket = [bind = m_services.bindSocket, usb = device.usb](int socket) { bind(socket, usb); };
-    return {device.network.gateway, prepareSocket, settings};
+    return {device.network.gateway, m_services.socketBinderFor(device.usb), settings};
 }
 
 void Survey::askWhetherModem(const Device &device, const QVariantMap &settings,
