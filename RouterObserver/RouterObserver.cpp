@@ -44,7 +44,8 @@ std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 
 ReadyDictionary readyDictionary(const QVariantMap &ipv4State, IOServiceHandle service)
 {
-    ReadyDictionary ready{.router{}, .kOmbraIOService = service, .kOmbraBSDName = interfaceNameOf(ipv4State)};
+    ReadyDictionary ready{.router{}, .kOmbraIOService = service, .kOmbraBSDName = interfaceNameOf(ipv4State), .addresses{}};
+    ready.addresses = ipv4State.value(store::kSCPropNetIPv4Addresses).toStringList();
     if (ipv4State.contains(store::kSCPropNetIPv4Router))
         ready.router = ipv4State[store::kSCPropNetIPv4Router].toString();
     return ready;
@@ -87,8 +88,11 @@ void RouterObserver::updateSupportedNetworkInterface(DynamicStoreSession &sessio
     const bool newSupportedInterface = addSupportedInterfaces(interfaces);
     const bool deviceGone = reportVanishedInterfaces(interfaces);
     preInterfaces_ = interfaces;
-    if (newSupportedInterface)
+    if (newSupportedInterface) {
+        if (observer_ && observer_->supportedInterfaceAppeared)
+            observer_->supportedInterfaceAppeared();
         startWatchSupportedInterfaceIPv4(observer_);
+    }
     // A removal ends the work with whichever device was in use, so that one that remains is to be reported once more.
     if (deviceGone && watchedIPv4)
         updateSupportedInterfaceIPv4(*ipv4MonitorRls_, {store::anyServiceIPv4Pattern});

@@ -23,6 +23,7 @@ struct ReadyDictionary {
     std::optional<QString> router; ///< the router's IPv4 address; nil while the interface has none
     IOServiceHandle kOmbraIOService = 0; ///< the device behind the interface
     std::optional<QString> kOmbraBSDName; ///< the interface's name
+    QStringList addresses{}; ///< of the interface, with their prefix lengths
 
     bool operator==(const ReadyDictionary &) const = default;
 };
@@ -31,6 +32,7 @@ struct ReadyDictionary {
 struct RouterReports {
     std::function<void(const ReadyDictionary &)> procECMReady;
     std::function<void(const QString &bsdName)> procInterfaceRemoved;
+    std::function<void()> supportedInterfaceAppeared{}; ///< it may have no address yet
 };
 
 /// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.
@@ -61,6 +63,9 @@ public:
 
     /// @return whether a supported modem among the devices of @p className has an Ethernet interface with a router
     bool isInterfaceRouterReady(const QByteArray &className);
+
+    /// @return whether a supported interface is there, with or without an address
+    bool hasSupportedInterface() const { return !supportedBSDNames_.isEmpty(); }
 
     bool isSupportedVendorID(qint64 vendorID) const;
     bool isSupportedProductID(qint64 productID) const;

@@ -43,12 +43,14 @@ void ApnProvisioner::reset()
 {
     onlySetAPNFlag_ = true;
     isSetApnReady_ = false;
+    m_accessPointsSent = 0;
 }
 
 bool ApnProvisioner::setApn(ModemClient &client, const QString &record)
 {
     if (!client.setWebRequestWithId(u"ADD_APN&apn="_s + record))
         return false;
+    client.work().whileAttached([&] { ++m_accessPointsSent; });
     client.log(u"add apn success!"_s);
     return true;
 }

@@ -42,6 +42,8 @@ public:
     /// Sends the records of the profile folder and chooses the default, once for an attachment.
     void setAllApnFromPC(ModemClient &client);
 
+    /// @return how many access points this modem was given
+    int accessPointsSent() const { return m_accessPointsSent; }
     /// @return whether the records may still be examined for this device
     bool onlySetAPNFlag() const { return onlySetAPNFlag_; }
 
@@ -54,6 +56,7 @@ private:
     const SharedSnapshot &m_snapshot;
     SystemLog &m_systemLog;
     std::atomic<bool> onlySetAPNFlag_{true};
+    std::atomic<int> m_accessPointsSent{0};
     std::atomic<bool> isSetApnReady_{false}; ///< the device has accepted that the access points are complete
     QString notFoundDefaultApn_; ///< touched on behalf of the present attachment only
 };

@@ -1,11 +1,16 @@
 #include "app/MainController.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/UsbIdentity.h"
 #include "modemapi/ModemClient.h"
+#include "platform/Notifications.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
+#include "ui/AboutDialog.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QMessageBox>
 
 #include <array>
 #include <functional>
@@ -17,31 +22,83 @@ using namespace Qt::StringLiterals;
 
 MainController::MainController(Services services)
     : m_services(std::move(services))
-    , m_monitor([this](const Work &work) { snapshotPublished(work); })
-    , m_pages(m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); })
-    , m_icon(m_services.statusBar, m_services.systemLog, iconActions())
-    , m_balloon(m_services.notifications, m_services.isScreenComposited, [this] { return m_icon.frame(); })
+    , m_monitor({.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
+                 .changed =
+                     [this](const Work &work, const StatusSnapshot &snapshot) {
+                         work.post(m_mainThread, [this, snapshot] { m_display.setSnapshot(snapshot, sincePlugIn()); });
+                     }})
+    , m_pages(m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
+              [this](const QString &page) { couldNotOpen(page); })
+    , m_menu(menuActions())
+    , m_icon(m_services.statusBar, m_services.systemLog, m_menu.menu(),
+             {.click = [this] { iconClicked(); },
+              .pointerEntered =
+                  [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
+    , m_display({m_icon, m_menu, m_pages, [this] { return deviceDetails(); }})
+    , m_balloon({.notifications = m_services.notifications,
+                 .isScreenComposited = m_services.isScreenComposited,
+                 .iconFrame = [this] { return m_icon.frame(); },
+                 .clicked = [this] { iconClicked(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog})
+              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
-               [this](ModemClient &client, const QString &page) { pass(client, page); })
+               {.answered = [this](const Work &work, bool answered) { modemAnswered(work, answered); },
+                .pass = [this](ModemClient &client, const QString &page) { pass(client, page); }})
     , m_threads(m_services.systemLog)
 {
     log(u"Tarvo init success"_s);
 }
 
-MainController::~MainController() = default;
-
-StatusIcon::Actions MainController::iconActions()
+MainController::~MainController()
 {
-    return {.click = [this] { m_pages.openHomepage(); },
-            .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); },
+    m_attachment.reset();
+    m_news.resetForStop(); // a balloon that is shown holds nobody up
+}
+
+IconMenu::Actions MainController::menuActions()
+{
+    const bool hasMessages = configurationText(u"WebUISmsPage"_s).has_value();
+    return {.showStatus = [this] { showStatus(); },
+            .click = [this] { m_pages.openHomepage(); },
             .openModemPage = [this] { m_pages.openWebUI(); },
-            .openMessages = [this] { m_pages.openWebUISmsPage(); },
+            .openMessages = hasMessages ? [this] { m_pages.openWebUISmsPage(); } : std::function<void()>(),
+            .openPage = [this](Page page) { m_pages.open(page); },
+            .openSettings = m_services.openSettings,
+            .about = [this] { showAbout(); },
             .quit = [this] { windowShouldClose(); }};
+}
+
+void MainController::iconClicked()
+{
+    if (m_pages.clickPage() == Page::None)
+        showStatus();
+    else
+        m_pages.openHomepage();
+}
+
+void MainController::showStatus()
+{
+    m_display.showWindow();
+}
+
+void MainController::showAbout()
+{
+    if (!m_aboutDialog)
+        m_aboutDialog = makeAboutDialog();
+    m_aboutDialog->show();
+    m_aboutDialog->raise();
+    m_aboutDialog->activateWindow();
+}
+
+void MainController::couldNotOpen(const QString &page)
+{
+    log(u"cannot open "_s + page);
+    if (m_services.notifications && m_services.notifications->available())
+        m_services.notifications->show(
+            {.title = qtTrId("CannotOpenTitle"), .text = qtTrId("CannotOpenText").arg(page), .iconName = u"tarvo"_s}, {});
 }
 
 void MainController::awakeFromNib()
@@ -57,7 +114,23 @@ void MainController::applicationDidFinishLaunching()
     m_icon.startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
         RouterReports{[this](const ReadyDictionary &ready) { procECMReady(ready); },
-                      [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }}));
+                      [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }, [this] { detect(); }}));
+    m_unknownModems = std::make_unique<UnknownModems>(m_services.dynamicStore, m_services.deviceRegistry,
+                                                      *routerObserver_, [this] { detect(); });
+    detect();
+}
+
+void MainController::detect()
+{
+    const auto unknown = m_unknownModems ? m_unknownModems->first() : std::nullopt;
+    if (m_attachment)
+        m_display.setDetection(Detection::Attached);
+    else if (routerObserver_ && routerObserver_->hasSupportedInterface())
+        m_display.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
+    else if (unknown)
+        m_display.setDetection(Detection::NotSetUp, *unknown);
+    else
+        m_display.setDetection(Detection::NoModem);
 }
 
 bool MainController::windowShouldClose()
@@ -69,6 +142,7 @@ bool MainController::windowShouldClose()
 
 int MainController::applicationShouldTerminate()
 {
+    m_unknownModems.reset();
     routerObserver_.reset();
     return 1;
 }
@@ -99,9 +173,7 @@ void MainController::procECMReady(const ReadyDictionary &ready)
         waitingIPv4Ready();
         return;
     }
-    const auto &binderFor = m_services.socketBinderFor;
-    m_location = {*ready.router, ready.kOmbraBSDName,
-                  binderFor && ready.kOmbraBSDName ? binderFor(*ready.kOmbraBSDName) : SocketBinder()};
+    keepDevice(ready);
     if (m_asleep)
         return; // wake starts with it
     m_attachment.reset(); // what still runs for an earlier device must not see this one's flags
@@ -110,6 +182,24 @@ void MainController::procECMReady(const ReadyDictionary &ready)
     log(u"ECMReady"_s);
     log(*ready.router);
     log(ready.kOmbraBSDName.value_or(u"(null)"_s));
+}
+
+/// Remembers where the modem is, and what it is.
+void MainController::keepDevice(const ReadyDictionary &ready)
+{
+    const auto &binderFor = m_services.socketBinderFor;
+    m_location = {*ready.router, ready.kOmbraBSDName,
+                  binderFor && ready.kOmbraBSDName ? binderFor(*ready.kOmbraBSDName) : SocketBinder()};
+    const auto identity = usbIdentity(m_services.deviceRegistry, ready.kOmbraIOService);
+    m_device = {.usbIdentity = identity ? identity->text() : QString(),
+                .interfaceName = ready.kOmbraBSDName.value_or(QString()),
+                .address = ready.addresses.value(0).section(u'/', 0, 0),
+                .gateway = *ready.router};
+    if (m_services.deviceName && ready.kOmbraBSDName)
+        m_device.name = m_services.deviceName(*ready.kOmbraBSDName);
+    m_pluggedIn = m_services.clock.now();
+    m_lastAnswer = 0;
+    m_hasNoGateway = false;
 }
 
 void MainController::resetForReadyDevice()
@@ -126,7 +216,11 @@ void MainController::procInterfaceRemoved(const QString &bsdName)
     stopGetModemStatus();
 }
 
-void MainController::waitingIPv4Ready() { }
+void MainController::waitingIPv4Ready()
+{
+    m_hasNoGateway = true;
+    detect();
+}
 
 void MainController::startGetModemInfo()
 {
@@ -142,6 +236,7 @@ void MainController::startGetModemStatus()
         return;
     m_attachment = std::make_unique<Attachment>(*m_location, m_threads);
     m_poller.start(m_attachment->work());
+    detect();
 }
 
 void MainController::stopGetModemStatus()
@@ -151,7 +246,10 @@ void MainController::stopGetModemStatus()
     resetForStop();
     if (m_balloon.isShown())
         m_balloon.toggleAttachedWindowAtPoint(qtTrId("DeviceRemovedTip"));
+    m_balloon.withdraw();
+    m_updateAlert.close();
     m_icon.showRemoval();
+    detect();
 }
 
 void MainController::resetForStop()
@@ -165,9 +263,17 @@ void MainController::resetForStop()
 
 void MainController::pass(ModemClient &client, const QString &page)
 {
+    const auto &settings = ConfigManager::sharedConfigManager();
+    const bool provisions = boolValue(settings.getConfigurationByModule(u"ProvisionAccessPoints"_s).value_or(true));
     const std::array<std::function<void()>, 5> steps{
-        [&] { m_provisioner.setAllApnFromPC(client); },
-        [&] { m_provisioner.setApnReady(client); },
+        [&] {
+            if (provisions)
+                m_provisioner.setAllApnFromPC(client);
+        },
+        [&] {
+            if (provisions)
+                m_provisioner.setApnReady(client);
+        },
         [&] { m_pages.openWebUIForQX740(client, page); },
         [&] { m_firmwareCheck.checkFotaUpdateWhenDue(client, page); },
         [&] {
@@ -182,12 +288,33 @@ void MainController::pass(ModemClient &client, const QString &page)
     }
 }
 
-void MainController::snapshotPublished(const Work &work)
+void MainController::modemAnswered(const Work &work, bool answered)
+{
+    if (answered)
+        m_lastAnswer = QDateTime::currentMSecsSinceEpoch();
+    m_monitor.noteAnswer(work, answered);
+}
+
+void MainController::snapshotEvaluated(const Work &work)
 {
     const StatusSnapshot snapshot = m_monitor.snapshot().get();
     if (!snapshot.haveNewVersionFlag_ && !snapshot.haveDataLimitFlag_)
-        work.post(m_mainThread, [this] { m_icon.setStatusImage(u"online"_s); });
+        m_news.showNormalState(work);
     m_news.startDisPlayUIStatusThread(work);
+}
+
+std::chrono::seconds MainController::sincePlugIn() const
+{
+    return std::chrono::duration_cast<std::chrono::seconds>(m_services.clock.now() - m_pluggedIn);
+}
+
+DeviceDetails MainController::deviceDetails() const
+{
+    DeviceDetails device = m_device;
+    device.accessPointsSent = m_provisioner.accessPointsSent();
+    if (m_lastAnswer != 0)
+        device.lastAnswer = QDateTime::fromMSecsSinceEpoch(m_lastAnswer);
+    return device;
 }
 
 std::optional<QString> MainController::router() const

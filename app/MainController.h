@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RouterObserver/RouterObserver.h"
+#include "RouterObserver/UnknownModems.h"
 #include "apn/ApnProvisioner.h"
 #include "app/Services.h"
 #include "attachment/Attachment.h"
@@ -10,15 +11,21 @@
 #include "monitor/StatusMonitor.h"
 #include "platform/StepQueue.h"
 #include "ui/BalloonPresenter.h"
+#include "ui/IconMenu.h"
 #include "ui/NewsSequence.h"
+#include "ui/StatusDisplay.h"
 #include "ui/StatusIcon.h"
 #include "ui/UpdateAlert.h"
 #include "ui/WebPages.h"
 
 #include <QString>
 
+#include <atomic>
+#include <chrono>
 #include <memory>
 #include <optional>
+
+class QMessageBox;
 
 namespace tarvo {
 
@@ -61,29 +68,46 @@ public:
     /// Stops polling, forgets the modem's state and shows the removal. Returns at once.
     void stopGetModemStatus();
 
+    /// Shows how things stand in the status window.
+    void showStatus();
+
     // The parts, for who watches the companion.
     StatusSnapshot snapshot() { return m_monitor.snapshot().get(); }
     const NewsSequence &news() const { return m_news; }
     const WebPages &pages() const { return m_pages; }
     const ApnProvisioner &provisioner() const { return m_provisioner; }
+    const StatusDisplay &display() const { return m_display; }
 
 private:
     void log(const QString &line) const;
-    StatusIcon::Actions iconActions();
+    IconMenu::Actions menuActions();
+    void iconClicked();
+    void showAbout();
+    void couldNotOpen(const QString &page);
     std::optional<QString> router() const;
+    DeviceDetails deviceDetails() const;
+    std::chrono::seconds sincePlugIn() const;
+    /// Tells the display what is detected.
+    void detect();
     /// The steps that follow each status page that came (polling worker).
     void pass(ModemClient &client, const QString &page);
-    void snapshotPublished(const Work &work);
+    void modemAnswered(const Work &work, bool answered);
+    void snapshotEvaluated(const Work &work);
+    void keepDevice(const ReadyDictionary &ready);
     void resetForReadyDevice();
     void resetForStop();
 
     Services m_services;
     StepQueue m_mainThread; ///< receives the steps that other threads post
     std::unique_ptr<RouterObserver> routerObserver_;
+    std::unique_ptr<UnknownModems> m_unknownModems;
+    std::unique_ptr<QMessageBox> m_aboutDialog;
 
     StatusMonitor m_monitor;
     WebPages m_pages;
+    IconMenu m_menu;
     StatusIcon m_icon;
+    StatusDisplay m_display;
     BalloonPresenter m_balloon;
     UpdateAlert m_updateAlert;
     NewsSequence m_news;
@@ -92,6 +116,10 @@ private:
     Poller m_poller;
 
     std::optional<ModemLocation> m_location; ///< of the last modem that was reported ready
+    DeviceDetails m_device; ///< of the same
+    Clock::TimePoint m_pluggedIn{}; ///< when it was reported
+    std::atomic<qint64> m_lastAnswer{0}; ///< milliseconds since the epoch; 0 before the first answer
+    bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps
     ThreadGroup m_threads; ///< its destructor waits for the threads that use all of the above
     std::unique_ptr<Attachment> m_attachment; ///< to the modem that is polled; null when none is

@@ -35,6 +35,13 @@ struct Services {
     /// The desktop's notification service; null where there cannot be one.
     Notifications *notifications = nullptr;
 
+    /// @return the name of the device behind the network interface of that name, for the user; empty when it has none.
+    ///         Called on the main thread; may be empty
+    std::function<QString(const QString &interfaceName)> deviceName{};
+
+    /// Opens the program that makes the settings; called on the main thread. Empty where there is none.
+    std::function<void()> openSettings{};
+
     /// @return whether windows may be translucent; called on the main thread. Empty means that they may not.
     std::function<bool()> isScreenComposited{};
 };

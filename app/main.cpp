@@ -57,7 +57,7 @@ int run(QApplication &application)
 
     MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,
                                [&](const QString &name) { return socketBinder(dynamicStore.interfaceIndex(name)); },
-                               &QApplication::quit, &notifications, isScreenComposited});
+                               [] { QApplication::quit(); }, &notifications, {}, {}, isScreenComposited});
     const TerminationSignals signals([] { QApplication::quit(); });
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();

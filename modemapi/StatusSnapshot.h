@@ -4,8 +4,32 @@
 #include "attachment/Guarded.h"
 
 #include <functional>
+#include <optional>
 
 namespace tarvo {
+
+/// What the modem's start-up state says of its SIM card.
+enum class SimState {
+    Unknown, ///< the page does not tell, or the card needs nothing
+    Missing,
+    Damaged,
+    NeedsPin,
+    NeedsPuk,
+    Locked, ///< to another network
+};
+
+/// What the status page tells beside that of which news are made. What the page does not tell is nil.
+struct ModemDetails {
+    std::optional<bool> connected{};
+    SimState sim = SimState::Unknown;
+    std::optional<bool> dialsByItself{};
+    std::optional<bool> roamingAllowed{};
+    bool countsMonth = false; ///< the monthly amounts are meant: the modem's reminder is on
+    float reminderThreshold = 0; ///< monthly, in gigabytes
+    float threeDayUse = 0; ///< in gigabytes
+
+    bool operator==(const ModemDetails &) const = default;
+};
 
 /// What is known of the modem at one moment. Amounts are in gigabytes of 2^30 bytes.
 struct StatusSnapshot {
@@ -27,6 +51,9 @@ struct StatusSnapshot {
     float m_surplusData = 0; ///< left this month; below zero when the limit is passed and that was not yet told
     float m_totalMonthData = 0; ///< the monthly limit
     float m_totalThreeData = 0; ///< the three-day limit
+
+    std::optional<bool> answering{}; ///< false after two failed reads in a row; nil before the modem's first answer
+    ModemDetails details{};
 
     /// @return whether any data limit or reminder is passed
     bool hasDataLimitNews() const

@@ -89,17 +89,21 @@ std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields)
         return std::nullopt;
     const float limit = number(fields.monthlyLimit);
     const float limitBytes = bytesOfGigabytes(limit);
-    const float thresholdBytes = bytesOfGigabytes(number(fields.monthlyThreshold));
+    const float threshold = number(fields.monthlyThreshold);
     const float used = number(fields.monthlySent) + number(fields.monthlyReceived);
-    return MonthlyUsage{limit, gigabytesOfBytes(used), gigabytesOfBytes(limitBytes - used), used > thresholdBytes,
-                        used > limitBytes};
+    return MonthlyUsage{limit,
+                        gigabytesOfBytes(used),
+                        gigabytesOfBytes(limitBytes - used),
+                        used > bytesOfGigabytes(threshold),
+                        used > limitBytes,
+                        threshold};
 }
 
 ThreeDayUsage threeDayUsage(const StatusFields &fields)
 {
     const float limit = number(fields.threeDayLimit);
     const float used = number(fields.threeDaySent) + number(fields.threeDayReceived);
-    return {limit, used > bytesOfGigabytes(limit)};
+    return {limit, used > bytesOfGigabytes(limit), gigabytesOfBytes(used)};
 }
 
 } // namespace tarvo

@@ -37,6 +37,7 @@ struct MonthlyUsage {
     float surplus = 0; ///< what is left; below zero when the limit is passed
     bool thresholdPassed = false;
     bool limitPassed = false;
+    float threshold = 0;
 
     bool operator==(const MonthlyUsage &) const = default;
 };
@@ -45,6 +46,7 @@ struct MonthlyUsage {
 struct ThreeDayUsage {
     float limit = 0;
     bool limitPassed = false;
+    float used = 0;
 
     bool operator==(const ThreeDayUsage &) const = default;
 };

@@ -15,10 +15,10 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-Poller::Poller(Clock &clock, SystemLog &systemLog, Pass pass)
+Poller::Poller(Clock &clock, SystemLog &systemLog, Steps steps)
     : m_clock(clock)
     , m_systemLog(systemLog)
-    , m_pass(std::move(pass))
+    , m_steps(std::move(steps))
 {
 }
 
@@ -79,8 +79,11 @@ void Poller::timerHandler(const std::shared_ptr<RepeatingTimer> &timer, std::uni
 void Poller::updateModemStatus(ModemClient &client)
 {
     const std::optional<QString> page = client.statusPage();
-    if (page && !client.work().isOver())
-        m_pass(client, *page);
+    if (client.work().isOver())
+        return;
+    m_steps.answered(client.work(), page && !page->isEmpty());
+    if (page)
+        m_steps.pass(client, *page);
 }
 
 } // namespace tarvo

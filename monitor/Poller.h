@@ -19,11 +19,16 @@ class SystemLog;
 /// Fetches the modem's status page once a second, on a worker of its own for each attachment.
 class Poller {
 public:
-    /// What follows a page that came, on the worker.
-    using Pass = std::function<void(ModemClient &client, const QString &page)>;
+    /// What follows a read of the page, on the worker.
+    struct Steps {
+        /// Told whether there was an answer.
+        std::function<void(const Work &work, bool answered)> answered{};
+        /// Runs when there was one, an empty one included where the settings let it pass.
+        std::function<void(ModemClient &client, const QString &page)> pass{};
+    };
 
     /// @param clock, systemLog  outlive the poller
-    Poller(Clock &clock, SystemLog &systemLog, Pass pass);
+    Poller(Clock &clock, SystemLog &systemLog, Steps steps);
     ~Poller();
 
     /// Starts a worker for @p work; tries again every second while the system has no thread to give (main thread).
@@ -43,7 +48,7 @@ private:
 
     Clock &m_clock;
     SystemLog &m_systemLog;
-    const Pass m_pass;
+    const Steps m_steps;
     /// Ticks once a second, also through a second ready report. Touched only on behalf of the present attachment.
     std::shared_ptr<RepeatingTimer> modemStatusTimer_;
     std::atomic<bool> ifOpenUrlWhileDevicePlugIn_{false};

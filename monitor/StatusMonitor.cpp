@@ -1,6 +1,7 @@
 #include "monitor/StatusMonitor.h"
 
 #include "monitor/DataUsage.h"
+#include "monitor/ModemDetails.h"
 
 #include <utility>
 
@@ -31,21 +32,49 @@ void raiseNotices(StatusSnapshot &snapshot)
 
 } // namespace
 
-StatusMonitor::StatusMonitor(std::function<void(const Work &work)> published)
-    : m_published(std::move(published))
+StatusMonitor::StatusMonitor(Listeners listeners)
+    : m_listeners(std::move(listeners))
 {
+}
+
+/// Publishes what @p change makes of the snapshot, and tells of it when it is another one than was last told. (What
+/// the news sequence does to an amount meanwhile is of no concern to listeners.)
+void StatusMonitor::publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change)
+{
+    StatusSnapshot published;
+    bool changed = false;
+    const bool attached = m_snapshot.update(work, [&](StatusSnapshot &snapshot) {
+        change(snapshot);
+        published = snapshot;
+        changed = std::exchange(m_told, snapshot) != snapshot;
+    });
+    if (attached && changed && m_listeners.changed)
+        m_listeners.changed(work, published);
 }
 
 void StatusMonitor::setAllStatusByUrlContents(const Work &work, const QString &content)
 {
     const StatusFields fields = readStatusFields(content);
-    const bool attached = m_snapshot.update(work, [&](StatusSnapshot &snapshot) {
+    publish(work, [&](StatusSnapshot &snapshot) {
         snapshot.isRoamOn_ = isRoaming(fields);
         applyUsage(snapshot, monthlyUsage(fields), threeDayUsage(fields));
         raiseNotices(snapshot);
+        snapshot.details = readModemDetails(content, fields);
     });
-    if (attached)
-        m_published(work);
+    if (m_listeners.evaluated && !work.isOver())
+        m_listeners.evaluated(work);
+}
+
+void StatusMonitor::noteAnswer(const Work &work, bool answered)
+{
+    constexpr int failuresThatCount = 2;
+    publish(work, [&](StatusSnapshot &snapshot) {
+        m_failures = answered ? 0 : m_failures + 1;
+        if (answered)
+            snapshot.answering = true;
+        else if (m_failures >= failuresThatCount)
+            snapshot.answering = false;
+    });
 }
 
 bool StatusMonitor::isAutoConnect(const Work &work, const std::optional<QString> &dialMode)
@@ -78,12 +107,16 @@ void StatusMonitor::resetForReadyDevice()
     StatusSnapshot snapshot = m_snapshot.get();
     snapshot.haveNewVersionFlag_ = false;
     snapshot.haveDataLimitFlag_ = false;
+    snapshot.answering.reset();
     m_snapshot.reset(snapshot);
+    m_failures = 0;
 }
 
 void StatusMonitor::resetForStop()
 {
     m_snapshot.reset({.haveNewVersionFlag_ = true, .haveDataLimitFlag_ = true});
+    m_told = {};
+    m_failures = 0;
     setNetWorkTransferTypeByNewNetStatus(0);
     setcurrentNetWorkStatus(0);
 }

@@ -13,13 +13,22 @@ namespace tarvo {
 /// Owns the snapshot, and turns the modem's status pages into it.
 class StatusMonitor {
 public:
-    /// @param published  called on the polling worker after each page has become the snapshot
-    explicit StatusMonitor(std::function<void(const Work &work)> published);
+    /// Who is told of snapshots, on the polling worker.
+    struct Listeners {
+        /// Each page has become the snapshot.
+        std::function<void(const Work &work)> evaluated{};
+        /// A page, or the lack of one, has made another snapshot than the last.
+        std::function<void(const Work &work, const StatusSnapshot &snapshot)> changed{};
+    };
+
+    explicit StatusMonitor(Listeners listeners);
 
     SharedSnapshot &snapshot() { return m_snapshot; }
 
     /// Turns the status page @p content into the snapshot (polling worker).
     void setAllStatusByUrlContents(const Work &work, const QString &content);
+    /// The modem answered, or did not (polling worker). It counts as not answering after two failures in a row.
+    void noteAnswer(const Work &work, bool answered);
     /// Keeps in `isAutoConnectOn_` whether @p dialMode means that the modem dials by itself. @return the same
     bool isAutoConnect(const Work &work, const std::optional<QString> &dialMode);
 
@@ -37,8 +46,12 @@ public:
     void resetForStop();
 
 private:
-    const std::function<void(const Work &work)> m_published;
+    void publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change);
+
+    const Listeners m_listeners;
     SharedSnapshot m_snapshot;
+    StatusSnapshot m_told; ///< the last one that listeners were told; touched on behalf of the present attachment only
+    int m_failures = 0; ///< in a row; touched as the last
     std::int32_t currentNetWorkStatus_ = 0;
     std::int32_t netWorkTransferType_ = 1;
 };

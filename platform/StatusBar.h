@@ -7,6 +7,7 @@
 #include <optional>
 
 class QAbstractButton;
+class QMenu;
 
 namespace tarvo {
 
@@ -16,9 +17,9 @@ inline constexpr double squareStatusItemLength = -2.0;
 
 /// One item in the desktop's status bar; it is taken out of the bar when it is destroyed.
 ///
-/// What the item shows is its view: the button's icon and tool tip are the item's, the button's actions are its
-/// context menu, a click on the item is a click on the button. Where the bar can hold a foreign window, the button
-/// itself sits there and sees the pointer; elsewhere the item mirrors it. An item without a view takes no room.
+/// What the item shows is its view: the button's icon and tool tip are the item's, a click on the item is a click on the
+/// button. Where the bar can hold a foreign window, the button itself sits there and sees the pointer; elsewhere the item
+/// mirrors it. An item without a view takes no room.
 class StatusItem {
 public:
     virtual ~StatusItem() = default;
@@ -26,10 +27,14 @@ public:
     /// Shows @p view, which stays the caller's and must outlive the item or be replaced first; null shows nothing.
     virtual void setView(QAbstractButton *view) = 0;
 
-    /// To be called when the view's icon, tool tip or actions changed.
+    /// Makes @p menu the item's context menu; it stays the caller's and must outlive the item. To be set before the
+    /// view. Null, as at first, is no menu.
+    virtual void setMenu(QMenu *menu) = 0;
+
+    /// To be called when the view's icon or tool tip changed.
     virtual void viewChanged() = 0;
 
-    /// A text beside the icon, where the bar can show one.
+    /// A text beside the icon, where the bar can show one. Dormant: no bar of today can.
     virtual void setTitle(const QString &title) = 0;
 
     /// @return where the item is, in global coordinates with y downwards; nil when it is not shown or the bar does

@@ -11,6 +11,7 @@ class SimulatedNotifications final : public Notifications {
 public:
     bool available() const override { return m_available; }
     void show(const Notification &notification, std::function<void()> failed) override;
+    void forgetFailure() override { m_failed = {}; }
     void close() override;
 
     void setAvailable(bool available) { m_available = available; }

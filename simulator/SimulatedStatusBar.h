@@ -17,12 +17,14 @@ public:
     SimulatedStatusItem &operator=(const SimulatedStatusItem &) = delete;
 
     void setView(QAbstractButton *view) override;
+    void setMenu(QMenu *menu) override { m_menu = menu; }
     void viewChanged() override { ++m_viewChanges; }
     void setTitle(const QString &title) override { m_title = title; }
     std::optional<QRect> frame() const override;
 
     double length() const { return m_length; }
     QAbstractButton *view() const { return m_view; }
+    QMenu *menu() const { return m_menu; }
     const QString &title() const { return m_title; }
     /// @return how often the item was told that its view changed
     int viewChanges() const { return m_viewChanges; }
@@ -31,6 +33,7 @@ private:
     SimulatedStatusBar &m_bar;
     double m_length;
     QAbstractButton *m_view = nullptr;
+    QMenu *m_menu = nullptr;
     QString m_title;
     int m_viewChanges = 0;
 };

@@ -10,7 +10,12 @@
 namespace tarvo {
 
 namespace {
+
+/// Whoever was typing when the panel appeared did not mean it.
+constexpr std::chrono::milliseconds quietTime{1000};
+
 std::weak_ptr<AlertPanelController> sharedPanel;
+
 }
 
 std::shared_ptr<AlertPanelController> AlertPanelController::shareAlertPanel()
@@ -33,6 +38,10 @@ AlertPanelController::AlertPanelController()
     btnCancel_ = interface.btnCancel_;
     interface.labelIcon_->setPixmap(imageNamed(QStringLiteral("newVersion")).pixmap(48));
     wndAlert_->setWindowIcon(applicationImage());
+    wndAlert_->setAttribute(Qt::WA_ShowWithoutActivating);
+    for (QObject *target : {static_cast<QObject *>(wndAlert_.get()), static_cast<QObject *>(btnOK_),
+                            static_cast<QObject *>(btnCancel_)})
+        target->installEventFilter(this);
     awakeFromNib();
 }
 
@@ -53,17 +62,23 @@ void AlertPanelController::runAlertPanelTitle(const QString &title, const QStrin
     btnOK_->setText(strDefaultBtn);
     btnCancel_->setVisible(strAlternateBtn.has_value());
     btnCancel_->setText(strAlternateBtn.value_or(QString()));
-    btnOK_->setFocus();
-
+    labelMsg_->setFocus(); // no button waits for a key
     wndAlert_->adjustSize();
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
         QRect frame = wndAlert_->rect();
         frame.moveCenter(screen->availableGeometry().center());
         wndAlert_->move(frame.topLeft());
     }
+    m_shown.start();
     wndAlert_->show();
     wndAlert_->raise();
-    wndAlert_->activateWindow(); // a request that the window manager may turn into a mere hint
+}
+
+bool AlertPanelController::eventFilter(QObject *, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease
+        || event->type() == QEvent::ShortcutOverride;
+    return isKey && !m_shown.hasExpired(quietTime.count());
 }
 
 void AlertPanelController::btnOKAction()

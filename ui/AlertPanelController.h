@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QString>
 
 #include <memory>
@@ -12,7 +13,7 @@ class QPushButton;
 namespace tarvo {
 
 /// The panel that announces something, with one or two buttons. There is one for the whole program; it lives as long as
-/// somebody holds it, on the main thread.
+/// somebody holds it, on the main thread. It takes neither the keyboard nor, for a second after it appeared, any key.
 class AlertPanelController : public QObject {
     Q_OBJECT
 
@@ -41,8 +42,10 @@ Q_SIGNALS:
 private:
     AlertPanelController();
     void awakeFromNib();
+    bool eventFilter(QObject *target, QEvent *event) override;
 
     std::unique_ptr<QDialog> wndAlert_;
+    QElapsedTimer m_shown;
     QLabel *labelMsg_ = nullptr;
     QPushButton *btnOK_ = nullptr;
     QPushButton *btnCancel_ = nullptr;

@@ -10,6 +10,9 @@ public:
     virtual ~Balloon() = default;
     Balloon(const Balloon &) = delete;
     Balloon &operator=(const Balloon &) = delete;
+
+    /// @return whether the pointer is on it
+    virtual bool isUnderPointer() const { return false; }
 };
 
 } // namespace tarvo

@@ -17,6 +17,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Otherwise = std::function<std::unique_ptr<Balloon>()>;
@@ -32,6 +34,8 @@ public:
         QAccessible::updateAccessibility(&appeared);
     }
 
+    bool isUnderPointer() const override { return m_window->underMouse(); }
+
 private:
     std::unique_ptr<OvAttachedWindow> m_window;
 };
@@ -39,14 +43,16 @@ private:
 class NotificationBalloon final : public Balloon {
 public:
     /// @param otherwise  shows the message in another way when the service turns it down
-    NotificationBalloon(Notifications &notifications, const QString &text, Otherwise otherwise)
+    NotificationBalloon(Notifications &notifications, const Notification &notification, Otherwise otherwise)
         : m_notifications(notifications)
     {
-        notifications.show({.title = QStringLiteral("Tarvo"), .text = text, .iconName = QStringLiteral("tarvo")},
-                           [this, otherwise = std::move(otherwise)] { m_replacement = otherwise(); });
+        notifications.show(notification, [this, otherwise = std::move(otherwise)] { m_replacement = otherwise(); });
     }
 
-    ~NotificationBalloon() override { m_notifications.close(); }
+    // The notification stays where the desktop keeps such things; only nothing comes in its place any more.
+    ~NotificationBalloon() override { m_notifications.forgetFailure(); }
+
+    bool isUnderPointer() const override { return m_replacement && m_replacement->isUnderPointer(); }
 
 private:
     Notifications &m_notifications;
@@ -58,6 +64,8 @@ std::unique_ptr<OvAttachedWindow> balloonAt(QWidget *view, const BalloonPlacemen
     return OvAttachedWindow::initWithView(view, {placement.point.x(), -placement.point.y()}, placement.side, distance);
 }
 
+constexpr int edgeMargin = 12; // between a balloon and the screen's edges
+
 std::unique_ptr<OvAttachedWindow> balloonAtIcon(QWidget *view, const QRect &icon)
 {
     constexpr float distance = 5;
@@ -65,20 +73,20 @@ std::unique_ptr<OvAttachedWindow> balloonAtIcon(QWidget *view, const QRect &icon
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     return balloonAt(view,
-                     placeBalloon({}, view->size(), flipped(icon), distance, flipped(screen->geometry()),
+                     placeBalloon({}, view->size(), flipped(icon), distance,
+                                  flipped(screen->geometry()).grownBy(-edgeMargin),
                                   flipped(screen->availableGeometry())),
                      distance);
 }
 
 std::unique_ptr<OvAttachedWindow> balloonInCorner(QWidget *view)
 {
-    constexpr float margin = 12;
     const BalloonShape shape{.arrowHeight = 0, .hasArrow = false};
     const QScreen *screen = QGuiApplication::primaryScreen();
     auto window =
         balloonAt(view,
                   placeBalloonInCorner(shape, view->size(), flipped(screen->geometry()),
-                                       flipped(screen->availableGeometry()), margin, QGuiApplication::isRightToLeft()),
+                                       flipped(screen->availableGeometry()), edgeMargin, QGuiApplication::isRightToLeft()),
                   0);
     window->setHasArrow(false);
     window->setArrowHeight(0);
@@ -87,11 +95,8 @@ std::unique_ptr<OvAttachedWindow> balloonInCorner(QWidget *view)
 
 } // namespace
 
-BalloonPresenter::BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited,
-                                   std::function<std::optional<QRect>()> iconFrame)
-    : m_notifications(notifications)
-    , m_isScreenComposited(std::move(isScreenComposited))
-    , m_iconFrame(std::move(iconFrame))
+BalloonPresenter::BalloonPresenter(Surroundings surroundings)
+    : m_with(std::move(surroundings))
     , balloonView_(std::make_unique<QWidget>())
 {
     Ui::BalloonView interface;
@@ -101,24 +106,69 @@ BalloonPresenter::BalloonPresenter(Notifications *notifications, std::function<b
 
 BalloonPresenter::~BalloonPresenter() = default;
 
-void BalloonPresenter::toggleAttachedWindowAtPoint(const std::optional<QString> &text)
+void BalloonPresenter::toggleAttachedWindowAtPoint(const std::optional<QString> &text, const BalloonExtras &extras)
 {
     if (attachedWindow)
-        attachedWindow.reset();
+        close();
     else if (text && !text->isEmpty())
-        attachedWindow = show(*text, m_iconFrame());
+        attachedWindow = show(*text, extras);
 }
 
-std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const std::optional<QRect> &iconFrame)
+void BalloonPresenter::dismiss(std::function<void()> closed)
 {
-    if (iconFrame || !m_notifications || !m_notifications->available())
+    m_closed = std::move(closed);
+    if (!attachedWindow || !attachedWindow->isUnderPointer())
+        close();
+}
+
+void BalloonPresenter::close()
+{
+    attachedWindow.reset();
+    if (m_closed)
+        std::exchange(m_closed, {})();
+}
+
+void BalloonPresenter::withdraw()
+{
+    if (m_with.notifications)
+        m_with.notifications->close();
+}
+
+std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const BalloonExtras &extras)
+{
+    const std::optional<QRect> iconFrame = m_with.iconFrame ? m_with.iconFrame() : std::nullopt;
+    if (iconFrame || !m_with.notifications || !m_with.notifications->available())
         return showWindow(text, iconFrame);
-    return std::make_unique<NotificationBalloon>(*m_notifications, text,
+    const Notification notification{.title = extras.title.isEmpty() ? u"Tarvo"_s : extras.title,
+                                    .text = text,
+                                    .iconName = u"tarvo"_s,
+                                    .openLabel = extras.openLabel,
+                                    .opened = m_with.clicked};
+    return std::make_unique<NotificationBalloon>(*m_with.notifications, notification,
                                                  [this, text] { return showWindow(text, std::nullopt); });
+}
+
+void BalloonPresenter::listenTo(const OvAttachedWindow &window)
+{
+    // Not at once: the window is still handling the event that it tells of.
+    const auto clicked = [this] {
+        if (m_with.clicked)
+            m_with.clicked();
+        close();
+    };
+    const auto left = [this] {
+        if (m_closed)
+            close();
+    };
+    QObject::connect(&window, &OvAttachedWindow::clicked, &m_context, clicked, Qt::QueuedConnection);
+    QObject::connect(&window, &OvAttachedWindow::pointerLeft, &m_context, left, Qt::QueuedConnection);
 }
 
 std::unique_ptr<Balloon> BalloonPresenter::showWindow(const QString &text, const std::optional<QRect> &iconFrame)
 {
+    // A Wayland compositor would put the window into the middle of the screen.
+    if (!iconFrame && QGuiApplication::platformName().startsWith(u"wayland"))
+        return std::make_unique<Balloon>();
     const auto textWidth = static_cast<float>(QFontMetricsF(ballooonTextField_->font()).horizontalAdvance(text));
     // An even width keeps the arrow's tip, in the middle, on a whole pixel.
     balloonView_->resize(2 * static_cast<int>(std::ceil((textWidth + 30.0F) / 2)), 40);
@@ -128,8 +178,9 @@ std::unique_ptr<Balloon> BalloonPresenter::showWindow(const QString &text, const
     QPalette palette = ballooonTextField_->palette();
     palette.setColor(QPalette::WindowText, window->borderColor());
     ballooonTextField_->setPalette(palette);
-    window->setTranslucent(m_isScreenComposited && m_isScreenComposited());
+    window->setTranslucent(m_with.isScreenComposited && m_with.isScreenComposited());
     window->setAccessibleName(text);
+    listenTo(*window);
     return std::make_unique<WindowBalloon>(std::move(window));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QRect>
 #include <QString>
 
@@ -14,34 +15,53 @@ namespace tarvo {
 
 class Balloon;
 class Notifications;
+class OvAttachedWindow;
+
+/// What is shown beside a balloon's text where the desktop has room for it.
+struct BalloonExtras {
+    QString title{};
+    QString openLabel{}; ///< of the action that leads to the news' page; empty where there is none
+};
 
 /// Shows short messages in the way that the desktop allows: in a balloon that points at the icon where the icon's place
 /// is known, else as a notification, else in a balloon at the corner near the panel. Used on the main thread only.
 class BalloonPresenter {
 public:
-    /// @param notifications       outlives the presenter; null where there are none
-    /// @param isScreenComposited  whether windows may be translucent; may be empty, which means no
-    /// @param iconFrame           tells where the icon is, in global coordinates with y downwards; nil when that is not
-    ///                            known
-    BalloonPresenter(Notifications *notifications, std::function<bool()> isScreenComposited,
-                     std::function<std::optional<QRect>()> iconFrame);
+    /// What the presenter needs from its surroundings, all on the main thread.
+    struct Surroundings {
+        Notifications *notifications = nullptr; ///< outlives the presenter; null where there are none
+        std::function<bool()> isScreenComposited{}; ///< whether windows may be translucent; empty means no
+        /// Tells where the icon is, in global coordinates with y downwards; nil when that is not known.
+        std::function<std::optional<QRect>()> iconFrame{};
+        std::function<void()> clicked{}; ///< the user has clicked a balloon, or the action of a notification
+    };
+
+    explicit BalloonPresenter(Surroundings surroundings);
     ~BalloonPresenter();
     BalloonPresenter(const BalloonPresenter &) = delete;
     BalloonPresenter &operator=(const BalloonPresenter &) = delete;
 
     /// Closes the balloon if one is shown; otherwise opens one with @p text, unless that is nil or empty.
-    void toggleAttachedWindowAtPoint(const std::optional<QString> &text);
+    void toggleAttachedWindowAtPoint(const std::optional<QString> &text, const BalloonExtras &extras = {});
     bool isShown() const { return attachedWindow != nullptr; }
 
-private:
-    std::unique_ptr<Balloon> show(const QString &text, const std::optional<QRect> &iconFrame);
-    std::unique_ptr<Balloon> showWindow(const QString &text, const std::optional<QRect> &iconFrame);
+    /// Closes the balloon, but not under the pointer: then as soon as that has left it.
+    /// @param closed  called when it has been closed, in whatever way; at once when none is shown
+    void dismiss(std::function<void()> closed);
+    /// Takes back the notification that is left of the last balloon.
+    void withdraw();
 
-    Notifications *m_notifications;
-    const std::function<bool()> m_isScreenComposited;
-    const std::function<std::optional<QRect>()> m_iconFrame;
+private:
+    void close();
+    std::unique_ptr<Balloon> show(const QString &text, const BalloonExtras &extras);
+    std::unique_ptr<Balloon> showWindow(const QString &text, const std::optional<QRect> &iconFrame);
+    void listenTo(const OvAttachedWindow &window);
+
+    const Surroundings m_with;
     std::unique_ptr<QWidget> balloonView_;
     QLabel *ballooonTextField_ = nullptr;
+    std::function<void()> m_closed; ///< told when the balloon that is being dismissed has been closed
+    QObject m_context; ///< what is queued for it ends with the presenter
     std::unique_ptr<Balloon> attachedWindow; ///< the balloon while it is shown
 };
 

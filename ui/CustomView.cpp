@@ -3,7 +3,6 @@
 #include "platform/SystemLog.h"
 #include "ui/Images.h"
 
-#include <QAction>
 #include <QEnterEvent>
 
 namespace tarvo {
@@ -12,17 +11,10 @@ using namespace Qt::StringLiterals;
 
 CustomView::CustomView(SystemLog &systemLog)
     : systemLog_(systemLog)
-    , tipAction_(new QAction(this))
-    , separator_(new QAction(this))
 {
     setFlat(true);
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(u"Tarvo"_s);
-    tipAction_->setEnabled(false);
-    tipAction_->setVisible(false);
-    separator_->setSeparator(true);
-    separator_->setVisible(false);
-    addActions({tipAction_, separator_});
 }
 
 void CustomView::setImage(const QString &name)
@@ -40,9 +32,6 @@ void CustomView::setTip(const QString &tip)
         return;
     setToolTip(tip);
     setAccessibleDescription(tip);
-    tipAction_->setText(QString(tip).replace(u'&', u"&&"_s)); // a lone one would underline the next letter
-    tipAction_->setVisible(!tip.isEmpty());
-    separator_->setVisible(!tip.isEmpty());
     Q_EMIT appearanceChanged();
 }
 

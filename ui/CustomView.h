@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QString>
 
-class QAction;
 class QEnterEvent;
 
 namespace tarvo {
@@ -11,8 +10,6 @@ namespace tarvo {
 class SystemLog;
 
 /// The icon's button. It shows an image by name, without a border, and tells when the pointer comes over it.
-///
-/// Its actions are the icon's context menu. The first, which cannot be chosen, is the tool tip's text, while there is one.
 class CustomView : public QPushButton {
     Q_OBJECT
 
@@ -40,8 +37,6 @@ protected:
 private:
     SystemLog &systemLog_;
     QString image_;
-    QAction *tipAction_;
-    QAction *separator_;
 };
 
 } // namespace tarvo

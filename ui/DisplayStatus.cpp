@@ -1,11 +1,8 @@
 #include "ui/DisplayStatus.h"
 
-#include <QCoreApplication>
-#include <QLocale>
-#include <QStringList>
+#include "ui/DataAmounts.h"
 
-#include <algorithm>
-#include <cmath>
+#include <QCoreApplication>
 
 namespace tarvo {
 
@@ -87,14 +84,6 @@ DisplayStatus evaluateDataLimit(const StatusSnapshot &snapshot, const DataLimitN
     return status;
 }
 
-/// @return how many decimals leave @p number three digits
-int decimalsFor(double number)
-{
-    if (number >= 99.95)
-        return 0;
-    return number >= 9.995 ? 1 : 2;
-}
-
 } // namespace
 
 DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore)
@@ -107,22 +96,6 @@ DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool
     if (snapshot.haveNewVersionFlag_ || snapshot.haveDataLimitFlag_)
         return {};
     return {.tip = QString()};
-}
-
-QString dataAmount(double gigabytes)
-{
-    constexpr double gigabyte = 1024.0 * 1024.0 * 1024.0;
-    constexpr double mostGigabytes = 1e9; // in bytes still far from the largest integer
-    const QLocale locale;
-    if (!(std::abs(gigabytes) <= mostGigabytes))
-        return locale.toString(gigabytes, 'g', 3) + u" GB"_s;
-    const double bytes = std::abs(gigabytes) * gigabyte;
-    double unit = 1;
-    while (std::round(bytes / unit) >= 1024) // what rounding makes 1024 of a unit is one of the next
-        unit *= 1024;
-    const int decimals = unit == 1 ? 0 : decimalsFor(bytes / unit);
-    const qint64 whole = std::llround(unit == 1 ? bytes : std::max(bytes, unit));
-    return locale.formattedDataSize(gigabytes < 0 ? -whole : whole, decimals, QLocale::DataSizeTraditionalFormat);
 }
 
 } // namespace tarvo

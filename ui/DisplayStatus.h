@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <array>
 #include <optional>
 
 namespace tarvo {
@@ -15,6 +16,10 @@ inline constexpr int ThreeDayLimitExceeded = 6;
 inline constexpr int MonthlyLimitExceeded = 7;
 inline constexpr int MonthlyLimitReached = 8;
 } // namespace DisplayType
+
+/// All of them, in that order.
+inline constexpr std::array displayTypes{DisplayType::NewVersion, DisplayType::ThreeDayLimitExceeded,
+                                         DisplayType::MonthlyLimitExceeded, DisplayType::MonthlyLimitReached};
 
 /// What one kind of news asks for.
 struct DisplayStatus {
@@ -36,9 +41,5 @@ struct DisplayStatus {
 /// @param seenBefore  whether these news were there at the last evaluation
 /// @return what @p snapshot, of a modem that is there, asks for
 DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore);
-
-/// @return @p gigabytes, of 2^30 bytes, as an amount in the user's language, in the unit that suits its size, with
-///         three digits that count
-QString dataAmount(double gigabytes);
 
 } // namespace tarvo

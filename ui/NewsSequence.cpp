@@ -1,8 +1,8 @@
 #include "ui/NewsSequence.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "attachment/Latch.h"
 #include "modemapi/StatusSnapshot.h"
-#include "platform/Clock.h"
 #include "platform/StepQueue.h"
 #include "platform/SystemLog.h"
 #include "ui/BalloonPresenter.h"
@@ -10,6 +10,12 @@
 #include "ui/StatusIcon.h"
 #include "ui/UpdateAlert.h"
 #include "ui/WebPages.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace tarvo {
 
@@ -21,9 +27,11 @@ NewsSequence::NewsSequence(const Surroundings &surroundings)
 {
 }
 
+NewsSequence::~NewsSequence() = default;
+
 void NewsSequence::mouseEnteredHandle(const Work *work)
 {
-    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || startDisplayFlowing_.exchange(true)) {
+    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || !begin()) {
         m_with.systemLog.write(u"already dislaystatus or no need display"_s);
         return;
     }
@@ -36,58 +44,160 @@ void NewsSequence::mouseEnteredHandle(const Work *work)
 
 void NewsSequence::startDisPlayUIStatusThread(const Work &work)
 {
-    if (!startDisplayFlowing_.exchange(true))
+    if (begin())
         start(work);
+}
+
+void NewsSequence::showNormalState(const Work &work)
+{
+    const QString normal = u"online"_s;
+    bool changed = false;
+    work.whileAttached([&] {
+        changed = std::exchange(m_shownImage, normal) != normal;
+        m_image = normal;
+    });
+    if (changed)
+        work.post(m_with.mainThread, [this, normal] { m_with.icon.setStatusImage(normal); });
+}
+
+bool NewsSequence::startDisplayFlowing() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return isFlowing();
+}
+
+bool NewsSequence::isFlowing() const
+{
+    return startDisplayFlowing_ && (m_hasThread || m_with.clock.now() < m_emptySequenceEnds);
+}
+
+bool NewsSequence::begin()
+{
+    const std::scoped_lock lock(m_mutex);
+    if (isFlowing())
+        return false;
+    startDisplayFlowing_ = true;
+    m_hasThread = true;
+    return true;
 }
 
 void NewsSequence::start(const Work &work)
 {
-    if (!work.start([this](const Work &own) { displayUIStatus(own); }))
-        startDisplayFlowing_ = false;
+    if (!hasNews(work))
+        runWithoutNews(work);
+    else if (!work.start([this](const Work &own) { displayUIStatus(own); }))
+        endSequence();
+}
+
+bool NewsSequence::hasNews(const Work &work) const
+{
+    bool found = false;
+    work.whileAttached([&] {
+        const StatusSnapshot snapshot = m_with.snapshot.get();
+        found = !stopProcModemStatus_ && std::ranges::any_of(displayTypes, [&](int type) {
+            return !evaluateDisplayType(snapshot, type, m_previous.*previousOf(type)).balloonText.isEmpty();
+        });
+    });
+    return found;
+}
+
+void NewsSequence::runWithoutNews(const Work &work)
+{
+    constexpr auto duration = 2s * displayTypes.size();
+    for (const int type : displayTypes)
+        evaluate(work, type);
+    showImageAtEnd(work);
+    statusDisplayFlowFinishFlag_ = true;
+    const std::scoped_lock lock(m_mutex);
+    m_hasThread = false;
+    m_emptySequenceEnds = m_with.clock.now() + duration;
 }
 
 void NewsSequence::displayUIStatus(const Work &work)
 {
-    for (const int type : {DisplayType::NewVersion, DisplayType::ThreeDayLimitExceeded,
-                           DisplayType::MonthlyLimitExceeded, DisplayType::MonthlyLimitReached})
+    for (const int type : displayTypes)
         displayNews(work, type);
+    showImageAtEnd(work);
     endSequence();
 }
 
 void NewsSequence::endSequence()
 {
     statusDisplayFlowFinishFlag_ = true;
+    const std::scoped_lock lock(m_mutex);
     startDisplayFlowing_ = false;
+    m_hasThread = false;
 }
 
 void NewsSequence::displayNews(const Work &work, int type)
 {
-    const QString text = getDisplayStatusByType(work, type);
-    if (!text.isEmpty()) {
+    const std::stop_token gone = deviceGone();
+    const DisplayStatus status = evaluate(work, type);
+    if (!status.balloonText.isEmpty()) {
         statusDisplayFlowFinishFlag_ = false;
-        work.post(m_with.mainThread, [this, text] {
-            if (m_with.balloon.isShown())
-                m_with.balloon.toggleAttachedWindowAtPoint(text);
-            m_with.balloon.toggleAttachedWindowAtPoint(text);
-        });
-        pause(work, 3s);
-        closeBalloon(text);
+        if (showBalloon(work, status, type)) {
+            pause(gone, 3s);
+            closeBalloon(gone);
+        }
     }
-    pause(work, 2s);
+    pause(work.stopToken(), 2s);
 }
 
-void NewsSequence::closeBalloon(const QString &text)
+bool NewsSequence::showBalloon(const Work &work, const DisplayStatus &status, int type)
 {
-    // A device that replaced this one meanwhile must not inherit the balloon: closing it is not tied to ours.
-    m_with.mainThread.post([this, text] {
-        if (m_with.balloon.isShown() && !stopProcModemStatus_)
-            m_with.balloon.toggleAttachedWindowAtPoint(text);
+    const bool firmware = type == DisplayType::NewVersion;
+    const StandingNews news{status.balloonText, firmware ? Page::Firmware : Page::DataLimit};
+    const BalloonExtras extras{.title = firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
+                                          .openLabel = qtTrId("NewsOpen")};
+    work.whileAttached([&] { m_shownImage = status.image; });
+    const auto shown = std::make_shared<Latch>();
+    work.post(m_with.mainThread, [this, status, news, extras, shown] {
+        m_with.icon.setStatusImage(status.image);
+        if (m_with.balloon.isShown())
+            m_with.balloon.toggleAttachedWindowAtPoint(news.text);
+        const bool leads = m_with.pages.clickPage() != Page::None;
+        m_with.balloon.toggleAttachedWindowAtPoint(
+            news.text, leads ? extras : BalloonExtras{.title = extras.title});
+        if (status.announcesUpdate)
+            m_with.updateAlert.showAlertMsgForUpdate();
+        if (m_with.told)
+            m_with.told(news);
+        shown->open();
     });
+    return shown->wait(work.stopToken());
 }
 
-void NewsSequence::pause(const Work &work, std::chrono::seconds duration)
+void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
 {
-    m_with.clock.waitUntil(m_with.clock.now() + duration, work.stopToken());
+    const auto closed = std::make_shared<Latch>();
+    // A second report of the device must not leave the balloon: closing it is tied to no work.
+    m_with.mainThread.post([this, closed, deviceGone] {
+        if (!deviceGone.stop_requested())
+            m_with.balloon.dismiss([closed] { closed->open(); });
+    });
+    closed->wait(deviceGone);
+}
+
+void NewsSequence::showImageAtEnd(const Work &work)
+{
+    QString image;
+    work.whileAttached([&] {
+        if (m_shownImage != m_image)
+            image = m_shownImage = m_image;
+    });
+    if (!image.isEmpty())
+        work.post(m_with.mainThread, [this, image] { m_with.icon.setStatusImage(image); });
+}
+
+std::stop_token NewsSequence::deviceGone() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_deviceGone.get_token();
+}
+
+void NewsSequence::pause(const std::stop_token &stop, std::chrono::seconds duration)
+{
+    m_with.clock.waitUntil(m_with.clock.now() + duration, stop);
 }
 
 bool NewsSequence::PreviousNews::*NewsSequence::previousOf(int type)
@@ -108,6 +218,11 @@ bool NewsSequence::PreviousNews::*NewsSequence::previousOf(int type)
 
 QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
 {
+    return evaluate(work, type).balloonText;
+}
+
+DisplayStatus NewsSequence::evaluate(const Work &work, int type)
+{
     DisplayStatus status;
     bool PreviousNews::*const previous = previousOf(type);
     m_with.snapshot.update(work, [&](StatusSnapshot &snapshot) {
@@ -116,32 +231,31 @@ QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
         status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
         if (previous)
             m_previous.*previous = status.isNews;
+        if (!status.image.isEmpty())
+            m_image = status.image;
         m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
         snapshot.m_surplusData = status.surplus.value_or(snapshot.m_surplusData);
     });
-    work.post(m_with.mainThread, [this, status] { show(status); });
-    return status.balloonText;
-}
-
-void NewsSequence::show(const DisplayStatus &status)
-{
-    if (!status.image.isEmpty())
-        m_with.icon.setStatusImage(status.image);
-    if (status.tip)
-        m_with.icon.setStatusToolTip(*status.tip);
-    if (status.announcesUpdate)
-        m_with.updateAlert.showAlertMsgForUpdate();
+    return status;
 }
 
 void NewsSequence::resetForReadyDevice()
 {
     stopProcModemStatus_ = false;
+    m_image.clear();
+    m_shownImage.clear();
 }
 
 void NewsSequence::resetForStop()
 {
     stopProcModemStatus_ = true;
     m_previous = {};
+    m_image.clear();
+    m_shownImage.clear();
+    const std::scoped_lock lock(m_mutex);
+    m_deviceGone.request_stop();
+    m_deviceGone = {};
+    m_emptySequenceEnds = {};
 }
 
 } // namespace tarvo

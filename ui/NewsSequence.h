@@ -1,16 +1,20 @@
 #pragma once
 
 #include "attachment/Attachment.h"
+#include "platform/Clock.h"
+#include "ui/CompanionStatus.h"
 
 #include <QString>
 
 #include <atomic>
 #include <chrono>
+#include <functional>
+#include <mutex>
+#include <stop_token>
 
 namespace tarvo {
 
 class BalloonPresenter;
-class Clock;
 class SharedSnapshot;
 class StatusIcon;
 class StepQueue;
@@ -21,7 +25,10 @@ struct DisplayStatus;
 
 /// Tells the user the news, one after the other, by icon, tool tip and balloon, and knows what was shown before.
 ///
-/// A sequence runs on a display thread of its own, for one modem; at most one runs at a time.
+/// A sequence runs for one modem; at most one runs at a time. One that has something new to tell runs on a display thread
+/// of its own; one that has not does what it has to do at once, and takes the same time without a thread.
+///
+/// Only news that are new change the icon one by one. Those that stand are seen by the image that the sequence ends with.
 class NewsSequence {
 public:
     /// What the sequence shows the news with. All of it outlives the sequence, and is used on the main thread only, but
@@ -35,23 +42,31 @@ public:
         StepQueue &mainThread;
         Clock &clock;
         SystemLog &systemLog;
+        /// Told of each piece of news that a balloon tells.
+        std::function<void(const StandingNews &news)> told{};
     };
 
     explicit NewsSequence(const Surroundings &surroundings);
+    /// No sequence may run any more, nor be waited for.
+    ~NewsSequence();
+    NewsSequence(const NewsSequence &) = delete;
+    NewsSequence &operator=(const NewsSequence &) = delete;
 
     /// The pointer came over the icon: starts a sequence unless one runs (main thread).
     /// @param work  for the modem that is there; null when there is none, and so nothing to tell
     void mouseEnteredHandle(const Work *work);
     /// Starts a sequence unless one runs (any thread).
     void startDisPlayUIStatusThread(const Work &work);
+    /// No notice is pending: the icon shows "online", unless it does so already (any thread).
+    void showNormalState(const Work &work);
     /// The sequence itself (display thread).
     void displayUIStatus(const Work &work);
-    /// Brings icon, tip and click targets up to date for one display type, 5 to 8 (display thread).
+    /// Brings the click targets up to date for one display type, 5 to 8, and keeps what was seen (the sequence's thread).
     /// @return the text that the balloon must show now; empty for none
     QString getDisplayStatusByType(const Work &work, int type);
 
     /// @return whether a sequence runs or has been asked for
-    bool startDisplayFlowing() const { return startDisplayFlowing_; }
+    bool startDisplayFlowing() const;
     /// @return whether the last sequence has run to its end
     bool statusDisplayFlowFinishFlag() const { return statusDisplayFlowFinishFlag_; }
     /// @return whether there is no device whose news could be told
@@ -59,7 +74,8 @@ public:
 
     /// A device became ready: its news may be told (main thread, when no work is under way).
     void resetForReadyDevice();
-    /// The device is gone: nothing has been shown of the next one (main thread, when no work is under way).
+    /// The device is gone: what is shown of it ends, and nothing has been shown of the next one (main thread, when no work
+    /// is under way).
     void resetForStop();
 
 private:
@@ -76,19 +92,37 @@ private:
     };
 
     static bool PreviousNews::*previousOf(int type);
+    bool isFlowing() const; ///< with the mutex held
+    /// @return whether a sequence may start now; it counts as started then
+    bool begin();
     void start(const Work &work);
     void endSequence();
+    bool hasNews(const Work &work) const;
+    /// Evaluates all types without showing one after the other, and takes the time of a sequence from now on.
+    void runWithoutNews(const Work &work);
+    DisplayStatus evaluate(const Work &work, int type);
     /// One step of the sequence: shows what is new for one display type, then waits.
     void displayNews(const Work &work, int type);
-    void closeBalloon(const QString &text);
-    void show(const DisplayStatus &status);
-    void pause(const Work &work, std::chrono::seconds duration);
+    /// Shows the balloon of @p status. @return whether it came onto the screen
+    bool showBalloon(const Work &work, const DisplayStatus &status, int type);
+    /// Closes the balloon, and waits until it is closed.
+    void closeBalloon(const std::stop_token &deviceGone);
+    void showImageAtEnd(const Work &work);
+    std::stop_token deviceGone() const;
+    void pause(const std::stop_token &stop, std::chrono::seconds duration);
 
     const Surroundings m_with;
-    std::atomic<bool> startDisplayFlowing_{false};
+    mutable std::mutex m_mutex; ///< guards the next four
+    bool startDisplayFlowing_ = false;
+    Clock::TimePoint m_emptySequenceEnds{}; ///< when a sequence that runs without a thread is over
+    bool m_hasThread = false; ///< the sequence that runs has a thread
+    std::stop_source m_deviceGone; ///< a second ready report of the same device does not cut a balloon short
     std::atomic<bool> statusDisplayFlowFinishFlag_{true};
     std::atomic<bool> stopProcModemStatus_{true};
     PreviousNews m_previous;
+    // Touched on behalf of the present attachment only.
+    QString m_image; ///< the last image that was asked for; empty for none
+    QString m_shownImage; ///< the last one that was shown
 };
 
 } // namespace tarvo

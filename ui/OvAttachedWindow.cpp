@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QRegion>
 #include <QScreen>
@@ -223,6 +224,18 @@ void OvAttachedWindow::redisplay()
     updateGeometry();
     updateBackground();
     resizing_ = false;
+}
+
+void OvAttachedWindow::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    Q_EMIT pointerLeft();
+}
+
+void OvAttachedWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        Q_EMIT clicked();
 }
 
 void OvAttachedWindow::closeEvent(QCloseEvent *event)

@@ -17,6 +17,8 @@ namespace tarvo {
 /// the window that is given with them, global ones without a window. The side is chosen once; only the setters and a
 /// resize lay the balloon out again.
 class OvAttachedWindow : public QWidget {
+    Q_OBJECT
+
 public:
     /// @param view      the content, which is shown in the balloon as long as that lives and stays the caller's; null
     ///                  gives no balloon
@@ -57,7 +59,15 @@ public:
     /// and cut to its outline. To be set before it is shown.
     void setTranslucent(bool translucent);
 
+Q_SIGNALS:
+    /// The user has clicked the balloon.
+    void clicked();
+    /// The pointer has left the balloon.
+    void pointerLeft();
+
 protected:
+    void leaveEvent(QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

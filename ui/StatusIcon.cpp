@@ -1,11 +1,9 @@
 #include "ui/StatusIcon.h"
 
 #include "RouterObserver/ConfigManager.h"
-#include "ui/AboutDialog.h"
 #include "ui/CustomView.h"
 
-#include <QAction>
-#include <QMessageBox>
+#include <QApplication>
 #include <QTimer>
 
 #include <chrono>
@@ -16,9 +14,10 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, Actions actions)
+StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Actions actions)
     : m_statusBar(statusBar)
     , m_systemLog(systemLog)
+    , m_menu(menu)
     , m_actions(std::move(actions))
 {
 }
@@ -49,7 +48,6 @@ void StatusIcon::showRemoval()
         return;
     }
     setStatusImage(u"ready"_s);
-    setStatusToolTip(QString());
 }
 
 void StatusIcon::createStatusItems(const QString &imageName)
@@ -58,13 +56,14 @@ void StatusIcon::createStatusItems(const QString &imageName)
     statusItem_ = m_statusBar.createItem(squareStatusItemLength);
     cview_ = std::make_unique<CustomView>(m_systemLog);
     cview_->setImage(imageName);
-    addMenuActions();
-    QObject::connect(cview_.get(), &CustomView::clicked, &m_context, m_actions.click);
+    cview_->setTip(m_toolTip);
+    QObject::connect(cview_.get(), &CustomView::clicked, &m_context, [this] { clicked(); });
     QObject::connect(cview_.get(), &CustomView::mouseEntered, &m_context, m_actions.pointerEntered);
     QObject::connect(cview_.get(), &CustomView::appearanceChanged, &m_context, [this] {
         if (statusItem_)
             statusItem_->viewChanged();
     });
+    statusItem_->setMenu(&m_menu);
     statusItem_->setView(cview_.get());
 }
 
@@ -74,27 +73,12 @@ void StatusIcon::removeStatusItems()
     statusDisplay_.reset();
 }
 
-void StatusIcon::addMenuActions()
+void StatusIcon::clicked()
 {
-    const auto add = [this](const QString &text, const std::function<void()> &operation) {
-        auto *action = new QAction(text, cview_.get());
-        QObject::connect(action, &QAction::triggered, &m_context, operation);
-        cview_->addAction(action);
-    };
-    add(qtTrId("MenuOpenModemPage"), m_actions.openModemPage);
-    if (configurationText(u"WebUISmsPage"_s))
-        add(qtTrId("MenuOpenMessages"), m_actions.openMessages);
-    add(qtTrId("MenuAbout"), [this] { showAbout(); });
-    add(qtTrId("MenuQuit"), m_actions.quit);
-}
-
-void StatusIcon::showAbout()
-{
-    if (!m_aboutDialog)
-        m_aboutDialog = makeAboutDialog();
-    m_aboutDialog->show();
-    m_aboutDialog->raise();
-    m_aboutDialog->activateWindow();
+    const bool second = m_lastClick.isValid() && !m_lastClick.hasExpired(QApplication::doubleClickInterval());
+    m_lastClick.start();
+    if (!second)
+        m_actions.click();
 }
 
 void StatusIcon::setStatusImage(const QString &name)
@@ -105,8 +89,14 @@ void StatusIcon::setStatusImage(const QString &name)
 
 void StatusIcon::setStatusToolTip(const QString &toolTip)
 {
+    m_toolTip = toolTip;
     if (cview_)
         cview_->setTip(toolTip);
+}
+
+QString StatusIcon::image() const
+{
+    return cview_ ? cview_->image() : u"ready"_s;
 }
 
 std::optional<QRect> StatusIcon::frame() const

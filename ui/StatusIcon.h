@@ -2,6 +2,7 @@
 
 #include "platform/StatusBar.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 
@@ -9,7 +10,6 @@
 #include <memory>
 #include <optional>
 
-class QMessageBox;
 class QTimer;
 
 namespace tarvo {
@@ -22,15 +22,12 @@ class StatusIcon {
 public:
     /// What the user does with the icon. Each is called on the main thread.
     struct Actions {
-        std::function<void()> click;
+        std::function<void()> click; ///< a double click is one click
         std::function<void()> pointerEntered;
-        std::function<void()> openModemPage;
-        std::function<void()> openMessages;
-        std::function<void()> quit;
     };
 
-    /// @param statusBar, systemLog  outlive the icon
-    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, Actions actions);
+    /// @param statusBar, systemLog, menu  outlive the icon
+    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Actions actions);
     ~StatusIcon();
     StatusIcon(const StatusIcon &) = delete;
     StatusIcon &operator=(const StatusIcon &) = delete;
@@ -39,13 +36,16 @@ public:
     void startToolbarStatus();
     /// Polling starts: the icon is there, and shows "online", where the settings want it.
     void showPolling();
-    /// The modem is gone: the icon shows "ready" without a tip, or goes along, as the settings say.
+    /// The modem is gone: the icon shows "ready", or goes along, as the settings say.
     void showRemoval();
 
     /// Shows the image named @p name; nothing without an icon.
     void setStatusImage(const QString &name);
-    /// Sets the tool tip; nothing without an icon.
+    /// Sets the tool tip, of this icon and of one that comes later.
     void setStatusToolTip(const QString &toolTip);
+
+    /// @return the name of the image that is shown; "ready" without an icon
+    QString image() const;
 
     /// @return where the icon is, in global coordinates with y downwards; nil when that is not known
     std::optional<QRect> frame() const;
@@ -58,11 +58,11 @@ public:
 private:
     void createStatusItems(const QString &imageName);
     void removeStatusItems();
-    void addMenuActions();
-    void showAbout();
+    void clicked();
 
     StatusBar &m_statusBar;
     SystemLog &m_systemLog;
+    QMenu &m_menu;
     const Actions m_actions;
     QObject m_context; ///< what is connected to it ends with the icon
 
@@ -70,7 +70,8 @@ private:
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<StatusItem> statusDisplay_;
     std::unique_ptr<QTimer> firstStatusTimer_;
-    std::unique_ptr<QMessageBox> m_aboutDialog;
+    QString m_toolTip;
+    QElapsedTimer m_lastClick;
 };
 
 } // namespace tarvo

@@ -1,11 +1,14 @@
 #include "ui/UpdateAlert.h"
 
+#include "RouterObserver/ConfigManager.h"
 #include "ui/AlertPanelController.h"
 #include "ui/WebPages.h"
 
 #include <QCoreApplication>
 
 namespace tarvo {
+
+using namespace Qt::StringLiterals;
 
 UpdateAlert::UpdateAlert(WebPages &pages)
     : m_pages(pages)
@@ -19,8 +22,16 @@ void UpdateAlert::showAlertMsgForUpdate()
         QObject::connect(m_panel.get(), &AlertPanelController::pageWanted, &m_context,
                          [this](const QString &page) { m_pages.openPage(page); });
     }
-    m_panel->runAlertPanelTitle(qtTrId("updateTitleTip"), qtTrId("updateMsgTip"), qtTrId("updateButtonTip"),
-                                std::nullopt);
+    const bool hasPage = configurationText(u"FotaNewVersionHomePage"_s).has_value();
+    m_panel->runAlertPanelTitle(qtTrId("updateTitleTip"),
+                                hasPage ? qtTrId("updateMsgTip") : qtTrId("HaveNewVersionTipWhenConnected"),
+                                hasPage ? qtTrId("updateButtonTip") : qtTrId("updateButtonOk"), std::nullopt);
+}
+
+void UpdateAlert::close()
+{
+    if (m_panel)
+        m_panel->wndAlert().hide();
 }
 
 } // namespace tarvo

@@ -15,8 +15,10 @@ public:
     /// @param pages  opens the page that the panel's button asks for; outlives this object
     explicit UpdateAlert(WebPages &pages);
 
-    /// Shows the update panel; returns at once.
+    /// Shows the update panel; returns at once. Without a configured page it promises none.
     void showAlertMsgForUpdate();
+    /// Hides the panel: its modem is gone.
+    void close();
 
 private:
     WebPages &m_pages;

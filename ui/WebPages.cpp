@@ -8,6 +8,7 @@
 #include "ui/ModemMainState.h"
 #include "ui/WebUIRule.h"
 
+#include <QMap>
 #include <QUrl>
 
 #include <utility>
@@ -25,11 +26,13 @@ QString serverOf(const QString &router)
 
 } // namespace
 
-WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router)
+WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
+                   CouldNotOpen couldNotOpen)
     : m_workspace(workspace)
     , m_snapshot(snapshot)
     , m_mainThread(mainThread)
     , m_router(std::move(router))
+    , m_couldNotOpen(std::move(couldNotOpen))
 {
 }
 
@@ -60,8 +63,46 @@ void WebPages::openDateLimitPage()
 
 void WebPages::openWebUI()
 {
-    if (const auto router = m_router())
-        openPage(serverOf(*router));
+    open(Page::Modem);
+}
+
+void WebPages::open(Page page)
+{
+    if (const auto there = address(page))
+        openPage(*there);
+}
+
+Page WebPages::clickPage() const
+{
+    Page page = Page::Home;
+    if (openUpdateUrlWhileHasNewVersion_)
+        page = Page::Firmware;
+    else if (m_snapshot.get().haveDataLimitFlag_)
+        page = Page::DataLimit;
+    return address(page) ? page : Page::None;
+}
+
+std::optional<QString> WebPages::address(Page page) const
+{
+    if (page == Page::Modem) {
+        const auto router = m_router();
+        return router ? std::optional(serverOf(*router)) : std::nullopt;
+    }
+    static const QMap<Page, QString> modules{{Page::Home, u"OperatorHomePage"_s},
+                                             {Page::Firmware, u"FotaNewVersionHomePage"_s},
+                                             {Page::DataLimit, u"DateLimitHomePage"_s}};
+    const auto configured = configurationText(modules.value(page));
+    return configured ? withRouter(*configured) : std::nullopt;
+}
+
+/// @return @p page with the modem's address in the place of "%@"; nil when it needs one and there is no modem
+std::optional<QString> WebPages::withRouter(const QString &page) const
+{
+    const QString placeholder = u"%@"_s;
+    if (!page.contains(placeholder))
+        return page;
+    const auto router = m_router();
+    return router ? std::optional(QString(page).replace(placeholder, *router)) : std::nullopt;
 }
 
 void WebPages::openConfiguredPage(const QString &module)
@@ -72,9 +113,12 @@ void WebPages::openConfiguredPage(const QString &module)
 
 void WebPages::openPage(const QString &page)
 {
-    const QUrl url(page, QUrl::StrictMode);
-    if (url.isValid() && !url.isRelative())
-        m_workspace.openURL(url);
+    const auto address = withRouter(page);
+    if (!address)
+        return;
+    const QUrl url(*address, QUrl::StrictMode);
+    if (!url.isValid() || url.isRelative() || !m_workspace.openURL(url))
+        m_couldNotOpen(*address);
 }
 
 void WebPages::openPageFor(const Work &work, const QString &page)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modemapi/StatusSnapshot.h"
+#include "ui/CompanionStatus.h"
 
 #include <QString>
 
@@ -23,10 +24,13 @@ class WebPages {
 public:
     /// @return the address of the modem that is plugged in; nil when there is none
     using Router = std::function<std::optional<QString>()>;
+    /// Told of a page that could not be opened, on the main thread.
+    using CouldNotOpen = std::function<void(const QString &page)>;
 
     /// Everything referred to outlives this object.
     /// @param mainThread  carries the opening of pages to the main thread
-    WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router);
+    WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
+             CouldNotOpen couldNotOpen);
 
     /// The icon's click: opens the page that the news calls for.
     void openHomepage();
@@ -35,8 +39,13 @@ public:
     void openDateLimitPage();
     /// Opens the modem's own web server; nothing when no modem is there.
     void openWebUI();
-    /// Opens @p page in the user's browser; a text that is no URL opens nothing.
+    /// Opens @p page in the user's browser. "%@" in it stands for the modem's address.
     void openPage(const QString &page);
+    /// Opens the page of that kind; nothing when there is none.
+    void open(Page page);
+
+    /// @return the page that the icon's click opens; `None` when it would open nothing
+    Page clickPage() const;
 
     /// Opens the modem's pages once for each plug-in, when @p content says that the user has to enter something there
     /// (polling worker).
@@ -61,6 +70,9 @@ public:
     void openApp();
 
 private:
+    /// @return the address of the page of that kind; nil when there is none at present
+    std::optional<QString> address(Page page) const;
+    std::optional<QString> withRouter(const QString &page) const;
     /// Opens the page configured as @p module; nothing when there is none.
     void openConfiguredPage(const QString &module);
     /// Asks the modem for its default access point. @return whether the user has to complete it
@@ -73,6 +85,7 @@ private:
     const SharedSnapshot &m_snapshot;
     StepQueue &m_mainThread;
     const Router m_router;
+    const CouldNotOpen m_couldNotOpen;
 
     std::atomic<bool> hasOpenedWebUI_{false}; ///< the modem's pages were opened by themselves
     std::atomic<bool> openUpdateUrlWhileHasNewVersion_{false}; ///< a click opens the firmware page

@@ -27,6 +27,7 @@ public:
 
     bool available() const override { return m_running || m_startable; }
     void show(const Notification &notification, std::function<void()> failed) override;
+    void forgetFailure() override { m_failed = {}; }
     void close() override;
 
 private:

@@ -28,6 +28,13 @@ public:
         m_notifierItem->setView(view);
     }
 
+    void setMenu(QMenu *menu) override
+    {
+        if (m_trayItem)
+            m_trayItem->setMenu(menu);
+        m_notifierItem->setMenu(menu);
+    }
+
     void viewChanged() override { m_notifierItem->viewChanged(); }
     void setTitle(const QString &) override { } // neither kind of bar has room for a text
 

@@ -16,14 +16,13 @@ namespace {
 struct Mirror {
     QList<QImage> images; ///< the icon, at every size that panels use
     QString toolTip;
-    QList<QAction *> actions;
 
     bool operator==(const Mirror &) const = default;
 };
 
 Mirror mirrorOf(const QAbstractButton &view)
 {
-    Mirror mirror{.images = {}, .toolTip = view.toolTip(), .actions = view.actions()};
+    Mirror mirror{.images = {}, .toolTip = view.toolTip()};
     for (const int side : {16, 22, 24, 32, 48, 64})
         mirror.images.append(view.icon().pixmap(QSize(side, side), 1.0).toImage());
     return mirror;
@@ -32,7 +31,8 @@ Mirror mirrorOf(const QAbstractButton &view)
 /// One icon in the host's bar, which shows a mirror. The host is told only of what differs from before.
 class MirroredIcon {
 public:
-    explicit MirroredIcon(const Mirror &mirror);
+    /// @param menu  outlives the icon; may be null
+    MirroredIcon(const Mirror &mirror, QMenu *menu);
     MirroredIcon(const MirroredIcon &) = delete;
     MirroredIcon &operator=(const MirroredIcon &) = delete;
 
@@ -41,16 +41,15 @@ public:
 
 private:
     void setImages(const QList<QImage> &images);
-    void setActions(const QList<QAction *> &actions);
 
     Mirror m_mirror;
-    QMenu m_menu; // outlives the icon, which exports it
     QSystemTrayIcon m_icon;
 };
 
-MirroredIcon::MirroredIcon(const Mirror &mirror)
+MirroredIcon::MirroredIcon(const Mirror &mirror, QMenu *menu)
 {
     apply(mirror);
+    m_icon.setContextMenu(menu);
     m_icon.show();
 }
 
@@ -60,8 +59,6 @@ void MirroredIcon::apply(const Mirror &mirror)
         setImages(mirror.images);
     if (mirror.toolTip != m_mirror.toolTip)
         m_icon.setToolTip(mirror.toolTip);
-    if (mirror.actions != m_mirror.actions)
-        setActions(mirror.actions);
     m_mirror = mirror;
 }
 
@@ -74,13 +71,6 @@ void MirroredIcon::setImages(const QList<QImage> &images)
     m_icon.setIcon(icon);
 }
 
-void MirroredIcon::setActions(const QList<QAction *> &actions)
-{
-    m_menu.clear();
-    m_menu.addActions(actions);
-    m_icon.setContextMenu(actions.isEmpty() ? nullptr : &m_menu);
-}
-
 } // namespace
 
 class NotifierStatusBar::Item final : public StatusItem {
@@ -91,6 +81,7 @@ public:
     Item &operator=(const Item &) = delete;
 
     void setView(QAbstractButton *view) override;
+    void setMenu(QMenu *menu) override { m_menu = menu; }
     void viewChanged() override;
     void setTitle(const QString &) override { }
     std::optional<QRect> frame() const override { return std::nullopt; }
@@ -102,6 +93,7 @@ private:
 
     NotifierStatusBar &m_bar;
     QPointer<QAbstractButton> m_view;
+    QMenu *m_menu = nullptr;
     std::unique_ptr<MirroredIcon> m_icon;
 };
 
@@ -136,7 +128,7 @@ void NotifierStatusBar::Item::barChanged()
     }
     if (m_icon)
         return viewChanged();
-    m_icon = std::make_unique<MirroredIcon>(mirrorOf(*m_view));
+    m_icon = std::make_unique<MirroredIcon>(mirrorOf(*m_view), m_menu);
     QObject::connect(&m_icon->trayIcon(), &QSystemTrayIcon::activated, m_view,
                      [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
 }

@@ -30,24 +30,24 @@ QList<ScaledScreen> scaledScreens()
 
 } // namespace
 
-TrayDock::TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &view, int width,
-                   std::function<void()> expelled)
+TrayDock::TrayDock(const XScreen &screen, const XTray &tray, const Contents &contents, std::function<void()> expelled)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::BypassWindowManagerHint)
     , m_screen(screen)
     , m_translucent(tray.translucent)
     , m_vertical(tray.vertical)
-    , m_width(width)
-    , m_view(&view)
+    , m_width(contents.width)
+    , m_view(&contents.view)
     , m_expelled(std::move(expelled))
+    , m_menu(contents.menu)
 {
     setAttribute(Qt::WA_TranslucentBackground, m_translucent);
     setAttribute(Qt::WA_AlwaysShowToolTips);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_QuitOnClose, false);
     // The menu is shown from here, without an event loop of its own: the view may go while it is open.
-    view.setContextMenuPolicy(Qt::NoContextMenu);
-    view.setParent(this);
-    view.show();
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    m_view->setParent(this);
+    m_view->show();
     makeWindow();
     QCoreApplication::instance()->installNativeEventFilter(this);
     requestDock(tray);
@@ -175,10 +175,8 @@ QImage TrayDock::panelBackground() const
 
 void TrayDock::contextMenuEvent(QContextMenuEvent *event)
 {
-    m_menu.clear();
-    m_menu.addActions(m_view ? m_view->actions() : QList<QAction *>());
-    if (!m_menu.isEmpty())
-        m_menu.popup(event->globalPos());
+    if (m_menu)
+        m_menu->popup(event->globalPos());
 }
 
 } // namespace tarvo

@@ -19,13 +19,16 @@ namespace tarvo {
 /// button's icon follows. It is shown once the tray has taken it in, so that it is never seen outside.
 class TrayDock final : public QWidget, private QAbstractNativeEventFilter {
 public:
+    struct Contents {
+        QAbstractButton &view; ///< filled in until the dock is destroyed; stays the caller's
+        QMenu *menu; ///< shown on a right click; stays the caller's, may be null
+        int width; ///< wanted, in pixels; a square is wanted when it is not positive
+    };
+
     /// Asks @p tray to take the window in.
-    /// @param view      filled in until the dock is destroyed; stays the caller's
-    /// @param width     wanted, in pixels; a square is wanted when it is not positive
     /// @param expelled  called when the tray has put the window out, or destroyed it; in the middle of an event of
     ///                  the window, so it must not destroy the dock itself
-    TrayDock(const XScreen &screen, const XTray &tray, QAbstractButton &view, int width,
-             std::function<void()> expelled);
+    TrayDock(const XScreen &screen, const XTray &tray, const Contents &contents, std::function<void()> expelled);
     ~TrayDock() override;
     TrayDock(const TrayDock &) = delete;
     TrayDock &operator=(const TrayDock &) = delete;
@@ -55,7 +58,7 @@ private:
     QPointer<QAbstractButton> m_view;
     std::function<void()> m_expelled;
     bool m_docked = false;
-    QMenu m_menu;
+    QMenu *m_menu;
 };
 
 } // namespace tarvo

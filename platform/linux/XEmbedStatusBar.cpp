@@ -20,6 +20,7 @@ public:
     Item &operator=(const Item &) = delete;
 
     void setView(QAbstractButton *view) override;
+    void setMenu(QMenu *menu) override { m_menu = menu; }
     void viewChanged() override { }
     void setTitle(const QString &) override { }
     std::optional<QRect> frame() const override;
@@ -33,6 +34,7 @@ private:
     XEmbedStatusBar &m_bar;
     int m_width;
     QPointer<QAbstractButton> m_view;
+    QMenu *m_menu = nullptr;
     std::unique_ptr<TrayDock> m_dock;
     int m_returnsLeft = returnsToOneTray;
     QObject m_context; ///< what is queued for it ends with the item
@@ -79,7 +81,8 @@ void XEmbedStatusBar::Item::dock()
         QMetaObject::invokeMethod(
             &m_context, [this] { returnToTray(); }, Qt::QueuedConnection);
     };
-    m_dock = std::make_unique<TrayDock>(m_bar.m_screen, *m_bar.m_tray, *m_view, m_width, expelled);
+    m_dock = std::make_unique<TrayDock>(m_bar.m_screen, *m_bar.m_tray, TrayDock::Contents{*m_view, m_menu, m_width},
+                                        expelled);
 }
 
 void XEmbedStatusBar::Item::returnToTray()

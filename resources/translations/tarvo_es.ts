@@ -63,5 +63,216 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message id="StatusNoModem">
+        <source>No modem</source>
+        <translation>Sin módem</translation>
+    </message>
+    <message id="StatusNotSetUp">
+        <source>USB network device %1 is not set up</source>
+        <translation>El dispositivo de red USB %1 no está configurado</translation>
+    </message>
+    <message id="StatusWaitingForAddress">
+        <source>Modem found, waiting for an address</source>
+        <translation>Módem encontrado, esperando una dirección</translation>
+    </message>
+    <message id="StatusNoGateway">
+        <source>Modem found, without a gateway</source>
+        <translation>Módem encontrado, sin puerta de enlace</translation>
+    </message>
+    <message id="StatusModemFound">
+        <source>Modem found</source>
+        <translation>Módem encontrado</translation>
+    </message>
+    <message id="StatusNotAnswering">
+        <source>The modem does not answer</source>
+        <translation>El módem no responde</translation>
+    </message>
+    <message id="StatusNotConnected">
+        <source>Not connected</source>
+        <translation>No conectado</translation>
+    </message>
+    <message id="StatusConnected">
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message id="StatusSimMissing">
+        <source>Not connected: no SIM card</source>
+        <translation>No conectado: no hay tarjeta SIM</translation>
+    </message>
+    <message id="StatusSimDamaged">
+        <source>Not connected: the SIM card is damaged</source>
+        <translation>No conectado: la tarjeta SIM está dañada</translation>
+    </message>
+    <message id="StatusSimNeedsPin">
+        <source>Not connected: the SIM card needs its PIN</source>
+        <translation>No conectado: la tarjeta SIM necesita su PIN</translation>
+    </message>
+    <message id="StatusSimNeedsPuk">
+        <source>Not connected: the SIM card needs its PUK</source>
+        <translation>No conectado: la tarjeta SIM necesita su PUK</translation>
+    </message>
+    <message id="StatusSimLocked">
+        <source>Not connected: the modem is locked to another network</source>
+        <translation>No conectado: el módem está vinculado a otra red</translation>
+    </message>
+    <message id="StatusRoamingOn">
+        <source>roaming on</source>
+        <translation>itinerancia activada</translation>
+    </message>
+    <message id="StatusRoamingOff">
+        <source>roaming off</source>
+        <translation>itinerancia desactivada</translation>
+    </message>
+    <message id="AmountOfLimit">
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message id="MenuOpenHomePage">
+        <source>Open Home Page</source>
+        <translation>Abrir página de inicio</translation>
+    </message>
+    <message id="MenuOpenFirmwarePage">
+        <source>Open Firmware Page</source>
+        <translation>Abrir página del firmware</translation>
+    </message>
+    <message id="MenuOpenDataLimitPage">
+        <source>Open Data Limit Page</source>
+        <translation>Abrir página del límite de datos</translation>
+    </message>
+    <message id="MenuRecentNews">
+        <source>Recent News</source>
+        <translation>Avisos recientes</translation>
+    </message>
+    <message id="MenuSettings">
+        <source>Settings…</source>
+        <translation>Configuración…</translation>
+    </message>
+    <message id="MenuSetUpModem">
+        <source>Set Up This Modem…</source>
+        <translation>Configurar este módem…</translation>
+    </message>
+    <message id="updateButtonOk">
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="NewsTitleDataLimit">
+        <source>Data Limit</source>
+        <translation>Límite de datos</translation>
+    </message>
+    <message id="NewsOpen">
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="CannotOpenTitle">
+        <source>Page Not Opened</source>
+        <translation>Página no abierta</translation>
+    </message>
+    <message id="CannotOpenText">
+        <source>No program on this computer could open %1.</source>
+        <translation>Ningún programa de este equipo pudo abrir %1.</translation>
+    </message>
+    <message id="StatusMonth">
+        <source>This month</source>
+        <translation>Este mes</translation>
+    </message>
+    <message id="StatusThreeDays">
+        <source>Last three days</source>
+        <translation>Últimos tres días</translation>
+    </message>
+    <message id="StatusPlot">
+        <source>Used since the modem was plugged in</source>
+        <translation>Uso desde que se enchufó el módem</translation>
+    </message>
+    <message id="StatusCopyDetails">
+        <source>Copy Details</source>
+        <translation>Copiar detalles</translation>
+    </message>
+    <message id="RowConnection">
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message id="RowDialMode">
+        <source>Dialling</source>
+        <translation>Marcación</translation>
+    </message>
+    <message id="RowRoaming">
+        <source>Roaming</source>
+        <translation>Itinerancia</translation>
+    </message>
+    <message id="RowFirmware">
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message id="RowDevice">
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="RowInterface">
+        <source>Interface</source>
+        <translation>Interfaz</translation>
+    </message>
+    <message id="RowAddress">
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message id="RowGateway">
+        <source>Gateway</source>
+        <translation>Puerta de enlace</translation>
+    </message>
+    <message id="RowAccessPoints">
+        <source>Access points</source>
+        <translation>Puntos de acceso</translation>
+    </message>
+    <message id="RowLastAnswer">
+        <source>Last answer</source>
+        <translation>Última respuesta</translation>
+    </message>
+    <message id="ValueDialAuto">
+        <source>automatic</source>
+        <translation>automática</translation>
+    </message>
+    <message id="ValueDialManual">
+        <source>manual</source>
+        <translation>manual</translation>
+    </message>
+    <message id="ValueOn">
+        <source>on</source>
+        <translation>activada</translation>
+    </message>
+    <message id="ValueOff">
+        <source>off</source>
+        <translation>desactivada</translation>
+    </message>
+    <message id="ValueFirmwareNew">
+        <source>new version available</source>
+        <translation>nueva versión disponible</translation>
+    </message>
+    <message id="ValueFirmwareNoneOffered">
+        <source>no new version offered</source>
+        <translation>ninguna versión nueva ofrecida</translation>
+    </message>
+    <message id="ValueAccessPointsSent" numerus="yes">
+        <source>%n sent</source>
+        <translation>
+            <numerusform>%n enviado</numerusform>
+            <numerusform>%n enviados</numerusform>
+        </translation>
+    </message>
+    <message id="ProblemNoSettings">
+        <source>No settings were found</source>
+        <translation>No se encontró ninguna configuración</translation>
+    </message>
+    <message id="ProblemUnreadable">
+        <source>The settings cannot be read</source>
+        <translation>No se puede leer la configuración</translation>
+    </message>
+    <message id="ProblemNoVendor">
+        <source>No modem is set up</source>
+        <translation>No hay ningún módem configurado</translation>
+    </message>
+    <message id="ProblemVendorType">
+        <source>The settings name a vendor as a number, which never matches</source>
+        <translation>La configuración indica un fabricante como número, que nunca coincide</translation>
+    </message>
 </context>
 </TS>

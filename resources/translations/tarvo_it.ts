@@ -63,5 +63,216 @@
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message id="StatusNoModem">
+        <source>No modem</source>
+        <translation>Nessun modem</translation>
+    </message>
+    <message id="StatusNotSetUp">
+        <source>USB network device %1 is not set up</source>
+        <translation>Il dispositivo di rete USB %1 non è configurato</translation>
+    </message>
+    <message id="StatusWaitingForAddress">
+        <source>Modem found, waiting for an address</source>
+        <translation>Modem trovato, in attesa di un indirizzo</translation>
+    </message>
+    <message id="StatusNoGateway">
+        <source>Modem found, without a gateway</source>
+        <translation>Modem trovato, senza gateway</translation>
+    </message>
+    <message id="StatusModemFound">
+        <source>Modem found</source>
+        <translation>Modem trovato</translation>
+    </message>
+    <message id="StatusNotAnswering">
+        <source>The modem does not answer</source>
+        <translation>Il modem non risponde</translation>
+    </message>
+    <message id="StatusNotConnected">
+        <source>Not connected</source>
+        <translation>Non connesso</translation>
+    </message>
+    <message id="StatusConnected">
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message id="StatusSimMissing">
+        <source>Not connected: no SIM card</source>
+        <translation>Non connesso: nessuna scheda SIM</translation>
+    </message>
+    <message id="StatusSimDamaged">
+        <source>Not connected: the SIM card is damaged</source>
+        <translation>Non connesso: la scheda SIM è danneggiata</translation>
+    </message>
+    <message id="StatusSimNeedsPin">
+        <source>Not connected: the SIM card needs its PIN</source>
+        <translation>Non connesso: la scheda SIM richiede il PIN</translation>
+    </message>
+    <message id="StatusSimNeedsPuk">
+        <source>Not connected: the SIM card needs its PUK</source>
+        <translation>Non connesso: la scheda SIM richiede il PUK</translation>
+    </message>
+    <message id="StatusSimLocked">
+        <source>Not connected: the modem is locked to another network</source>
+        <translation>Non connesso: il modem è bloccato su un’altra rete</translation>
+    </message>
+    <message id="StatusRoamingOn">
+        <source>roaming on</source>
+        <translation>roaming attivo</translation>
+    </message>
+    <message id="StatusRoamingOff">
+        <source>roaming off</source>
+        <translation>roaming disattivato</translation>
+    </message>
+    <message id="AmountOfLimit">
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message id="MenuOpenHomePage">
+        <source>Open Home Page</source>
+        <translation>Apri pagina iniziale</translation>
+    </message>
+    <message id="MenuOpenFirmwarePage">
+        <source>Open Firmware Page</source>
+        <translation>Apri pagina del firmware</translation>
+    </message>
+    <message id="MenuOpenDataLimitPage">
+        <source>Open Data Limit Page</source>
+        <translation>Apri pagina del limite dati</translation>
+    </message>
+    <message id="MenuRecentNews">
+        <source>Recent News</source>
+        <translation>Avvisi recenti</translation>
+    </message>
+    <message id="MenuSettings">
+        <source>Settings…</source>
+        <translation>Impostazioni…</translation>
+    </message>
+    <message id="MenuSetUpModem">
+        <source>Set Up This Modem…</source>
+        <translation>Configura questo modem…</translation>
+    </message>
+    <message id="updateButtonOk">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="NewsTitleDataLimit">
+        <source>Data Limit</source>
+        <translation>Limite dati</translation>
+    </message>
+    <message id="NewsOpen">
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message id="CannotOpenTitle">
+        <source>Page Not Opened</source>
+        <translation>Pagina non aperta</translation>
+    </message>
+    <message id="CannotOpenText">
+        <source>No program on this computer could open %1.</source>
+        <translation>Nessun programma su questo computer è riuscito ad aprire %1.</translation>
+    </message>
+    <message id="StatusMonth">
+        <source>This month</source>
+        <translation>Questo mese</translation>
+    </message>
+    <message id="StatusThreeDays">
+        <source>Last three days</source>
+        <translation>Ultimi tre giorni</translation>
+    </message>
+    <message id="StatusPlot">
+        <source>Used since the modem was plugged in</source>
+        <translation>Utilizzo dall’inserimento del modem</translation>
+    </message>
+    <message id="StatusCopyDetails">
+        <source>Copy Details</source>
+        <translation>Copia dettagli</translation>
+    </message>
+    <message id="RowConnection">
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message id="RowDialMode">
+        <source>Dialling</source>
+        <translation>Composizione</translation>
+    </message>
+    <message id="RowRoaming">
+        <source>Roaming</source>
+        <translation>Roaming</translation>
+    </message>
+    <message id="RowFirmware">
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message id="RowDevice">
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="RowInterface">
+        <source>Interface</source>
+        <translation>Interfaccia</translation>
+    </message>
+    <message id="RowAddress">
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message id="RowGateway">
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message id="RowAccessPoints">
+        <source>Access points</source>
+        <translation>Punti di accesso</translation>
+    </message>
+    <message id="RowLastAnswer">
+        <source>Last answer</source>
+        <translation>Ultima risposta</translation>
+    </message>
+    <message id="ValueDialAuto">
+        <source>automatic</source>
+        <translation>automatica</translation>
+    </message>
+    <message id="ValueDialManual">
+        <source>manual</source>
+        <translation>manuale</translation>
+    </message>
+    <message id="ValueOn">
+        <source>on</source>
+        <translation>attivo</translation>
+    </message>
+    <message id="ValueOff">
+        <source>off</source>
+        <translation>disattivato</translation>
+    </message>
+    <message id="ValueFirmwareNew">
+        <source>new version available</source>
+        <translation>nuova versione disponibile</translation>
+    </message>
+    <message id="ValueFirmwareNoneOffered">
+        <source>no new version offered</source>
+        <translation>nessuna nuova versione offerta</translation>
+    </message>
+    <message id="ValueAccessPointsSent" numerus="yes">
+        <source>%n sent</source>
+        <translation>
+            <numerusform>%n inviato</numerusform>
+            <numerusform>%n inviati</numerusform>
+        </translation>
+    </message>
+    <message id="ProblemNoSettings">
+        <source>No settings were found</source>
+        <translation>Nessuna impostazione trovata</translation>
+    </message>
+    <message id="ProblemUnreadable">
+        <source>The settings cannot be read</source>
+        <translation>Impossibile leggere le impostazioni</translation>
+    </message>
+    <message id="ProblemNoVendor">
+        <source>No modem is set up</source>
+        <translation>Nessun modem è configurato</translation>
+    </message>
+    <message id="ProblemVendorType">
+        <source>The settings name a vendor as a number, which never matches</source>
+        <translation>Le impostazioni indicano un produttore come numero, che non corrisponde mai</translation>
+    </message>
 </context>
 </TS>

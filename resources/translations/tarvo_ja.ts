@@ -63,5 +63,215 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message id="StatusNoModem">
+        <source>No modem</source>
+        <translation>モデムなし</translation>
+    </message>
+    <message id="StatusNotSetUp">
+        <source>USB network device %1 is not set up</source>
+        <translation>USB ネットワークデバイス %1 はセットアップされていません</translation>
+    </message>
+    <message id="StatusWaitingForAddress">
+        <source>Modem found, waiting for an address</source>
+        <translation>モデムを検出、アドレスを待っています</translation>
+    </message>
+    <message id="StatusNoGateway">
+        <source>Modem found, without a gateway</source>
+        <translation>モデムを検出、ゲートウェイがありません</translation>
+    </message>
+    <message id="StatusModemFound">
+        <source>Modem found</source>
+        <translation>モデムを検出しました</translation>
+    </message>
+    <message id="StatusNotAnswering">
+        <source>The modem does not answer</source>
+        <translation>モデムが応答しません</translation>
+    </message>
+    <message id="StatusNotConnected">
+        <source>Not connected</source>
+        <translation>未接続</translation>
+    </message>
+    <message id="StatusConnected">
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message id="StatusSimMissing">
+        <source>Not connected: no SIM card</source>
+        <translation>未接続: SIM カードがありません</translation>
+    </message>
+    <message id="StatusSimDamaged">
+        <source>Not connected: the SIM card is damaged</source>
+        <translation>未接続: SIM カードが破損しています</translation>
+    </message>
+    <message id="StatusSimNeedsPin">
+        <source>Not connected: the SIM card needs its PIN</source>
+        <translation>未接続: SIM カードの PIN が必要です</translation>
+    </message>
+    <message id="StatusSimNeedsPuk">
+        <source>Not connected: the SIM card needs its PUK</source>
+        <translation>未接続: SIM カードの PUK が必要です</translation>
+    </message>
+    <message id="StatusSimLocked">
+        <source>Not connected: the modem is locked to another network</source>
+        <translation>未接続: モデムは別のネットワークにロックされています</translation>
+    </message>
+    <message id="StatusRoamingOn">
+        <source>roaming on</source>
+        <translation>ローミング オン</translation>
+    </message>
+    <message id="StatusRoamingOff">
+        <source>roaming off</source>
+        <translation>ローミング オフ</translation>
+    </message>
+    <message id="AmountOfLimit">
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message id="MenuOpenHomePage">
+        <source>Open Home Page</source>
+        <translation>トップページを開く</translation>
+    </message>
+    <message id="MenuOpenFirmwarePage">
+        <source>Open Firmware Page</source>
+        <translation>ファームウェアのページを開く</translation>
+    </message>
+    <message id="MenuOpenDataLimitPage">
+        <source>Open Data Limit Page</source>
+        <translation>データ上限のページを開く</translation>
+    </message>
+    <message id="MenuRecentNews">
+        <source>Recent News</source>
+        <translation>最近のお知らせ</translation>
+    </message>
+    <message id="MenuSettings">
+        <source>Settings…</source>
+        <translation>設定…</translation>
+    </message>
+    <message id="MenuSetUpModem">
+        <source>Set Up This Modem…</source>
+        <translation>このモデムをセットアップ…</translation>
+    </message>
+    <message id="updateButtonOk">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="NewsTitleDataLimit">
+        <source>Data Limit</source>
+        <translation>データ上限</translation>
+    </message>
+    <message id="NewsOpen">
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message id="CannotOpenTitle">
+        <source>Page Not Opened</source>
+        <translation>ページを開けませんでした</translation>
+    </message>
+    <message id="CannotOpenText">
+        <source>No program on this computer could open %1.</source>
+        <translation>このコンピューターのどのプログラムでも %1 を開けませんでした。</translation>
+    </message>
+    <message id="StatusMonth">
+        <source>This month</source>
+        <translation>今月</translation>
+    </message>
+    <message id="StatusThreeDays">
+        <source>Last three days</source>
+        <translation>過去 3 日間</translation>
+    </message>
+    <message id="StatusPlot">
+        <source>Used since the modem was plugged in</source>
+        <translation>モデムを差し込んでからの使用量</translation>
+    </message>
+    <message id="StatusCopyDetails">
+        <source>Copy Details</source>
+        <translation>詳細をコピー</translation>
+    </message>
+    <message id="RowConnection">
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message id="RowDialMode">
+        <source>Dialling</source>
+        <translation>ダイヤル</translation>
+    </message>
+    <message id="RowRoaming">
+        <source>Roaming</source>
+        <translation>ローミング</translation>
+    </message>
+    <message id="RowFirmware">
+        <source>Firmware</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message id="RowDevice">
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message id="RowInterface">
+        <source>Interface</source>
+        <translation>インターフェース</translation>
+    </message>
+    <message id="RowAddress">
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message id="RowGateway">
+        <source>Gateway</source>
+        <translation>ゲートウェイ</translation>
+    </message>
+    <message id="RowAccessPoints">
+        <source>Access points</source>
+        <translation>アクセスポイント</translation>
+    </message>
+    <message id="RowLastAnswer">
+        <source>Last answer</source>
+        <translation>最後の応答</translation>
+    </message>
+    <message id="ValueDialAuto">
+        <source>automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message id="ValueDialManual">
+        <source>manual</source>
+        <translation>手動</translation>
+    </message>
+    <message id="ValueOn">
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message id="ValueOff">
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
+    <message id="ValueFirmwareNew">
+        <source>new version available</source>
+        <translation>新しいバージョンあり</translation>
+    </message>
+    <message id="ValueFirmwareNoneOffered">
+        <source>no new version offered</source>
+        <translation>新しいバージョンの提供なし</translation>
+    </message>
+    <message id="ValueAccessPointsSent" numerus="yes">
+        <source>%n sent</source>
+        <translation>
+            <numerusform>%n 件送信済み</numerusform>
+        </translation>
+    </message>
+    <message id="ProblemNoSettings">
+        <source>No settings were found</source>
+        <translation>設定が見つかりません</translation>
+    </message>
+    <message id="ProblemUnreadable">
+        <source>The settings cannot be read</source>
+        <translation>設定を読み取れません</translation>
+    </message>
+    <message id="ProblemNoVendor">
+        <source>No modem is set up</source>
+        <translation>モデムがセットアップされていません</translation>
+    </message>
+    <message id="ProblemVendorType">
+        <source>The settings name a vendor as a number, which never matches</source>
+        <translation>設定のベンダーが数値のため、一致することがありません</translation>
+    </message>
 </context>
 </TS>

@@ -27,16 +27,24 @@ public:
         m_item->setView(view);
     }
 
+    void setMenu(QMenu *menu) override
+    {
+        m_menu = menu;
+        m_item->setMenu(menu);
+    }
+
     void viewChanged() override { m_item->viewChanged(); }
     void setTitle(const QString &title) override { m_item->setTitle(title); }
     std::optional<QRect> frame() const override { return m_item->frame(); }
 
+    QMenu *menu() const { return m_menu; }
     CustomView *icon() const { return qobject_cast<CustomView *>(m_view); }
 
 private:
     ObservedStatusBar &m_owner;
     std::unique_ptr<StatusItem> m_item;
     QAbstractButton *m_view = nullptr;
+    QMenu *m_menu = nullptr;
 };
 
 ObservedStatusBar::ObservedStatusBar(StatusBar &bar)
@@ -53,6 +61,12 @@ CustomView *ObservedStatusBar::icon() const
 {
     const Item *item = itemWithIcon();
     return item ? item->icon() : nullptr;
+}
+
+QMenu *ObservedStatusBar::menu() const
+{
+    const Item *item = itemWithIcon();
+    return item ? item->menu() : nullptr;
 }
 
 std::optional<QRect> ObservedStatusBar::iconFrame() const

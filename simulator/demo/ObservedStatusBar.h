@@ -18,6 +18,8 @@ public:
 
     /// @return the icon that is in the bar; null when there is none
     CustomView *icon() const;
+    /// @return its menu; null when there is none
+    QMenu *menu() const;
     /// @return where the icon is on the screen; nil when the bar does not tell
     std::optional<QRect> iconFrame() const;
 

@@ -67,9 +67,9 @@ TEST(DataUsage, ReadsEachFieldInTheOlderStyleFirst)
 TEST(DataUsage, CountsAMonthAgainstLimitAndThreshold)
 {
     const auto usage = monthlyUsage(monthly(u"2"_s, u"1"_s, u"1073741824"_s, u"536870912"_s));
-    EXPECT_EQ(usage, (MonthlyUsage{2, 1.5F, 0.5F, true, false}));
-    EXPECT_EQ(monthlyUsage(monthly(u"1"_s, u"9"_s, u"3221225472"_s, u"0"_s)), (MonthlyUsage{1, 3, -2, false, true}));
-    EXPECT_EQ(monthlyUsage(monthly(u"1"_s, u"1"_s, u"1073741824"_s, u""_s)), (MonthlyUsage{1, 1, 0, false, false}))
+    EXPECT_EQ(usage, (MonthlyUsage{2, 1.5F, 0.5F, true, false, 1}));
+    EXPECT_EQ(monthlyUsage(monthly(u"1"_s, u"9"_s, u"3221225472"_s, u"0"_s)), (MonthlyUsage{1, 3, -2, false, true, 9}));
+    EXPECT_EQ(monthlyUsage(monthly(u"1"_s, u"1"_s, u"1073741824"_s, u""_s)), (MonthlyUsage{1, 1, 0, false, false, 1}))
         << "used exactly up is not exceeded";
 }
 
@@ -96,10 +96,10 @@ TEST(DataUsage, IsNotCountedWhileTheReminderIsOff)
 TEST(DataUsage, ThreeDaysAreAlwaysCounted)
 {
     EXPECT_EQ(threeDayUsage({}), (ThreeDayUsage{0, false}));
-    EXPECT_EQ(threeDayUsage({.threeDaySent = u"1"_s}), (ThreeDayUsage{0, true}))
+    EXPECT_EQ(threeDayUsage({.threeDaySent = u"1"_s}), (ThreeDayUsage{0, true, 1.0F / (1 << 30)}))
         << "any traffic passes a limit of zero";
     EXPECT_EQ(threeDayUsage({.threeDayLimit = u"1.5"_s,
                              .threeDaySent = QString::number(gigabyte, 'f', 0),
                              .threeDayReceived = QString::number(gigabyte / 2, 'f', 0)}),
-              (ThreeDayUsage{1.5F, false}));
+              (ThreeDayUsage{1.5F, false, 1.5F}));
 }

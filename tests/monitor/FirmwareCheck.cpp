@@ -21,7 +21,7 @@ struct Firmware : Companion {
     qsizetype pass(qsizetype times)
     {
         tick(modem, times);
-        EXPECT_TRUE(clock.waitForSleepers(2)); // the worker, and the sequence that the pass has started or found
+        EXPECT_TRUE(clock.waitForSleepers(1)); // the worker, or the sequence that the pass ends with
         return modem.device.requests("dm_find_package&multi_data=1").size();
     }
 

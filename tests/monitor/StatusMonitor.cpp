@@ -1,5 +1,6 @@
 #include "monitor/StatusMonitor.h"
 
+#include "monitor/ModemDetails.h"
 #include "tests/support/Companion.h"
 
 using namespace tarvo;
@@ -19,7 +20,9 @@ TEST(StatusMonitor, DerivesTheTransferTypeFromTheNewStatus)
 TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 {
     int published = 0;
-    StatusMonitor monitor([&](const Work &) { ++published; });
+    int changed = 0;
+    StatusMonitor monitor({.evaluated = [&](const Work &) { ++published; },
+                           .changed = [&](const Work &, const StatusSnapshot &) { ++changed; }});
     const Work work = attachment->work();
     const QString page = u"last_three_days_tx_bytes: '1' international_roaming_setting: 'on'"_s;
     monitor.setAllStatusByUrlContents(work, page);
@@ -27,10 +30,33 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
     EXPECT_TRUE(monitor.snapshot().get().isRoamOn_ && monitor.snapshot().get().isAutoConnectOn_);
     EXPECT_TRUE(monitor.snapshot().get().haveDataLimitFlag_) << "any traffic passes a limit of nothing";
 
+    monitor.setAllStatusByUrlContents(work, page);
+    EXPECT_EQ(changed, 2) << "the same page is no change";
     attachment.reset();
     monitor.resetForStop();
     const StatusSnapshot empty{.haveNewVersionFlag_ = true, .haveDataLimitFlag_ = true};
     monitor.setAllStatusByUrlContents(work, page);
     EXPECT_EQ(monitor.snapshot().get(), empty);
-    EXPECT_EQ(published, 1);
+    EXPECT_EQ(published, 2);
+}
+
+TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
+{
+    StatusMonitor monitor({});
+    const std::pair<bool, std::optional<bool>> cases[] = {
+        {false, std::nullopt}, {true, true}, {false, true}, {false, false}, {false, false}, {true, true}};
+    for (const auto &[answered, answering] : cases) {
+        monitor.noteAnswer(client.work(), answered);
+        EXPECT_EQ(monitor.snapshot().get().answering, answering);
+    }
+}
+
+TEST(ModemDetails, AreWhatThePageTells)
+{
+    EXPECT_EQ(readModemDetails({}, {}), ModemDetails());
+    const QString page = uR"("modem_main_state":"modem_waitpuk","ppp_status":"ppp_connected","dial_mode":"manual_dial",)"
+                         uR"("international_roaming_setting":"on","flow_reminder_switch":"on",)"
+                         uR"("reminder_threshold_for_data_usage":"8","last_three_days_rx_bytes":"1073741824")"_s;
+    EXPECT_EQ(readModemDetails(page, readStatusFields(page)),
+              (ModemDetails{true, SimState::NeedsPuk, false, true, true, 8, 1}));
 }

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QScreen>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,9 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
 {
     SimulatedNotifications notifications;
     std::optional<QRect> icon = QRect(400, 0, 24, 24);
-    BalloonPresenter presenter(&notifications, {}, [&] { return icon; });
+    int clicks = 0;
+    BalloonPresenter presenter(
+        {.notifications = &notifications, .iconFrame = [&] { return icon; }, .clicked = [&] { ++clicks; }});
     const auto toggle = [&] { presenter.toggleAttachedWindowAtPoint(u"news"_s); };
     toggle();
     ASSERT_NE(shownWindow(), nullptr);
@@ -51,10 +54,21 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     EXPECT_EQ(shownWindow(), nullptr);
     toggle();
     toggle();
+    EXPECT_TRUE(notifications.shown()) << "it can be found again";
+    presenter.withdraw();
     EXPECT_FALSE(notifications.shown());
     notifications.setAvailable(false);
     toggle();
     ASSERT_NE(shownWindow(), nullptr);
     EXPECT_FALSE(shownWindow()->hasArrow());
     EXPECT_TRUE(shownWindow()->screen()->availableGeometry().contains(shownWindow()->geometry()));
+
+    bool closed = false;
+    auto *window = const_cast<OvAttachedWindow *>(shownWindow());
+    window->setAttribute(Qt::WA_UnderMouse);
+    presenter.dismiss([&] { closed = true; });
+    EXPECT_TRUE(shownWindow() && !closed) << "not under the pointer";
+    QTest::mouseClick(window, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(!shownWindow() && closed && clicks == 1);
 }

@@ -1,6 +1,7 @@
 #include "ui/DisplayStatus.h"
 
 #include "tests/support/PrintQt.h"
+#include "ui/DataAmounts.h"
 
 #include <QLocale>
 
@@ -54,6 +55,7 @@ TEST(DisplayStatus, WritesAmountsInTheUsersWay)
     };
     for (const auto &[gigabytes, text] : cases)
         EXPECT_EQ(dataAmount(gigabytes), text);
+    EXPECT_EQ(amountOfLimit(1.5, 0), u"1.50 GB"_s);
     EXPECT_EQ(dataAmount(1e30), u"1E+30 GB"_s);
     EXPECT_EQ(dataAmount(std::numeric_limits<double>::quiet_NaN()), u"nan GB"_s);
     QLocale::setDefault(QLocale(QLocale::French));

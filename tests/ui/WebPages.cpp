@@ -3,10 +3,13 @@
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 #include "ui/CustomView.h"
+#include "ui/StatusWindow.h"
 #include "ui/WebUIRule.h"
 
-#include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
+#include <QTest>
+
+#include <algorithm>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -19,10 +22,8 @@ struct WebUI : Companion {
         settings.insert({{u"OperatorHomePage"_s, u"http://home/"_s},
                          {u"FotaNewVersionHomePage"_s, u"http://update/"_s},
                          {u"DateLimitHomePage"_s, u"http://limit/"_s},
-                         {u"WebUISmsPage"_s, u"http://sms/"_s},
-                         {u"NeedDisplayWhenDeviceRemoved"_s, false}});
+                         {u"WebUISmsPage"_s, u"http://sms/"_s}});
         configure(settings);
-        controller.stopGetModemStatus(); // the next icon is made with these settings
     }
 
     QStringList opened() const
@@ -71,7 +72,7 @@ TEST_F(WebUI, OpensOnceForEachPlugIn)
     plugIn(modem);
     tick(modem, 1);
     tick(modem, 2);
-    ASSERT_TRUE(clock.waitForSleepers(2)); // the pass is over, and shows what it found
+    ASSERT_TRUE(clock.waitForSleepers(1)); // the pass is over
     EXPECT_EQ(opened(), QStringList(u"http://home/"_s));
 
     unplug();
@@ -89,7 +90,9 @@ TEST_F(WebUI, ClickOpensThePageThatTheNewsCallsFor)
 {
     SharedSnapshot snapshot;
     StepQueue mainThread;
-    WebPages pages(workspace, snapshot, mainThread, [] { return std::nullopt; });
+    QStringList failed;
+    WebPages pages(
+        workspace, snapshot, mainThread, [] { return std::nullopt; }, [&](const QString &page) { failed += page; });
     for (const auto &[update, limit] : {std::pair(true, true), {false, true}, {false, false}}) {
         pages.setClickTargets(update, std::nullopt);
         snapshot.reset({.haveDataLimitFlag_ = limit});
@@ -102,21 +105,32 @@ TEST_F(WebUI, ClickOpensThePageThatTheNewsCallsFor)
     }
     pages.openWebUI();
     EXPECT_EQ(opened(), (QStringList{u"http://update/"_s, u"http://limit/"_s, u"http://home/"_s}));
+    EXPECT_EQ(failed, (QStringList{u"no address"_s, u"http://[bad"_s}));
     EXPECT_FALSE(pages.hasOpenedWebUI());
 }
 
-TEST_F(WebUI, MenuSaysTheTipAndOpensPages)
+TEST_F(WebUI, AClickWithoutAPageShowsTheStatusAndPagesOfTheModemNeedOne)
 {
+    const auto click = [&] {
+        QTest::qWait(QApplication::doubleClickInterval() + 50); // the last click is no half of a double click
+        view().click();
+        view().click();
+    };
+    click();
+    EXPECT_EQ(opened(), QStringList(u"http://home/"_s)) << "a double click is one click";
+    settings.insert(u"OperatorHomePage"_s, u"http://%@/home"_s);
+    configure(settings);
+    EXPECT_EQ(controller.pages().clickPage(), Page::None) << "the page is on a modem";
+    const auto isWindowShown = [] {
+        return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *widget) {
+            return qobject_cast<const StatusWindow *>(widget) && widget->isVisible();
+        });
+    };
+    EXPECT_FALSE(isWindowShown());
+    click();
+    EXPECT_TRUE(isWindowShown());
     plugIn(modem);
-    EXPECT_FALSE(view().actions().first()->isVisible()) << "no tip yet";
-    view().setTip(u"Rock & Roll"_s);
-    QStringList choices;
-    for (QAction *action : view().actions()) {
-        if (action->isVisible() && !action->isSeparator())
-            choices << action->text();
-        if (action->text().startsWith(u"MenuOpen"))
-            action->trigger();
-    }
-    EXPECT_EQ(choices.join(u", "), u"Rock && Roll, MenuOpenModemPage, MenuOpenMessages, MenuAbout, MenuQuit"_s);
-    EXPECT_EQ(opened(), QStringList({u"http://"_s + modem.server.authority(), u"http://sms/"_s}));
+    EXPECT_EQ(controller.pages().clickPage(), Page::Home);
+    click();
+    EXPECT_EQ(opened().last(), u"http://%1/home"_s.arg(modem.server.authority()));
 }

@@ -1,0 +1,44 @@
+#include "monitor/ModemDetails.h"
+
+#include "modemapi/AnswerFields.h"
+#include "modemapi/ConnectionStatus.h"
+
+#include <QMap>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+SimState simState(const std::optional<QString> &mainState)
+{
+    static const QMap<QString, SimState> states{
+        {u"modem_sim_undetected"_s, SimState::Missing}, {u"modem_sim_destroy"_s, SimState::Damaged},
+        {u"modem_waitpin"_s, SimState::NeedsPin},       {u"modem_waitpuk"_s, SimState::NeedsPuk},
+        {u"modem_imsi_lock"_s, SimState::Locked},       {u"modem_imsi_waitnck"_s, SimState::Locked},
+    };
+    return states.value(mainState.value_or(QString()), SimState::Unknown);
+}
+
+} // namespace
+
+ModemDetails readModemDetails(const QString &content, const StatusFields &fields)
+{
+    ModemDetails details;
+    if (const auto status = getConnectionStatusWithWebContent(content))
+        details.connected = isConnectedWithStautusContent(status);
+    details.sim = simState(getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content));
+    if (const auto mode = getModemInfoFromKeyForWeb5(u"dial_mode\":"_s, content))
+        details.dialsByItself = *mode == u"auto_dial";
+    if (fields.roamingSetting && !fields.roamingSetting->isEmpty())
+        details.roamingAllowed = isRoaming(fields);
+    if (const auto month = monthlyUsage(fields)) {
+        details.countsMonth = true;
+        details.reminderThreshold = month->threshold;
+    }
+    details.threeDayUse = threeDayUsage(fields).used;
+    return details;
+}
+
+} // namespace tarvo

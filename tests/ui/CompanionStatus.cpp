@@ -1,0 +1,103 @@
+#include "ui/CompanionStatus.h"
+
+#include "tests/support/PrintQt.h"
+#include "ui/StatusRows.h"
+#include "ui/Translations.h"
+#include "ui/UsageHistory.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The texts of a language, for as long as the object lives.
+struct InLanguage {
+    explicit InLanguage(const QLocale &locale)
+    {
+        QLocale::setDefault(locale);
+        installTranslations(scope, locale);
+    }
+    ~InLanguage() { QLocale::setDefault(before); }
+
+    QLocale before;
+    QObject scope;
+};
+
+CompanionStatus attached(std::optional<bool> answering, const ModemDetails &details = {})
+{
+    return {.detection = Detection::Attached,
+            .snapshot = {.m_useData = 12, .m_totalMonthData = 10, .answering = answering, .details = details}};
+}
+
+} // namespace
+
+TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
+{
+    const InLanguage english(QLocale::English);
+    const std::pair<CompanionStatus, QString> cases[] = {
+        {{}, u"No modem"_s},
+        {{.settingsProblem = u"No settings"_s}, u"No settings"_s},
+        {{.detection = Detection::NotSetUp, .unknownDevice = u"1234:5678"_s},
+         u"USB network device 1234:5678 is not set up"_s},
+        {{.detection = Detection::WaitingForAddress}, u"Modem found, waiting for an address"_s},
+        {{.detection = Detection::NoGateway}, u"Modem found, without a gateway"_s},
+        {attached(std::nullopt), u"Modem found"_s},
+        {attached(true), u"Modem found"_s},
+        {attached(false, {.connected = true}), u"The modem does not answer"_s},
+        {attached(true, {.connected = false}), u"Not connected"_s},
+        {attached(true, {.connected = false, .sim = SimState::Missing}), u"Not connected: no SIM card"_s},
+        {attached(true, {.connected = true, .roamingAllowed = false, .countsMonth = true}),
+         u"Connected · 12.0 of 10.0 GB · roaming off"_s},
+    };
+    for (const auto &[status, summary] : cases)
+        EXPECT_EQ(summaryOf(status), summary);
+    const InLanguage german(QLocale(QLocale::German));
+    EXPECT_EQ(summaryOf(cases[10].first), u"Verbunden · 12,0 von 10,0 GB · Roaming aus"_s);
+}
+
+TEST(CompanionStatus, TheTipHoldsEachStandingNewsInALine)
+{
+    const InLanguage english(QLocale::English);
+    CompanionStatus status = attached(true, {.connected = true});
+    EXPECT_EQ(tipOf(status), u"Connected"_s);
+    status.snapshot.isHaveNewVersion_ = status.snapshot.isHaveDataLimitExceedForOneMonth_ = true;
+    EXPECT_EQ(tipOf(status), u"Connected\nNew firmware is available for your modem.\n"
+                             "You have used more than your monthly limit of 10.0 GB."_s);
+    status.detection = Detection::NoModem;
+    EXPECT_EQ(tipOf(status), u"No modem"_s);
+}
+
+TEST(StatusRows, AreAlwaysTheSameAndSayWhatIsKnown)
+{
+    const InLanguage english(QLocale::English);
+    const DeviceDetails device{.name = u"Stick"_s, .usbIdentity = u"1234:5678"_s, .accessPointsSent = 2};
+    const auto known = statusRows(attached(true, {.connected = true, .dialsByItself = true}), device);
+    const auto unknown = statusRows({}, device);
+    ASSERT_EQ(known.size(), unknown.size());
+    QStringList values;
+    for (qsizetype i = 0; i < known.size(); ++i) {
+        EXPECT_EQ(known[i].label, unknown[i].label);
+        EXPECT_EQ(unknown[i].value, u"–"_s) << known[i].label.toStdString();
+        values << known[i].value;
+    }
+    EXPECT_EQ(values.join(u','),
+              u"Connected,automatic,–,no new version offered,Stick (1234:5678),–,–,–,2 sent,–"_s);
+    EXPECT_TRUE(supportText({}, device).contains(u"\nNo modem\n"));
+}
+
+TEST(UsageHistory, KeepsABoundedNumberOfEvenSamples)
+{
+    UsageHistory history;
+    for (int second = 0; second < 100'000; ++second)
+        history.add(std::chrono::seconds(second), second);
+    const auto &samples = history.samples();
+    EXPECT_LT(samples.size(), UsageHistory::mostSamples);
+    EXPECT_GE(samples.size(), UsageHistory::mostSamples / 2 - 1);
+    EXPECT_EQ(samples.first().gigabytes, 0);
+    EXPECT_EQ(samples[2].sincePlugIn - samples[1].sincePlugIn, samples[1].sincePlugIn - samples[0].sincePlugIn);
+}

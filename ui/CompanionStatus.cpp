@@ -1,0 +1,95 @@
+#include "ui/CompanionStatus.h"
+
+#include "ui/DataAmounts.h"
+#include "ui/DisplayStatus.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString connectionText(const ModemDetails &details)
+{
+    switch (details.sim) {
+    case SimState::Missing:
+        return qtTrId("StatusSimMissing");
+    case SimState::Damaged:
+        return qtTrId("StatusSimDamaged");
+    case SimState::NeedsPin:
+        return qtTrId("StatusSimNeedsPin");
+    case SimState::NeedsPuk:
+        return qtTrId("StatusSimNeedsPuk");
+    case SimState::Locked:
+        return qtTrId("StatusSimLocked");
+    case SimState::Unknown:
+        break;
+    }
+    if (!details.connected)
+        return qtTrId("StatusModemFound");
+    return *details.connected ? qtTrId("StatusConnected") : qtTrId("StatusNotConnected");
+}
+
+QString attachedSummary(const StatusSnapshot &snapshot)
+{
+    if (!snapshot.answering)
+        return qtTrId("StatusModemFound");
+    if (!*snapshot.answering)
+        return qtTrId("StatusNotAnswering");
+    QStringList parts{connectionText(snapshot.details)};
+    if (snapshot.details.countsMonth)
+        parts << amountOfLimit(static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.m_totalMonthData));
+    if (snapshot.details.roamingAllowed)
+        parts << (*snapshot.details.roamingAllowed ? qtTrId("StatusRoamingOn") : qtTrId("StatusRoamingOff"));
+    return parts.join(u" · "_s);
+}
+
+Page pageOf(int displayType)
+{
+    return displayType == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit;
+}
+
+} // namespace
+
+QString summaryOf(const CompanionStatus &status)
+{
+    switch (status.detection) {
+    case Detection::NoModem:
+        return status.settingsProblem.isEmpty() ? qtTrId("StatusNoModem") : status.settingsProblem;
+    case Detection::NotSetUp:
+        return qtTrId("StatusNotSetUp").arg(status.unknownDevice);
+    case Detection::WaitingForAddress:
+        return qtTrId("StatusWaitingForAddress");
+    case Detection::NoGateway:
+        return qtTrId("StatusNoGateway");
+    case Detection::Attached:
+        break;
+    }
+    return attachedSummary(status.snapshot);
+}
+
+QList<StandingNews> standingNews(const CompanionStatus &status)
+{
+    QList<StandingNews> news;
+    if (status.detection != Detection::Attached)
+        return news;
+    for (const int type : displayTypes) {
+        const DisplayStatus shown = evaluateDisplayType(status.snapshot, type, false);
+        if (shown.isNews)
+            news.append({shown.balloonText, pageOf(type)});
+    }
+    return news;
+}
+
+QString tipOf(const CompanionStatus &status)
+{
+    QStringList lines{summaryOf(status)};
+    for (const StandingNews &news : standingNews(status))
+        lines << news.text;
+    return lines.join(u'\n');
+}
+
+} // namespace tarvo

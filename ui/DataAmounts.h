@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+namespace tarvo {
+
+// Amounts of data for the user: gigabytes of 2^30 bytes in, text in the user's language out, with three digits that
+// count.
+
+/// @return @p gigabytes in the unit that suits its size
+QString dataAmount(double gigabytes);
+
+/// @return how much of a limit is used, such as "12.0 of 10.0 GB"; the amount alone when there is no limit
+QString amountOfLimit(double used, double limit);
+
+} // namespace tarvo

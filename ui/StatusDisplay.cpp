@@ -1,0 +1,81 @@
+#include "ui/StatusDisplay.h"
+
+#include "ui/StatusIcon.h"
+#include "ui/WebPages.h"
+
+namespace tarvo {
+
+StatusDisplay::StatusDisplay(const Surroundings &surroundings)
+    : m_with(surroundings)
+{
+    refresh();
+}
+
+StatusDisplay::~StatusDisplay() = default;
+
+void StatusDisplay::setDetection(Detection detection, const QString &unknownDevice)
+{
+    CompanionStatus status = m_status;
+    status.detection = detection;
+    status.unknownDevice = unknownDevice;
+    if (detection != Detection::Attached) {
+        status.snapshot = {};
+        m_usage.clear();
+    }
+    setStatus(status);
+}
+
+void StatusDisplay::setSettingsProblem(const QString &settingsProblem)
+{
+    CompanionStatus status = m_status;
+    status.settingsProblem = settingsProblem;
+    setStatus(status);
+}
+
+void StatusDisplay::setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn)
+{
+    CompanionStatus status = m_status;
+    status.snapshot = snapshot;
+    if (snapshot.details.countsMonth)
+        m_usage.add(sincePlugIn, static_cast<double>(snapshot.m_useData));
+    setStatus(status);
+}
+
+void StatusDisplay::addNews(const StandingNews &news)
+{
+    m_news.add(news, QDateTime::currentDateTime());
+    refresh();
+}
+
+void StatusDisplay::setStatus(const CompanionStatus &status)
+{
+    if (status == m_status)
+        return;
+    m_status = status;
+    refresh();
+}
+
+void StatusDisplay::refresh()
+{
+    m_with.icon.setStatusToolTip(tipOf(m_status));
+    m_with.menu.setContent({.summary = summaryOf(m_status),
+                            .clickPage = m_with.pages.clickPage(),
+                            .hasModem = m_status.detection == Detection::Attached,
+                            .offersSetup = m_status.detection == Detection::NotSetUp
+                                || !m_status.settingsProblem.isEmpty(),
+                            .news = m_news.news()});
+}
+
+void StatusDisplay::showWindow()
+{
+    if (!m_window)
+        m_window = std::make_unique<StatusWindow>([this] { return windowContent(); });
+    m_window->present();
+}
+
+StatusWindowContent StatusDisplay::windowContent() const
+{
+    return {m_with.icon.image(), m_status, m_with.device(), m_usage.samples()};
+}
+
+} // namespace tarvo
