@@ -25,6 +25,13 @@ constexpr int mostRoundsAtOnce = 4;
 constexpr int messagesBetweenEvents = 32;
 constexpr std::chrono::milliseconds mostPatience = 30s;
 
+/// @return the name of the link @p index; empty when there is none
+QString nameOfLink(int index)
+{
+    std::array<char, IF_NAMESIZE> name{};
+    return QString::fromUtf8(if_indextoname(static_cast<unsigned>(index), name.data()));
+}
+
 } // namespace
 
 NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
@@ -113,11 +120,8 @@ void NetlinkDynamicStore::readEverything()
     if (outcome == NetlinkSocket::Dumped::Failed)
         return;
     if (outcome == NetlinkSocket::Dumped::Interrupted)
-        model.keepLinks(m_model,
-                        [](int index) { return if_indextoname(index, std::array<char, IF_NAMESIZE>().data()); });
-    model.setRoutesCertain();
-    m_removed.unite(m_model.takeRemovedLinks());
-    m_model = std::move(model);
+        model.keepLinks(m_model, nameOfLink);
+    m_model.takeAll(std::move(model));
     m_gap = false;
     if (outcome == NetlinkSocket::Dumped::Interrupted)
         readAgainLater();
@@ -162,29 +166,12 @@ void NetlinkDynamicStore::publish()
     if (m_gap)
         return;
 
-    const QSet<QString> changedHands = updateIndexes(m_model.interfaceIndexes());
-    if (!changedHands.isEmpty())
-        replaceEntries(m_model.entries(changedHands));
-    replaceEntries(m_model.entries());
-}
-
-/// Makes @p indexes the published ones, and tells of the links that are gone.
-/// @return the names that belong to another link than before
-QSet<QString> NetlinkDynamicStore::updateIndexes(QHash<QString, int> indexes)
-{
-    QSet<int> removed = std::exchange(m_removed, {}) + m_model.takeRemovedLinks();
-    const QSet<int> present(indexes.cbegin(), indexes.cend());
-    QSet<QString> changedHands;
-    for (const auto &[name, index] : m_published.asKeyValueRange()) {
-        if (!present.contains(index))
-            removed.insert(index);
-        if (indexes.contains(name) && (indexes.value(name) != index || removed.contains(index)))
-            changedHands.insert(name);
-    }
-    m_published = std::move(indexes);
+    const QSet<int> removed = m_model.takeRemovedLinks();
     if (m_linkRemoved)
-        std::ranges::for_each(std::as_const(removed), m_linkRemoved);
-    return changedHands;
+        std::ranges::for_each(removed, m_linkRemoved);
+    const auto steps = m_linkEntries.update(m_model, m_model.takeChangedLinks(), removed,
+                                            [this](int index) { return m_model.gateway(index); });
+    std::ranges::for_each(steps, [this](const Changes &changes) { applyChanges(changes); });
 }
 
 } // namespace tarvo

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "platform/StateStore.h"
+#include "platform/linux/LinkEntries.h"
 #include "platform/linux/NetlinkSocket.h"
 #include "platform/linux/NetworkModel.h"
 
 #include <QDeadlineTimer>
-#include <QHash>
 #include <QList>
-#include <QSet>
 #include <QSocketNotifier>
 #include <QString>
 #include <QTimer>
@@ -23,8 +22,8 @@ class SystemLog;
 
 /// The state of the machine's network, as the kernel tells it over the routing netlink (rtnetlink(7)).
 ///
-/// An interface that is up and has an IPv4 address is a service of the interface's name, and its router is its best
-/// IPv4 default gateway, in whatever routing table. Services are ordered by interface index.
+/// The router of a service is its interface's best IPv4 default gateway, in whatever routing table; see `LinkEntries` for
+/// the rest.
 ///
 /// Lives on one thread with an event loop. What changes is published together a fifth of a second later, so that a
 /// burst is one change, and a new link is first seen under the name that it is given.
@@ -36,7 +35,7 @@ public:
     std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
 
     /// @return the index of the published interface @p name; 0 when there is none
-    int interfaceIndex(const QString &name) const { return m_published.value(name); }
+    int interfaceIndex(const QString &name) const { return m_linkEntries.interfaceIndex(name); }
 
     /// Called with the index of each link that is gone, before that is published.
     void setLinkRemovedHandler(std::function<void(int interfaceIndex)> handler) { m_linkRemoved = std::move(handler); }
@@ -53,7 +52,6 @@ private:
     void readAgainLater();
     void settle();
     void publish();
-    QSet<QString> updateIndexes(QHash<QString, int> indexes);
 
     SystemLog &m_systemLog;
     NetlinkSocket m_events;
@@ -64,8 +62,7 @@ private:
     std::chrono::milliseconds m_patience; ///< until what was read while it changed is read again
     QDeadlineTimer m_nextGapLine;
 
-    QHash<QString, int> m_published;
-    QSet<int> m_removed; ///< links that went since the last publication
+    LinkEntries m_linkEntries;
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
