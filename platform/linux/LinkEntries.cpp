@@ -14,7 +14,10 @@ namespace {
 
 QString dotted(quint32 address)
 {
-    return u"%1.%2.%3.%4"_s.arg(address >> 24).arg((address >> 16) & 0xff).arg((address >> 8) & 0xff).arg(address & 0xff);
+    return u"%1.%2.%3.%4"_s.arg(address >> 24)
+        .arg((address >> 16) & 0xff)
+        .arg((address >> 8) & 0xff)
+        .arg(address & 0xff);
 }
 
 QVariantMap serviceState(const NetworkLink &link, quint32 gateway)
@@ -64,14 +67,14 @@ std::vector<StateStore::Changes> LinkEntries::update(const NetworkModel &model, 
         if (link && free.contains(link->name))
             changedHands.push_back(index);
         else if (link)
-            place(index, *link, gatewayOf(index), steps.front());
+            place(index, *link, gatewayOf, steps.front());
     }
     addLists(steps.front());
     if (changedHands.empty())
         return steps;
     steps.emplace_back();
     for (const int index : changedHands)
-        place(index, *model.link(index), gatewayOf(index), steps.back());
+        place(index, *model.link(index), gatewayOf, steps.back());
     addLists(steps.back());
     return steps;
 }
@@ -88,13 +91,13 @@ void LinkEntries::giveUp(int index, StateStore::Changes &changes)
     m_namesChanged = true;
 }
 
-void LinkEntries::place(int index, const NetworkLink &link, quint32 gateway, StateStore::Changes &changes)
+void LinkEntries::place(int index, const NetworkLink &link, const GatewayOf &gatewayOf, StateStore::Changes &changes)
 {
     m_namesChanged |= m_names.insert_or_assign(index, link.name).second;
     m_indexes.insert(link.name, index);
     if (link.isService()) {
         m_servicesChanged |= m_services.insert_or_assign(index, link.name).second;
-        changes[store::serviceIPv4Key(link.name)] = serviceState(link, gateway);
+        changes[store::serviceIPv4Key(link.name)] = serviceState(link, gatewayOf(index));
         changes[store::serviceInterfaceSetupKey(link.name)] = {{store::kSCPropNetInterfaceDeviceName, link.name}};
     } else if (m_services.erase(index) != 0) {
         m_servicesChanged = true;

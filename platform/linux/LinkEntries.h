@@ -34,7 +34,7 @@ public:
 
 private:
     void giveUp(int index, StateStore::Changes &changes);
-    void place(int index, const NetworkLink &link, quint32 gateway, StateStore::Changes &changes);
+    void place(int index, const NetworkLink &link, const GatewayOf &gatewayOf, StateStore::Changes &changes);
     void addLists(StateStore::Changes &changes);
 
     std::map<int, QString> m_names; ///< by interface index

@@ -1,5 +1,6 @@
 #include "platform/linux/NetlinkDynamicStore.h"
 
+#include "platform/LeaseFacts.h"
 #include "platform/SystemLog.h"
 #include "platform/linux/RouteMessages.h"
 
@@ -25,6 +26,11 @@ constexpr int mostRoundsAtOnce = 4;
 constexpr int messagesBetweenEvents = 32;
 constexpr std::chrono::milliseconds mostPatience = 30s;
 
+bool isLoopback(const NetworkLink &link)
+{
+    return std::ranges::all_of(link.addresses, [](const InterfaceAddress &own) { return own.local >> 24 == 127; });
+}
+
 /// @return the name of the link @p index; empty when there is none
 QString nameOfLink(int index)
 {
@@ -34,8 +40,9 @@ QString nameOfLink(int index)
 
 } // namespace
 
-NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
+NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &leases)
     : m_systemLog(systemLog)
+    , m_leases(leases)
     , m_available(m_events.isOpen() && m_events.subscribe())
     , m_patience(publicationDelay)
 {
@@ -46,8 +53,7 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
     m_notifier = std::make_unique<QSocketNotifier>(m_events.descriptor(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
         receiveEvents();
-        if (!m_publicationTimer.isActive())
-            m_publicationTimer.start(publicationDelay);
+        publishSoon();
     });
     m_readAgainTimer.setSingleShot(true);
     QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
@@ -57,6 +63,11 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
     m_publicationTimer.setSingleShot(true);
     QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
     publish();
+}
+
+NetlinkDynamicStore::~NetlinkDynamicStore()
+{
+    m_leases.watch({});
 }
 
 std::unique_ptr<DynamicStoreSession> NetlinkDynamicStore::createSession(const QString &name, Callback callback)
@@ -156,22 +167,63 @@ void NetlinkDynamicStore::settle()
         else
             return;
     }
+    receiveEvents(); // nothing that was held may wait for the next event
 }
 
 void NetlinkDynamicStore::publish()
 {
     settle();
     if (m_gap || m_model.areRoutesUncertain())
-        m_publicationTimer.start(publicationDelay);
+        publishSoon();
     if (m_gap)
         return;
 
     const QSet<int> removed = m_model.takeRemovedLinks();
     if (m_linkRemoved)
         std::ranges::for_each(removed, m_linkRemoved);
-    const auto steps = m_linkEntries.update(m_model, m_model.takeChangedLinks(), removed,
-                                            [this](int index) { return m_model.gateway(index); });
+    QSet<int> changed = m_model.takeChangedLinks();
+    followLeases(changed);
+    if (std::exchange(m_leasesChanged, false))
+        changed.unite(m_unrouted);
+    const auto steps = m_linkEntries.update(m_model, changed, removed, [this](int index) { return gateway(index); });
     std::ranges::for_each(steps, [this](const Changes &changes) { applyChanges(changes); });
+}
+
+void NetlinkDynamicStore::publishSoon()
+{
+    if (!m_publicationTimer.isActive())
+        m_publicationTimer.start(publicationDelay);
+}
+
+/// Watches leases as long as one of them may name a gateway that the kernel does not know. One may be written only after
+/// its address is there.
+void NetlinkDynamicStore::followLeases(const QSet<int> &changed)
+{
+    for (const int index : changed) {
+        const NetworkLink *const link = m_model.link(index);
+        if (link && link->isService() && m_model.gateway(index) == 0 && !isLoopback(*link))
+            m_unrouted.insert(index);
+        else
+            m_unrouted.remove(index);
+    }
+    if (m_unrouted.isEmpty()) {
+        m_leases.watch({});
+        return;
+    }
+    m_leases.watch([this] {
+        m_leasesChanged = true;
+        publishSoon();
+    });
+}
+
+quint32 NetlinkDynamicStore::gateway(int index) const
+{
+    if (!m_unrouted.contains(index))
+        return m_model.gateway(index);
+    const auto &addresses = m_model.link(index)->addresses;
+    return m_leases.gateway(index, [&](quint32 address) {
+        return std::ranges::find(addresses, address, &InterfaceAddress::local) != addresses.end();
+    });
 }
 
 } // namespace tarvo

@@ -7,6 +7,7 @@
 
 #include <QDeadlineTimer>
 #include <QList>
+#include <QSet>
 #include <QSocketNotifier>
 #include <QString>
 #include <QTimer>
@@ -18,18 +19,21 @@
 
 namespace tarvo {
 
+class LeaseFacts;
 class SystemLog;
 
 /// The state of the machine's network, as the kernel tells it over the routing netlink (rtnetlink(7)).
 ///
-/// The router of a service is its interface's best IPv4 default gateway, in whatever routing table; see `LinkEntries` for
-/// the rest.
+/// The router of a service is its interface's best IPv4 default gateway, in whatever routing table, or else the gateway
+/// that its lease names; see `LinkEntries` for the rest.
 ///
 /// Lives on one thread with an event loop. What changes is published together a fifth of a second later, so that a
 /// burst is one change, and a new link is first seen under the name that it is given.
 class NetlinkDynamicStore final : public StateStore {
 public:
-    explicit NetlinkDynamicStore(SystemLog &systemLog);
+    /// @param systemLog, leases  outlive the store
+    NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &leases);
+    ~NetlinkDynamicStore() override;
 
     /// @return null when the kernel gave no netlink socket
     std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
@@ -52,8 +56,12 @@ private:
     void readAgainLater();
     void settle();
     void publish();
+    void publishSoon();
+    void followLeases(const QSet<int> &changed);
+    quint32 gateway(int index) const;
 
     SystemLog &m_systemLog;
+    LeaseFacts &m_leases;
     NetlinkSocket m_events;
     bool m_available;
     NetworkModel m_model;
@@ -63,6 +71,8 @@ private:
     QDeadlineTimer m_nextGapLine;
 
     LinkEntries m_linkEntries;
+    QSet<int> m_unrouted; ///< services without a default gateway in the kernel
+    bool m_leasesChanged = false;
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
