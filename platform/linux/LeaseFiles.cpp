@@ -36,7 +36,7 @@ QByteArray readSmallFile(const QString &path)
     QFile file;
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return {};
-    struct stat status{};
+    struct stat status { };
     if (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > mostBytes)
         return {};
     return file.read(mostBytes);

@@ -21,6 +21,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto publicationDelay = 200ms; // udev takes less to rename a new link
+constexpr auto breath = 4ms; // in a storm, many events to a wake-up, but fewer than the socket holds
 constexpr auto gapLineInterval = 10s;
 constexpr int mostRoundsAtOnce = 4;
 constexpr int messagesBetweenEvents = 32;
@@ -54,7 +55,12 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &lease
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
         receiveEvents();
         publishSoon();
+        m_notifier->setEnabled(false);
+        m_breathTimer.start(breath);
     });
+    m_breathTimer.setSingleShot(true);
+    m_breathTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_breathTimer, &QTimer::timeout, m_notifier.get(), [this] { m_notifier->setEnabled(true); });
     m_readAgainTimer.setSingleShot(true);
     QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
         m_gap = true;

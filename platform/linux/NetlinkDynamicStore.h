@@ -76,6 +76,7 @@ private:
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_breathTimer; ///< runs while the notifier is off
     QTimer m_publicationTimer;
     QTimer m_readAgainTimer;
 };
