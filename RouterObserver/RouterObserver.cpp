@@ -167,6 +167,8 @@ void RouterObserver::updateSupportedInterfaceIPv4(DynamicStoreSession &session, 
 
 void RouterObserver::noteMissingGateways()
 {
+    if (!watchIPv4On_)
+        return;
     for (const QVariantMap &state : ipv4MonitorRls_->copyMultiple({store::anyServiceIPv4Pattern})) {
         const QString bsdName = interfaceNameOf(state).value_or(QString());
         const IOServiceHandle service = supportedBSDNames_.value(bsdName);

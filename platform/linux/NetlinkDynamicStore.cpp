@@ -51,6 +51,19 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &lease
         m_systemLog.write(u"network state: no netlink socket"_s);
         return;
     }
+    followEvents();
+    m_readAgainTimer.setSingleShot(true);
+    QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
+        m_gap = true;
+        publish();
+    });
+    m_publicationTimer.setSingleShot(true);
+    QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
+    publish();
+}
+
+void NetlinkDynamicStore::followEvents()
+{
     m_notifier = std::make_unique<QSocketNotifier>(m_events.descriptor(), QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
         receiveEvents();
@@ -61,14 +74,6 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &lease
     m_breathTimer.setSingleShot(true);
     m_breathTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_breathTimer, &QTimer::timeout, m_notifier.get(), [this] { m_notifier->setEnabled(true); });
-    m_readAgainTimer.setSingleShot(true);
-    QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
-        m_gap = true;
-        publish();
-    });
-    m_publicationTimer.setSingleShot(true);
-    QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
-    publish();
 }
 
 NetlinkDynamicStore::~NetlinkDynamicStore()
@@ -140,16 +145,11 @@ void NetlinkDynamicStore::readEverything()
         model.keepLinks(m_model, nameOfLink);
     m_model.takeAll(std::move(model));
     m_gap = false;
+    m_readAgainTimer.stop();
     if (outcome == NetlinkSocket::Dumped::Interrupted)
-        readAgainLater();
-    else
-        m_patience = publicationDelay;
-}
-
-void NetlinkDynamicStore::readAgainLater()
-{
-    m_readAgainTimer.start(m_patience);
-    m_patience = std::min(2 * m_patience, mostPatience);
+        m_readAgainTimer.start(m_patience);
+    m_patience =
+        outcome == NetlinkSocket::Dumped::Interrupted ? std::min(2 * m_patience, mostPatience) : publicationDelay;
 }
 
 void NetlinkDynamicStore::readRoutes()

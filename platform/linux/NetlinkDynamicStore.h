@@ -48,12 +48,12 @@ public:
     void announceServices();
 
 private:
+    void followEvents();
     bool receiveEvents();
     void noteGap();
     NetlinkSocket::Dumped read(const QList<int> &requests, NetworkModel &model);
     void readEverything();
     void readRoutes();
-    void readAgainLater();
     void settle();
     void publish();
     void publishSoon();
