@@ -8,6 +8,7 @@
 #include <QVariantList>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tarvo {
@@ -18,6 +19,9 @@ namespace {
 
 /// The longest interface name that is looked up, in bytes of UTF-8.
 constexpr qsizetype maxBSDNameSize = 255;
+
+/// How long a router may come after its interface's address.
+constexpr std::chrono::seconds gatewayPatience(3);
 
 QVariantList deviceIdentifiers(const QString &key)
 {
@@ -59,6 +63,8 @@ RouterObserver::RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &devic
     , systemLog_(systemLog)
     , preferences_{dynamicStore}
 {
+    gatewayPatience_.setSingleShot(true);
+    QObject::connect(&gatewayPatience_, &QTimer::timeout, &gatewayPatience_, [this] { noteMissingGateways(); });
 }
 
 RouterObserver::~RouterObserver() = default;
@@ -116,6 +122,7 @@ bool RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)
         if (known == supportedBSDNames_.cend() || interfaces.contains(bsdName))
             continue;
         if (supportedBSDNames_.keys(*known).size() == 1) {
+            withoutGateway_.remove(*known);
             interfaceRemoved(bsdName);
             reported = true;
         }
@@ -153,10 +160,27 @@ void RouterObserver::updateSupportedInterfaceIPv4(DynamicStoreSession &session, 
         if (service == 0 || !isSupportedIOService(service))
             continue;
         resetModemPlugedInTime();
-        ipv4Observer(readyDictionary(entry, service));
+        const ReadyDictionary ready = readyDictionary(entry, service);
+        if (!ready.router)
+            gatewayPatience_.start(gatewayPatience);
+        ipv4Observer(ready);
         return;
     }
     releaseModemPlugedInTime();
+}
+
+void RouterObserver::noteMissingGateways()
+{
+    if (!watchIPv4On_)
+        return;
+    for (const QVariantMap &state : ipv4MonitorRls_->copyMultiple({store::anyServiceIPv4Pattern})) {
+        const QString bsdName = interfaceNameOf(state).value_or(QString());
+        const IOServiceHandle service = supportedBSDNames_.value(bsdName);
+        if (service == 0 || state.contains(store::kSCPropNetIPv4Router) || withoutGateway_.contains(service))
+            continue;
+        withoutGateway_.insert(service);
+        systemLog_.write(bsdName + u": an address but no gateway"_s);
+    }
 }
 
 void RouterObserver::stopWatchSupportedInterfaceIPv4()

@@ -7,8 +7,10 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -37,7 +39,8 @@ struct RouterReports {
 
 /// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.
 ///
-/// Everything runs on the main thread, and reports are made synchronously from the store's callbacks.
+/// Everything runs on the main thread, and reports are made synchronously from the store's callbacks. A modem that has an
+/// address but stays without a router is logged, once for each device.
 class RouterObserver {
 public:
     RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog);
@@ -83,6 +86,7 @@ private:
     /// @return whether one was reported
     bool reportVanishedInterfaces(const QStringList &interfaces);
     bool hasEthernetRouter(IOServiceHandle service);
+    void noteMissingGateways();
 
     DynamicStore &dynamicStore_;
     DeviceRegistry &deviceRegistry_;
@@ -96,6 +100,8 @@ private:
     std::unique_ptr<DynamicStoreSession> ipv4MonitorRls_;
     bool watchIPv4On_ = false;
     std::optional<QDateTime> modemPlugedInTime_;
+    QTimer gatewayPatience_; ///< runs when an interface had no router lately
+    QSet<IOServiceHandle> withoutGateway_; ///< devices of which that has been logged
 };
 
 } // namespace tarvo

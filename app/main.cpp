@@ -4,6 +4,7 @@
 #include "platform/linux/Compositing.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopStatusBar.h"
+#include "platform/linux/LeaseFiles.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
 #include "platform/linux/SingleInstance.h"
@@ -34,7 +35,8 @@ int run(QApplication &application)
     if (const auto &problem = ConfigManager::sharedConfigManager().loadProblem())
         systemLog.write(*problem);
 
-    NetlinkDynamicStore dynamicStore(systemLog);
+    LeaseFiles leases;
+    NetlinkDynamicStore dynamicStore(systemLog, leases);
     // What waits for a device that could not be looked at hears of the same state once more, and asks again.
     QTimer lookAgain;
     lookAgain.setSingleShot(true);

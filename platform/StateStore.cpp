@@ -127,22 +127,30 @@ std::unique_ptr<DynamicStoreSession> StateStore::createSession(const QString &, 
     return std::make_unique<Session>(*this, std::move(callback));
 }
 
-void StateStore::replaceEntries(Entries entries)
+void StateStore::applyChanges(const Changes &changes)
 {
-    std::swap(m_entries, entries);
-    const Entries &before = entries;
     QStringList changed;
-    for (const auto &[key, value] : before.asKeyValueRange()) {
-        if (!m_entries.contains(key))
-            changed.append(key);
+    for (const auto &[key, value] : changes.asKeyValueRange()) {
+        const auto old = m_entries.constFind(key);
+        if (old == m_entries.cend() ? !value : value == *old)
+            continue;
+        changed.append(key);
+        if (value)
+            m_entries.insert(key, *value);
+        else
+            m_entries.remove(key);
     }
-    for (const auto &[key, value] : m_entries.asKeyValueRange()) {
-        const auto old = before.constFind(key);
-        if (old == before.cend() || *old != value)
-            changed.append(key);
-    }
-    changed.sort();
     notify(changed);
+}
+
+void StateStore::replaceEntries(const Entries &entries)
+{
+    Changes changes;
+    for (const auto &[key, value] : m_entries.asKeyValueRange())
+        changes.insert(key, std::nullopt);
+    for (const auto &[key, value] : entries.asKeyValueRange())
+        changes.insert(key, value);
+    applyChanges(changes);
 }
 
 void StateStore::announce(const QString &pattern)

@@ -13,6 +13,8 @@ namespace tarvo {
 class StateStore : public DynamicStore {
 public:
     using Entries = QMap<QString, QVariantMap>;
+    /// New values by key; nil for a key that goes.
+    using Changes = QMap<QString, std::optional<QVariantMap>>;
 
     StateStore() = default;
     StateStore(const StateStore &) = delete;
@@ -22,8 +24,11 @@ public:
 
     const Entries &entries() const { return m_entries; }
 
-    /// Replaces the whole state, then tells each session of each key whose value differs, in key order.
-    void replaceEntries(Entries entries);
+    /// Makes all of @p changes, then tells each session of each key whose value differs, in key order.
+    void applyChanges(const Changes &changes);
+
+    /// Replaces the whole state, and tells of it in the same way.
+    void replaceEntries(const Entries &entries);
 
     /// Tells each session that asked for any of the keys that match @p pattern whole of the pattern itself, once and
     /// although nothing changed: who looks at several entries can then choose among them.

@@ -1,5 +1,6 @@
 #include "platform/linux/NetlinkDynamicStore.h"
 
+#include "platform/LeaseFacts.h"
 #include "platform/SystemLog.h"
 #include "platform/linux/RouteMessages.h"
 
@@ -20,15 +21,29 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto publicationDelay = 200ms; // udev takes less to rename a new link
+constexpr auto breath = 4ms; // in a storm, many events to a wake-up, but fewer than the socket holds
 constexpr auto gapLineInterval = 10s;
 constexpr int mostRoundsAtOnce = 4;
 constexpr int messagesBetweenEvents = 32;
 constexpr std::chrono::milliseconds mostPatience = 30s;
 
+bool isLoopback(const NetworkLink &link)
+{
+    return std::ranges::all_of(link.addresses, [](const InterfaceAddress &own) { return own.local >> 24 == 127; });
+}
+
+/// @return the name of the link @p index; empty when there is none
+QString nameOfLink(int index)
+{
+    std::array<char, IF_NAMESIZE> name{};
+    return QString::fromUtf8(if_indextoname(static_cast<unsigned>(index), name.data()));
+}
+
 } // namespace
 
-NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
+NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &leases)
     : m_systemLog(systemLog)
+    , m_leases(leases)
     , m_available(m_events.isOpen() && m_events.subscribe())
     , m_patience(publicationDelay)
 {
@@ -36,12 +51,7 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
         m_systemLog.write(u"network state: no netlink socket"_s);
         return;
     }
-    m_notifier = std::make_unique<QSocketNotifier>(m_events.descriptor(), QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
-        receiveEvents();
-        if (!m_publicationTimer.isActive())
-            m_publicationTimer.start(publicationDelay);
-    });
+    followEvents();
     m_readAgainTimer.setSingleShot(true);
     QObject::connect(&m_readAgainTimer, &QTimer::timeout, &m_readAgainTimer, [this] {
         m_gap = true;
@@ -50,6 +60,25 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog)
     m_publicationTimer.setSingleShot(true);
     QObject::connect(&m_publicationTimer, &QTimer::timeout, &m_publicationTimer, [this] { publish(); });
     publish();
+}
+
+void NetlinkDynamicStore::followEvents()
+{
+    m_notifier = std::make_unique<QSocketNotifier>(m_events.descriptor(), QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] {
+        receiveEvents();
+        publishSoon();
+        m_notifier->setEnabled(false);
+        m_breathTimer.start(breath);
+    });
+    m_breathTimer.setSingleShot(true);
+    m_breathTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_breathTimer, &QTimer::timeout, m_notifier.get(), [this] { m_notifier->setEnabled(true); });
+}
+
+NetlinkDynamicStore::~NetlinkDynamicStore()
+{
+    m_leases.watch({});
 }
 
 std::unique_ptr<DynamicStoreSession> NetlinkDynamicStore::createSession(const QString &name, Callback callback)
@@ -113,22 +142,14 @@ void NetlinkDynamicStore::readEverything()
     if (outcome == NetlinkSocket::Dumped::Failed)
         return;
     if (outcome == NetlinkSocket::Dumped::Interrupted)
-        model.keepLinks(m_model,
-                        [](int index) { return if_indextoname(index, std::array<char, IF_NAMESIZE>().data()); });
-    model.setRoutesCertain();
-    m_removed.unite(m_model.takeRemovedLinks());
-    m_model = std::move(model);
+        model.keepLinks(m_model, nameOfLink);
+    m_model.takeAll(std::move(model));
     m_gap = false;
+    m_readAgainTimer.stop();
     if (outcome == NetlinkSocket::Dumped::Interrupted)
-        readAgainLater();
-    else
-        m_patience = publicationDelay;
-}
-
-void NetlinkDynamicStore::readAgainLater()
-{
-    m_readAgainTimer.start(m_patience);
-    m_patience = std::min(2 * m_patience, mostPatience);
+        m_readAgainTimer.start(m_patience);
+    m_patience =
+        outcome == NetlinkSocket::Dumped::Interrupted ? std::min(2 * m_patience, mostPatience) : publicationDelay;
 }
 
 void NetlinkDynamicStore::readRoutes()
@@ -152,39 +173,63 @@ void NetlinkDynamicStore::settle()
         else
             return;
     }
+    receiveEvents(); // nothing that was held may wait for the next event
 }
 
 void NetlinkDynamicStore::publish()
 {
     settle();
     if (m_gap || m_model.areRoutesUncertain())
-        m_publicationTimer.start(publicationDelay);
+        publishSoon();
     if (m_gap)
         return;
 
-    const QSet<QString> changedHands = updateIndexes(m_model.interfaceIndexes());
-    if (!changedHands.isEmpty())
-        replaceEntries(m_model.entries(changedHands));
-    replaceEntries(m_model.entries());
+    const QSet<int> removed = m_model.takeRemovedLinks();
+    if (m_linkRemoved)
+        std::ranges::for_each(removed, m_linkRemoved);
+    QSet<int> changed = m_model.takeChangedLinks();
+    followLeases(changed);
+    if (std::exchange(m_leasesChanged, false))
+        changed.unite(m_unrouted);
+    const auto steps = m_linkEntries.update(m_model, changed, removed, [this](int index) { return gateway(index); });
+    std::ranges::for_each(steps, [this](const Changes &changes) { applyChanges(changes); });
 }
 
-/// Makes @p indexes the published ones, and tells of the links that are gone.
-/// @return the names that belong to another link than before
-QSet<QString> NetlinkDynamicStore::updateIndexes(QHash<QString, int> indexes)
+void NetlinkDynamicStore::publishSoon()
 {
-    QSet<int> removed = std::exchange(m_removed, {}) + m_model.takeRemovedLinks();
-    const QSet<int> present(indexes.cbegin(), indexes.cend());
-    QSet<QString> changedHands;
-    for (const auto &[name, index] : m_published.asKeyValueRange()) {
-        if (!present.contains(index))
-            removed.insert(index);
-        if (indexes.contains(name) && (indexes.value(name) != index || removed.contains(index)))
-            changedHands.insert(name);
+    if (!m_publicationTimer.isActive())
+        m_publicationTimer.start(publicationDelay);
+}
+
+/// Watches leases as long as one of them may name a gateway that the kernel does not know. One may be written only after
+/// its address is there.
+void NetlinkDynamicStore::followLeases(const QSet<int> &changed)
+{
+    for (const int index : changed) {
+        const NetworkLink *const link = m_model.link(index);
+        if (link && link->isService() && m_model.gateway(index) == 0 && !isLoopback(*link))
+            m_unrouted.insert(index);
+        else
+            m_unrouted.remove(index);
     }
-    m_published = std::move(indexes);
-    if (m_linkRemoved)
-        std::ranges::for_each(std::as_const(removed), m_linkRemoved);
-    return changedHands;
+    if (m_unrouted.isEmpty()) {
+        m_leases.watch({});
+        return;
+    }
+    m_leases.watch([this] {
+        m_leasesChanged = true;
+        publishSoon();
+    });
+}
+
+quint32 NetlinkDynamicStore::gateway(int index) const
+{
+    if (!m_unrouted.contains(index))
+        return m_model.gateway(index);
+    const auto &addresses = m_model.link(index)->addresses;
+    return m_leases.gateway(index, [&](quint32 address) {
+        return std::ranges::find(addresses, address, &InterfaceAddress::local) != addresses.end();
+    });
 }
 
 } // namespace tarvo

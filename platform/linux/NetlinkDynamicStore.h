@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/StateStore.h"
+#include "platform/linux/LinkEntries.h"
 #include "platform/linux/NetlinkSocket.h"
 #include "platform/linux/NetworkModel.h"
 
 #include <QDeadlineTimer>
-#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QSocketNotifier>
@@ -19,24 +19,27 @@
 
 namespace tarvo {
 
+class LeaseFacts;
 class SystemLog;
 
 /// The state of the machine's network, as the kernel tells it over the routing netlink (rtnetlink(7)).
 ///
-/// An interface that is up and has an IPv4 address is a service of the interface's name, and its router is its best
-/// IPv4 default gateway, in whatever routing table. Services are ordered by interface index.
+/// The router of a service is its interface's best IPv4 default gateway, in whatever routing table, or else the gateway
+/// that its lease names; see `LinkEntries` for the rest.
 ///
 /// Lives on one thread with an event loop. What changes is published together a fifth of a second later, so that a
 /// burst is one change, and a new link is first seen under the name that it is given.
 class NetlinkDynamicStore final : public StateStore {
 public:
-    explicit NetlinkDynamicStore(SystemLog &systemLog);
+    /// @param systemLog, leases  outlive the store
+    NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &leases);
+    ~NetlinkDynamicStore() override;
 
     /// @return null when the kernel gave no netlink socket
     std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
 
     /// @return the index of the published interface @p name; 0 when there is none
-    int interfaceIndex(const QString &name) const { return m_published.value(name); }
+    int interfaceIndex(const QString &name) const { return m_linkEntries.interfaceIndex(name); }
 
     /// @return what is known of the interface @p index now
     InterfaceState interfaceState(int index) const { return m_model.interfaceState(index); }
@@ -48,17 +51,20 @@ public:
     void announceServices();
 
 private:
+    void followEvents();
     bool receiveEvents();
     void noteGap();
     NetlinkSocket::Dumped read(const QList<int> &requests, NetworkModel &model);
     void readEverything();
     void readRoutes();
-    void readAgainLater();
     void settle();
     void publish();
-    QSet<QString> updateIndexes(QHash<QString, int> indexes);
+    void publishSoon();
+    void followLeases(const QSet<int> &changed);
+    quint32 gateway(int index) const;
 
     SystemLog &m_systemLog;
+    LeaseFacts &m_leases;
     NetlinkSocket m_events;
     bool m_available;
     NetworkModel m_model;
@@ -67,11 +73,13 @@ private:
     std::chrono::milliseconds m_patience; ///< until what was read while it changed is read again
     QDeadlineTimer m_nextGapLine;
 
-    QHash<QString, int> m_published;
-    QSet<int> m_removed; ///< links that went since the last publication
+    LinkEntries m_linkEntries;
+    QSet<int> m_unrouted; ///< services without a default gateway in the kernel
+    bool m_leasesChanged = false;
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_breathTimer; ///< runs while the notifier is off
     QTimer m_publicationTimer;
     QTimer m_readAgainTimer;
 };

@@ -1,13 +1,12 @@
 #include "platform/linux/NetworkModel.h"
 
-#include <QStringList>
-#include <QVariantMap>
-
 #include <algorithm>
 #include <tuple>
 #include <utility>
 
 namespace tarvo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,59 +23,44 @@ auto rank(const DefaultRoute &route)
     return std::tuple(route.metric, route.table != mainTable, route.table);
 }
 
+} // namespace
+
 QString dotted(quint32 address)
 {
-    return QStringLiteral("%1.%2.%3.%4")
-        .arg(address >> 24)
+    return u"%1.%2.%3.%4"_s.arg(address >> 24)
         .arg((address >> 16) & 0xff)
         .arg((address >> 8) & 0xff)
         .arg(address & 0xff);
 }
 
-QStringList withPrefixLengths(const std::set<InterfaceAddress> &addresses)
-{
-    QStringList texts;
-    for (const InterfaceAddress &address : addresses)
-        texts.append(QStringLiteral("%1/%2").arg(dotted(address.local)).arg(address.prefixLength));
-    return texts;
-}
-
-void insertService(StateStore::Entries &entries, const QString &name, const std::set<InterfaceAddress> &addresses,
-                   const QString &router)
-{
-    QVariantMap state{{store::kSCPropInterfaceName, name},
-                      {store::kSCPropNetIPv4Addresses, withPrefixLengths(addresses)}};
-    if (!router.isEmpty())
-        state.insert(store::kSCPropNetIPv4Router, router);
-    entries.insert(store::serviceIPv4Key(name), state);
-    entries.insert(store::serviceInterfaceSetupKey(name), {{store::kSCPropNetInterfaceDeviceName, name}});
-}
-
-} // namespace
-
 void NetworkModel::setLink(int index, const QString &name, bool up)
 {
-    Link &link = m_links[index];
+    const auto [known, isNew] = m_links.try_emplace(index);
+    NetworkLink &link = known->second;
     if (link.up && !up)
         dropRoutesOf(index);
     if (!link.up && up)
         m_routesUncertain = true;
+    if (isNew || link.up != up || link.name != name)
+        m_changedLinks.insert(index);
     link.name = name;
     link.up = up;
 }
 
 void NetworkModel::removeLink(int index)
 {
-    if (m_links.erase(index) != 0)
+    if (m_links.erase(index) != 0) {
         m_removedLinks.insert(index);
+        m_changedLinks.insert(index);
+    }
     dropRoutesOf(index);
 }
 
 void NetworkModel::addAddress(int index, const InterfaceAddress &address)
 {
     const auto link = m_links.find(index);
-    if (link != m_links.end())
-        link->second.addresses.insert(address);
+    if (link != m_links.end() && link->second.addresses.insert(address).second)
+        m_changedLinks.insert(index);
 }
 
 void NetworkModel::removeAddress(int index, const InterfaceAddress &address)
@@ -84,24 +68,29 @@ void NetworkModel::removeAddress(int index, const InterfaceAddress &address)
     const auto link = m_links.find(index);
     if (link == m_links.end())
         return;
-    link->second.addresses.erase(address);
+    if (link->second.addresses.erase(address) != 0)
+        m_changedLinks.insert(index);
     if (!m_routes.empty())
         m_routesUncertain = true; // routes that prefer this source address, or all of the link's, left silently
 }
 
 void NetworkModel::addRoute(const DefaultRoute &route)
 {
-    if (std::ranges::find(m_routes, route) == m_routes.end())
-        m_routes.push_back(route);
+    if (std::ranges::find(m_routes, route) != m_routes.end())
+        return;
+    m_routes.push_back(route);
+    m_routesChanged = true;
 }
 
 void NetworkModel::replaceRoute(const DefaultRoute &route)
 {
     const auto old = onlyRouteLike(route);
-    if (old != m_routes.end())
-        *old = route;
-    else
+    if (old == m_routes.end()) {
         addRoute(route);
+        return;
+    }
+    *old = route;
+    m_routesChanged = true;
 }
 
 void NetworkModel::removeRoute(const DefaultRoute &route)
@@ -111,8 +100,10 @@ void NetworkModel::removeRoute(const DefaultRoute &route)
         gone = onlyRouteLike(route); // next hops may have been dropped from it since, or it took the other's place
         m_routesUncertain |= gone != m_routes.end();
     }
-    if (gone != m_routes.end())
-        m_routes.erase(gone);
+    if (gone == m_routes.end())
+        return;
+    m_routes.erase(gone);
+    m_routesChanged = true;
 }
 
 /// @return the one route that @p route can mean; the end when there is none, or when several leave it open which
@@ -129,44 +120,62 @@ std::vector<DefaultRoute>::iterator NetworkModel::onlyRouteLike(const DefaultRou
 void NetworkModel::dropRoutesOf(int index)
 {
     for (DefaultRoute &route : m_routes)
-        std::erase_if(route.nextHops, [=](const NextHop &hop) { return hop.interfaceIndex == index; });
+        m_routesChanged |=
+            std::erase_if(route.nextHops, [=](const NextHop &hop) { return hop.interfaceIndex == index; }) != 0;
     std::erase_if(m_routes, [](const DefaultRoute &route) { return route.nextHops.empty(); });
 }
 
 void NetworkModel::takeRoutes(NetworkModel read)
 {
     m_routes = std::move(read.m_routes);
+    m_routesChanged = true;
     setRoutesCertain();
 }
 
-void NetworkModel::keepLinks(const NetworkModel &before, const std::function<bool(int index)> &exists)
+void NetworkModel::takeAll(NetworkModel read)
+{
+    for (const auto &[index, link] : m_links) {
+        const NetworkLink *const now = read.link(index);
+        if (!now)
+            m_removedLinks.insert(index);
+        if (!now || *now != link)
+            m_changedLinks.insert(index);
+    }
+    for (const auto &[index, link] : read.m_links) {
+        if (!m_links.contains(index))
+            m_changedLinks.insert(index);
+    }
+    m_links = std::move(read.m_links);
+    takeRoutes(std::move(read));
+}
+
+void NetworkModel::keepLinks(const NetworkModel &before, const std::function<QString(int index)> &currentName)
 {
     for (const auto &[index, old] : before.m_links) {
         const auto link = m_links.find(index);
-        if (link == m_links.end() && exists(index))
-            m_links.emplace(index, old);
+        const QString name = link == m_links.end() ? currentName(index) : QString();
+        if (!name.isEmpty())
+            m_links.insert({index, {name, old.up, old.addresses}});
         else if (link != m_links.end() && link->second.addresses.empty())
             link->second.addresses = old.addresses;
     }
 }
 
-QHash<QString, int> NetworkModel::interfaceIndexes() const
+const NetworkLink *NetworkModel::link(int index) const
 {
-    QHash<QString, int> indexes;
-    for (const auto &[index, link] : m_links)
-        indexes.insert(link.name, index);
-    return indexes;
+    const auto link = m_links.find(index);
+    return link == m_links.end() ? nullptr : &link->second;
 }
 
-QHash<int, QString> NetworkModel::routers() const
+QHash<int, quint32> NetworkModel::bestGateways() const
 {
     std::vector<DefaultRoute> routes = m_routes;
     std::ranges::stable_sort(routes, {}, rank);
-    QHash<int, QString> best;
+    QHash<int, quint32> best;
     for (const DefaultRoute &route : routes) {
         for (const NextHop &hop : route.nextHops) {
             if (hop.gateway != 0 && !best.contains(hop.interfaceIndex))
-                best.insert(hop.interfaceIndex, dotted(hop.gateway));
+                best.insert(hop.interfaceIndex, hop.gateway);
         }
     }
     return best;
@@ -187,7 +196,9 @@ InterfaceState NetworkModel::interfaceState(int index) const
     const auto link = m_links.find(index);
     if (link == m_links.end())
         return {};
-    InterfaceState state{.isUp = link->second.up, .gateway = routers().value(index)};
+    InterfaceState state{.isUp = link->second.up, .gateway = {}};
+    if (const quint32 gateway = bestGateways().value(index))
+        state.gateway = dotted(gateway);
     for (const InterfaceAddress &address : link->second.addresses)
         state.addresses.append(dotted(address.local));
     if (state.gateway.isEmpty())
@@ -195,24 +206,20 @@ InterfaceState NetworkModel::interfaceState(int index) const
     return state;
 }
 
-StateStore::Entries NetworkModel::entries(const QSet<QString> &hidden) const
+QSet<int> NetworkModel::takeChangedLinks()
 {
-    const QHash<int, QString> routerOf = routers();
-    StateStore::Entries entries;
-    QStringList names;
-    QStringList services;
-    for (const auto &[index, link] : m_links) {
-        if (hidden.contains(link.name))
-            continue;
-        names.append(link.name);
-        if (!link.up || link.addresses.empty())
-            continue;
-        services.append(link.name);
-        insertService(entries, link.name, link.addresses, routerOf.value(index));
+    if (std::exchange(m_routesChanged, false)) {
+        const QHash<int, quint32> before = std::exchange(m_gateways, bestGateways());
+        for (const auto &[index, gateway] : before.asKeyValueRange()) {
+            if (m_gateways.value(index) != gateway)
+                m_changedLinks.insert(index);
+        }
+        for (const auto &[index, gateway] : m_gateways.asKeyValueRange()) {
+            if (!before.contains(index))
+                m_changedLinks.insert(index);
+        }
     }
-    entries.insert(store::interfaceListKey, {{store::kSCDynamicStorePropNetInterfaces, names}});
-    entries.insert(store::globalIPv4SetupKey, {{store::kSCPropNetServiceOrder, services}});
-    return entries;
+    return std::exchange(m_changedLinks, {});
 }
 
 } // namespace tarvo

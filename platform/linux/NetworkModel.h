@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/InterfaceState.h"
-#include "platform/StateStore.h"
 
 #include <QHash>
 #include <QSet>
@@ -43,8 +42,22 @@ struct DefaultRoute {
     bool operator==(const DefaultRoute &) const = default;
 };
 
-/// The machine's links, IPv4 addresses and IPv4 default routes, kept up to date one kernel message at a time, and the
-/// store entries that follow from them.
+/// A link of the machine, and its IPv4 addresses.
+struct NetworkLink {
+    QString name;
+    bool up = false;
+    std::set<InterfaceAddress> addresses;
+
+    /// @return whether the link can carry IPv4 traffic
+    bool isService() const { return up && !addresses.empty(); }
+
+    bool operator==(const NetworkLink &) const = default;
+};
+
+/// @return @p address, in host byte order, as four decimal numbers with dots
+QString dotted(quint32 address);
+
+/// The machine's links, IPv4 addresses and IPv4 default routes, kept up to date one kernel message at a time.
 ///
 /// The kernel does not say when routes leave with a link that goes down, with an address, or with a nexthop object,
 /// nor when they return with a link that comes up. The model drops what must be gone and otherwise marks its routes as
@@ -66,39 +79,39 @@ public:
     bool areRoutesUncertain() const { return m_routesUncertain; }
     /// Takes the routes of @p read, a model into which all routes have just been read, for certain.
     void takeRoutes(NetworkModel read);
+    /// Takes all of @p read, a model into which everything has just been read, for certain.
+    void takeAll(NetworkModel read);
 
-    /// Keeps, with its addresses, what a model into which everything has just been read may lack because links came and
-    /// went meanwhile: the links of @p before that @p exists, and the addresses of those that seem to have none.
-    void keepLinks(const NetworkModel &before, const std::function<bool(int index)> &exists);
+    /// Adds what a model into which everything has just been read may lack because links came and went meanwhile: the
+    /// links of @p before that are still there, and the addresses of those that seem to have none.
+    /// @param currentName  the name that a link has by now; empty when it is gone
+    void keepLinks(const NetworkModel &before, const std::function<QString(int index)> &currentName);
 
+    /// @return the link of @p index; null when there is none. Valid until the next change.
+    const NetworkLink *link(int index) const;
+    /// @return the best default gateway of a link, as of the last @ref takeChangedLinks; 0 when it has none
+    quint32 gateway(int index) const { return m_gateways.value(index); }
+
+    /// @return the indexes of the links that came, went or changed since the last call, they or their gateways
+    QSet<int> takeChangedLinks();
     /// @return the indexes of the links that were removed since the last call
     QSet<int> takeRemovedLinks() { return std::exchange(m_removedLinks, {}); }
 
-    /// @return the index of each link, by name
-    QHash<QString, int> interfaceIndexes() const;
-
     /// @return what is known of the link @p index
     InterfaceState interfaceState(int index) const;
-
-    /// @return the store entries as if the links named @p hidden were not there
-    StateStore::Entries entries(const QSet<QString> &hidden = {}) const;
-
 private:
-    struct Link {
-        QString name;
-        bool up = false;
-        std::set<InterfaceAddress> addresses;
-    };
-
     std::vector<DefaultRoute>::iterator onlyRouteLike(const DefaultRoute &route);
     void dropRoutesOf(int index);
-    QHash<int, QString> routers() const;
     /// @return a link other than @p index, over which the main table's default route of metric 0 leads; empty for none
     QString routeWithoutMetricBeside(int index) const;
+    QHash<int, quint32> bestGateways() const;
 
-    std::map<int, Link> m_links;
+    std::map<int, NetworkLink> m_links;
     std::vector<DefaultRoute> m_routes;
+    QHash<int, quint32> m_gateways;
     bool m_routesUncertain = false;
+    bool m_routesChanged = false;
+    QSet<int> m_changedLinks;
     QSet<int> m_removedLinks;
 };
 

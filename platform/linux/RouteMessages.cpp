@@ -99,6 +99,32 @@ void collectNextHop(rtnl_nexthop *hop, void *route)
         static_cast<DefaultRoute *>(route)->nextHops.push_back({rtnl_route_nh_get_ifindex(hop), gatewayOf(hop)});
 }
 
+/// @return whether each next hop says a length that leads to the one after it: libnl follows them without looking
+bool areHopsSound(const nlattr *multipath)
+{
+    int remaining = nla_len(multipath);
+    const auto *hop = static_cast<const rtnexthop *>(nla_data(multipath));
+    while (remaining >= int(sizeof(rtnexthop))) {
+        if (hop->rtnh_len < sizeof(rtnexthop) || hop->rtnh_len > remaining)
+            return false;
+        remaining -= int(RTNH_ALIGN(hop->rtnh_len));
+        hop = reinterpret_cast<const rtnexthop *>(reinterpret_cast<const char *>(hop) + RTNH_ALIGN(hop->rtnh_len));
+    }
+    return true;
+}
+
+bool areHopsSound(nlmsghdr *header)
+{
+    const nlattr *attribute = nullptr;
+    int remaining = 0;
+    nlmsg_for_each_attr(attribute, header, sizeof(rtmsg), remaining)
+    {
+        if (nla_type(attribute) == RTA_MULTIPATH && !areHopsSound(attribute))
+            return false;
+    }
+    return true;
+}
+
 /// @return the route in the message; nil when it is no default route that carries traffic
 std::optional<DefaultRoute> defaultRoute(nlmsghdr *header)
 {
@@ -106,7 +132,7 @@ std::optional<DefaultRoute> defaultRoute(nlmsghdr *header)
         return std::nullopt;
     const auto *const info = static_cast<const rtmsg *>(nlmsg_data(header));
     if (info->rtm_family != AF_INET || info->rtm_dst_len != 0 || info->rtm_type != RTN_UNICAST
-        || (info->rtm_flags & RTM_F_CLONED) != 0)
+        || (info->rtm_flags & RTM_F_CLONED) != 0 || !areHopsSound(header))
         return std::nullopt;
     rtnl_route *parsed = nullptr;
     if (rtnl_route_parse(header, &parsed) < 0)

@@ -7,6 +7,7 @@
 #include "simulator/SimulatedNetwork.h"
 #include "tests/support/PrintQt.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -148,6 +149,20 @@ TEST_F(RouterObserverTest, ReportsRemovalOnceAndAReplugByTheSameWatch)
     EXPECT_EQ(ready_.size(), 2);
     network_.removeInterface(u"en5"_s);
     EXPECT_EQ(removed_.size(), 2);
+}
+
+TEST_F(RouterObserverTest, LogsOnceThatAModemStaysWithoutGateway)
+{
+    plugIn(u"en5"_s, std::nullopt);
+    network_.addInterface(u"bridge"_s);
+    network_.setIPv4(u"bridge"_s, std::nullopt);
+    observer_.startWatchNetworkInterface(reports_);
+    while (log_.lines().isEmpty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    plugIn(u"en6"_s, std::nullopt);
+    while (log_.lines().size() == 1)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(log_.lines(), (QStringList{u"en5: an address but no gateway"_s, u"en6: an address but no gateway"_s}));
 }
 
 TEST_F(RouterObserverTest, AfterARemovalAndWhenToldAfreshTheFirstModemIsReady)

@@ -1,15 +1,19 @@
 #include "platform/linux/NetlinkDynamicStore.h"
 
+#include "platform/linux/LeaseFiles.h"
 #include "simulator/RecordingLog.h"
 #include "tests/support/PrintQt.h"
 #include "tests/support/VirtualDesktop.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <net/if.h>
 #include <sched.h>
+#include <stdio.h>
 #include <unistd.h>
 
 #include <optional>
@@ -53,7 +57,7 @@ protected:
             GTEST_SKIP() << "no network namespace can be made here";
         ip(u"link add en5 type veth peer name far5\nlink set far5 up\n"
            "addr add 192.168.8.100/24 dev en5\nlink set en5 up\nroute add default via 192.168.8.1"_s);
-        m_store.emplace(m_log);
+        m_store.emplace(m_log, m_leases);
         m_session = m_store->createSession(u"observer"_s, [this](auto &, const auto &keys) { m_told += keys; });
         m_session->setNotificationPatterns({u".*"_s});
     }
@@ -64,6 +68,17 @@ protected:
         return state ? state->value(store::kSCPropNetIPv4Router, u"no router"_s).toString() : u"no service"_s;
     }
 
+    /// Puts a lease where the programs that configure networks keep them, as they do: under another name first.
+    void writeLease(const QString &folder, const QByteArray &contents)
+    {
+        const QString path = m_run.filePath(folder + u"/%1"_s.arg(m_store->interfaceIndex(u"en5"_s)));
+        QFile file(path + u"~"_s);
+        ASSERT_TRUE(QDir(m_run.path()).mkpath(folder) && file.open(QIODevice::WriteOnly) && file.write(contents) > 0);
+        ASSERT_TRUE(file.flush() && ::rename(qPrintable(file.fileName()), qPrintable(path)) == 0);
+    }
+
+    QTemporaryDir m_run;
+    LeaseFiles m_leases{m_run.path()};
     RecordingLog m_log;
     std::optional<NetlinkDynamicStore> m_store;
     std::unique_ptr<DynamicStoreSession> m_session;
@@ -117,6 +132,23 @@ TEST_F(NetlinkDynamicStoreTest, TellsOnlyOfRealChanges)
     m_told.clear();
     m_store->announceServices();
     EXPECT_EQ(m_told, QStringList{store::anyServiceIPv4Pattern});
+}
+
+TEST_F(NetlinkDynamicStoreTest, FindsTheGatewayOfALeaseWhereThereIsNoRoute)
+{
+    const auto becomes = [this](const QString &expected) { return waitFor([&] { return router() == expected; }); };
+    writeLease(u"systemd/netif/leases"_s, "ROUTER=192.168.8.3\nADDRESS=192.168.8.99\n");
+    ip(u"route del default"_s);
+    EXPECT_TRUE(becomes(u"no router"_s)) << "the lease is of another address";
+    writeLease(u"systemd/netif/leases"_s, "# private\nADDRESS=192.168.8.100\nROUTER=192.168.8.3 192.168.8.4\n");
+    EXPECT_TRUE(becomes(u"192.168.8.3"_s));
+    writeLease(u"systemd/netif/leases"_s, "ADDRESS=192.168.8.100\nROUTER=192.168.8.256\n");
+    EXPECT_TRUE(becomes(u"no router"_s));
+    writeLease(u"NetworkManager/devices"_s, "[dhcp4]\ndhcp4.ip_address=192.168.8.100\ndhcp4.routers=192.168.8.5\n");
+    ip(u"link set en5 mtu 1400"_s);
+    EXPECT_TRUE(becomes(u"192.168.8.5"_s)) << "in a folder that came later, with the next event";
+    ip(u"route add default via 192.168.8.1"_s);
+    EXPECT_TRUE(becomes(u"192.168.8.1"_s));
 }
 
 TEST_F(NetlinkDynamicStoreTest, TakesANameAwayBeforeAnotherLinkHasIt)

@@ -1,10 +1,13 @@
-#include "platform/linux/NetworkModel.h"
-
+#include "platform/linux/LinkEntries.h"
 #include "tests/support/PrintQt.h"
 
 #include <QList>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
 
 namespace tarvo {
 
@@ -32,9 +35,33 @@ NetworkModel twoServices()
     return model;
 }
 
+void update(LinkEntries &entries, NetworkModel &model, StateStore &store)
+{
+    const QSet<int> removed = model.takeRemovedLinks();
+    const QSet<int> changed = model.takeChangedLinks();
+    for (const auto &changes : entries.update(model, changed, removed, [&](int index) { return model.gateway(index); }))
+        store.applyChanges(changes);
+}
+
+StateStore::Entries entriesOf(const NetworkModel &model)
+{
+    LinkEntries entries;
+    NetworkModel copy;
+    StateStore store;
+    copy.takeAll(model);
+    update(entries, copy, store);
+    return store.entries();
+}
+
+bool isTaken(const NetworkModel &model, const QString &name)
+{
+    return std::ranges::any_of(QList{1, 2, 3, 4, 5, 6},
+                               [&](int index) { return model.link(index) && model.link(index)->name == name; });
+}
+
 QString routerOf(const NetworkModel &model, const QString &name)
 {
-    return model.entries()[store::serviceIPv4Key(name)].value(store::kSCPropNetIPv4Router, u"no router"_s).toString();
+    return entriesOf(model)[store::serviceIPv4Key(name)].value(store::kSCPropNetIPv4Router, u"no router"_s).toString();
 }
 
 TEST(NetworkModel, ListsLinksAndServicesInIndexOrder)
@@ -43,7 +70,7 @@ TEST(NetworkModel, ListsLinksAndServicesInIndexOrder)
     model.setLink(4, u"virtual"_s, true);
     model.setLink(7, u"down"_s, false);
     model.addAddress(7, address);
-    const auto entries = model.entries();
+    const auto entries = entriesOf(model);
     EXPECT_EQ(entries[store::interfaceListKey][store::kSCDynamicStorePropNetInterfaces].toStringList(),
               (QStringList{u"virtual"_s, u"en5"_s, u"en6"_s, u"down"_s}));
     EXPECT_EQ(entries[store::globalIPv4SetupKey][store::kSCPropNetServiceOrder].toStringList(),
@@ -119,8 +146,41 @@ TEST(NetworkModel, ADisturbedReadingTakesAwayOnlyWhatIsGone)
     read.setLink(5, u"en5"_s, true);
     NetworkModel before = twoServices();
     before.setLink(7, u"gone"_s, true);
-    read.keepLinks(before, [](int index) { return index != 7; });
-    EXPECT_EQ(read.entries(), twoServices().entries());
+    read.keepLinks(before, [](int index) { return index == 7 ? QString() : u"en%1"_s.arg(index); });
+    EXPECT_EQ(entriesOf(read), entriesOf(twoServices()));
+}
+
+TEST(NetworkModel, EntriesThatAreKeptAreThoseThatWouldBeMadeAnew)
+{
+    std::minstd_rand random(1);
+    const auto upTo = [&](int most) { return int(random() % unsigned(most)) + 1; };
+    NetworkModel model;
+    LinkEntries entries;
+    StateStore store;
+    for (int i = 0; i < 20000; ++i) {
+        const int index = upTo(4);
+        const QString name = u"en%1"_s.arg(upTo(6));
+        const InterfaceAddress some{quint32(upTo(2)), 1, 24};
+        const DefaultRoute route{mainTable, 0, 0, {{upTo(4), quint32(upTo(3))}}};
+        const std::function<void()> steps[]{
+            [&] {
+                if (!isTaken(model, name))
+                    model.setLink(index, name, upTo(3) > 1);
+            },
+            [&] { model.removeLink(index); },
+            [&] { model.addAddress(index, some); },
+            [&] { model.removeAddress(index, some); },
+            [&] { model.addRoute(route); },
+            [&] { model.removeRoute(route); },
+            [&] { model.takeAll(twoServices()); },
+            [&] { update(entries, model, store); },
+        };
+        steps[upTo(8) - 1]();
+        if (upTo(10) == 1) {
+            update(entries, model, store);
+            ASSERT_EQ(store.entries(), entriesOf(model)) << i;
+        }
+    }
 }
 
 } // namespace
