@@ -26,9 +26,12 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape xcb-res)
 
 find_package(Threads REQUIRED)
 
-if(TARVO_BUILD_TESTS)
+if(TARVO_BUILD_TESTS OR TARVO_BUILD_DEMO)
   # The simulated modem's web server.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+endif()
+
+if(TARVO_BUILD_TESTS)
   # Waits that run the event loop, and pointer events, in the tests of windows.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   # The test framework.
@@ -36,6 +39,8 @@ if(TARVO_BUILD_TESTS)
   # USB devices that are not there, beside real network interfaces.
   pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0)
   find_program(UMOCKDEV_WRAPPER umockdev-wrapper REQUIRED)
+  # The settings' service of the panel that hosts status items in the tests.
+  find_program(XFCONFD xfconfd PATHS "/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/xfce4/xfconf" REQUIRED)
   # The end-to-end test; it needs ip (iproute2), unshare and nsenter (util-linux) as well.
   find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 endif()

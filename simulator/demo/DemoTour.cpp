@@ -2,6 +2,7 @@
 
 #include "simulator/demo/DemoWindow.h"
 #include "simulator/demo/DemoWorld.h"
+#include "simulator/demo/Pictures.h"
 #include "ui/CustomView.h"
 
 #include <QApplication>
@@ -56,24 +57,6 @@ QDialog *visiblePanel()
     return nullptr;
 }
 
-QPixmap screenPicture(const QRect &part)
-{
-    return QGuiApplication::primaryScreen()->grabWindow(0, part.x(), part.y(), part.width(), part.height());
-}
-
-/// @return whether the screen shows more than one plain colour in @p part
-bool isDrawnIn(const QRect &part)
-{
-    const QImage image = screenPicture(part).toImage();
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                return true;
-        }
-    }
-    return false;
-}
-
 } // namespace
 
 DemoTour::DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures)
@@ -83,11 +66,13 @@ DemoTour::DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures)
 {
 }
 
-void DemoTour::seeTray()
+void DemoTour::seeDesktop()
 {
-    begin(u"The icon is in the system tray"_s);
+    begin(u"The window and the icon find their places on the desktop"_s);
+    check(u"a window manager gives the window a frame"_s,
+          eventually([this] { return m_window.frameGeometry() != m_window.geometry(); }));
     const auto hasPlace = [this] { return m_world.statusBar().iconFrame().has_value(); };
-    check(u"it has a place there"_s, eventually(hasPlace));
+    check(u"the icon has a place in a tray"_s, eventually(hasPlace));
     check(u"it is drawn there"_s,
           eventually([&] { return hasPlace() && isDrawnIn(*m_world.statusBar().iconFrame()); }));
 }
@@ -111,6 +96,8 @@ void DemoTour::start()
     begin(u"The companion starts; no modem is plugged in"_s);
     check(u"it says that it is up"_s, m_world.systemLog().contains(u"Tarvo init success"_s));
     check(u"the icon shows \"ready\""_s, eventually([this] { return image() == u"ready"; }));
+    const CustomView *icon = m_world.statusBar().icon();
+    check(u"the icon is a picture"_s, icon && !isPlain(icon->icon().pixmap(22).toImage()));
     check(u"it is not polling"_s, m_world.controller().news().stopProcModemStatus());
     takePicture(u"waiting"_s);
     end();
@@ -288,10 +275,14 @@ void DemoTour::takePicture(const QString &name)
     m_window.refresh();
     eventually([] { return false; }, 300ms); // what has just been shown gets drawn
     const QString file = u"%1-%2"_s.arg(++m_pictureNumber, 2, 10, QChar(u'0')).arg(name);
-    m_window.grab().save(m_pictures.filePath(file + u"-window.png"_s));
-    if (QGuiApplication::platformName() == u"xcb")
-        screenPicture(QGuiApplication::primaryScreen()->geometry()).save(m_pictures.filePath(file + u"-desktop.png"_s));
-    say(u"  picture "_s + file);
+    const QImage window = m_window.grab().toImage();
+    check(u"picture %1-window"_s.arg(file),
+          !isPlain(window) && window.save(m_pictures.filePath(file + u"-window.png"_s)));
+    if (QGuiApplication::platformName() != u"xcb")
+        return;
+    const bool drawn = eventually([this] { return isDrawnIn(m_window.geometry()); });
+    const QPixmap desktop = screenPicture(QGuiApplication::primaryScreen()->geometry());
+    check(u"picture %1-desktop"_s.arg(file), drawn && desktop.save(m_pictures.filePath(file + u"-desktop.png"_s)));
 }
 
 QString DemoTour::image() const

@@ -21,8 +21,8 @@ public:
     /// @param pictures  an existing folder
     DemoTour(DemoWorld &world, DemoWindow &window, const QDir &pictures);
 
-    /// Checks that the icon is drawn in a system tray.
-    void seeTray();
+    /// Waits for a window manager and a system tray, and checks that the icon is drawn there.
+    void seeDesktop();
 
     /// Runs the whole tour, about a minute, while events are handled. @return whether every check passed
     bool run();
@@ -46,6 +46,7 @@ private:
     /// Lets events be handled until @p condition holds. @return whether it did within @p limit
     bool eventually(const std::function<bool()> &condition,
                     std::chrono::milliseconds limit = std::chrono::seconds(25)) const;
+    /// Saves what the window, and the screen where there is one, show. It counts as a failure when that is blank.
     void takePicture(const QString &name);
 
     QString image() const;

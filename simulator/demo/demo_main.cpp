@@ -27,7 +27,7 @@ int main(int argc, char **argv)
     parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
     parser.addHelpOption();
     parser.addOption({u"tour"_s, u"Play a tour of about a minute, and leave pictures of it in FOLDER."_s, u"FOLDER"_s});
-    parser.addOption({u"tray"_s, u"Expect the icon in a system tray during the tour."_s});
+    parser.addOption({u"desktop"_s, u"Expect a window manager and a system tray during the tour."_s});
     parser.process(application);
     const bool isTour = parser.isSet(u"tour"_s);
 
@@ -45,7 +45,7 @@ int main(int argc, char **argv)
     const QDir pictures(parser.value(u"tour"_s));
     pictures.mkpath(u"."_s);
     tarvo::DemoTour tour(world, window, pictures);
-    if (parser.isSet(u"tray"_s))
-        tour.seeTray();
+    if (parser.isSet(u"desktop"_s))
+        tour.seeDesktop();
     return tour.run() ? 0 : 1;
 }
