@@ -36,6 +36,9 @@ public:
     /// @return the index of the published interface @p name; 0 when there is none
     int interfaceIndex(const QString &name) const { return m_published.value(name); }
 
+    /// @return what is known of the interface @p index now
+    InterfaceState interfaceState(int index) const { return m_model.interfaceState(index); }
+
     /// Called with the index of each link that is gone, before that is published.
     void setLinkRemovedHandler(std::function<void(int interfaceIndex)> handler) { m_linkRemoved = std::move(handler); }
 

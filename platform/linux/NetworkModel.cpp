@@ -149,6 +149,29 @@ QHash<int, QString> NetworkModel::routers() const
     return best;
 }
 
+QString NetworkModel::routeWithoutMetricBeside(int index) const
+{
+    const auto route = std::ranges::find_if(
+        m_routes, [](const DefaultRoute &one) { return one.table == mainTable && one.metric == 0; });
+    if (route == m_routes.end() || route->nextHops.empty() || route->nextHops.front().interfaceIndex == index)
+        return {};
+    const auto link = m_links.find(route->nextHops.front().interfaceIndex);
+    return link == m_links.end() ? QString() : link->second.name;
+}
+
+InterfaceState NetworkModel::interfaceState(int index) const
+{
+    const auto link = m_links.find(index);
+    if (link == m_links.end())
+        return {};
+    InterfaceState state{.isUp = link->second.up, .gateway = routers().value(index)};
+    for (const InterfaceAddress &address : link->second.addresses)
+        state.addresses.append(dotted(address.local));
+    if (state.gateway.isEmpty())
+        state.routeWithoutMetric = routeWithoutMetricBeside(index);
+    return state;
+}
+
 StateStore::Entries NetworkModel::entries(const QSet<QString> &hidden) const
 {
     const QHash<int, QString> routerOf = routers();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/InterfaceState.h"
 #include "platform/StateStore.h"
 
 #include <QHash>
@@ -71,6 +72,9 @@ public:
     /// @return the index of each link, by name
     QHash<QString, int> interfaceIndexes() const;
 
+    /// @return what is known of the link @p index
+    InterfaceState interfaceState(int index) const;
+
     /// @return the store entries as if the links named @p hidden were not there
     StateStore::Entries entries(const QSet<QString> &hidden = {}) const;
 
@@ -84,6 +88,8 @@ private:
     std::vector<DefaultRoute>::iterator onlyRouteLike(const DefaultRoute &route);
     void dropRoutesOf(int index);
     QHash<int, QString> routers() const;
+    /// @return a link other than @p index, over which the main table's default route of metric 0 leads; empty for none
+    QString routeWithoutMetricBeside(int index) const;
 
     std::map<int, Link> m_links;
     std::vector<DefaultRoute> m_routes;

@@ -72,6 +72,18 @@ TEST(NetworkModel, TheBestDefaultRouteOfTheInterfaceGivesTheRouter)
     }
 }
 
+TEST(NetworkModel, TellsWhatHidesTheGatewayOfALink)
+{
+    NetworkModel model = twoServices();
+    const QStringList addresses{u"192.168.8.100"_s};
+    model.addRoute({mainTable, 100, 0, {{6, gateway(2)}}});
+    EXPECT_EQ(model.interfaceState(5), (InterfaceState{true, addresses, {}, {}}));
+    model.addRoute({mainTable, 0, 0, {{6, gateway(2)}}});
+    EXPECT_EQ(model.interfaceState(5), (InterfaceState{true, addresses, {}, u"en6"_s}));
+    EXPECT_EQ(model.interfaceState(6), (InterfaceState{true, addresses, u"192.168.8.2"_s, {}}));
+    EXPECT_EQ(model.interfaceState(9), InterfaceState());
+}
+
 TEST(NetworkModel, RoutesLeaveWithTheirLink)
 {
     NetworkModel model = twoServices();
