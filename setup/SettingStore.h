@@ -1,0 +1,56 @@
+#pragma once
+
+#include "setup/Devices.h"
+#include "setup/PropertyListText.h"
+
+#include <QString>
+#include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+namespace tarvo {
+
+/// The settings that the companion would read now.
+struct SettingsInForce {
+    QString path{}; ///< empty when there is no file
+    QVariantMap values{}; ///< empty when there is none, or it cannot be used
+    QString problem{}; ///< why the file cannot be used; empty when it can
+};
+
+SettingsInForce settingsInForce();
+
+/// @return the path of the user's own file of settings, which goes before all others
+QString userSettingsPath();
+
+/// Changes settings. @return nil when it cannot be done
+using SettingChange = std::function<std::optional<PropertyListText>(const PropertyListText &settings)>;
+
+/// Adds the vendor of @p device, in place of the example, and takes the product off the exclusions. Vendors that were
+/// written as numbers become texts.
+SettingChange useDevice(DeviceId device);
+/// Adds the product of @p device to the exclusions.
+SettingChange excludeDevice(DeviceId device);
+
+/// What to do with a file of settings that cannot be read.
+enum class Damaged {
+    Refuse,
+    StartAfresh, ///< from the shipped settings, with the damaged file kept beside them
+};
+
+/// What came of writing settings.
+struct SettingsWritten {
+    QString problem{}; ///< why nothing was written; empty when all is well
+    bool isDamaged = false; ///< the problem is the file in force, and starting afresh would get over it
+    QString backup{}; ///< where the file that was there before is now; empty when it was changed in place
+    bool fromBinary = false; ///< the settings had the binary form and have the XML form now
+};
+
+/// Changes the file in force, or the shipped settings where there is none, and writes the user's own file. It is written
+/// whole or not at all; a link is followed, a new file is the user's alone.
+SettingsWritten changeSettings(const SettingChange &change, Damaged damaged);
+
+/// Writes the shipped settings into the user's own file, keeping the one that was there beside it.
+SettingsWritten resetSettings();
+
+} // namespace tarvo
