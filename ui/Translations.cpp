@@ -46,10 +46,10 @@ QString install(QObject &owner, const QLocale &locale, const QString &file, cons
 
 } // namespace
 
-void installTranslations(QObject &owner, const QLocale &locale)
+void installTranslations(QObject &owner, const QLocale &locale, const QString &catalogue)
 {
-    install(owner, QLocale(QLocale::English), u"tarvo"_s, {embeddedTexts()});
-    const QString language = install(owner, locale, u"tarvo"_s, textFolders());
+    install(owner, QLocale(QLocale::English), catalogue, {embeddedTexts()});
+    const QString language = install(owner, locale, catalogue, textFolders());
     // The buttons of standard dialogs speak the language of ours.
     install(owner, QLocale(language), u"qtbase"_s, {QLibraryInfo::path(QLibraryInfo::TranslationsPath)});
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());

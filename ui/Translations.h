@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QLocale;
 class QObject;
 
@@ -9,6 +11,7 @@ namespace tarvo {
 /// English, and the direction of that language. Translations in `tarvo/translations` of the data folders, or beside the
 /// program, go before those that the program carries. A text without a translation shows its key. They are taken back
 /// with @p owner.
-void installTranslations(QObject &owner, const QLocale &locale);
+/// @param catalogue  names the program's texts among those of several programs
+void installTranslations(QObject &owner, const QLocale &locale, const QString &catalogue = QStringLiteral("tarvo"));
 
 } // namespace tarvo

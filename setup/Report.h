@@ -1,0 +1,33 @@
+#pragma once
+
+#include "setup/Chain.h"
+#include "setup/Devices.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace tarvo {
+
+/// A device and whether its gateway answered like a modem; nil when it has none.
+struct ListedDevice {
+    Device device;
+    std::optional<bool> isModem{};
+};
+
+// The JSON forms are documented in tarvo-setup(1), and programs rely on them.
+
+QByteArray devicesAsJson(const QList<ListedDevice> &devices);
+QString devicesAsText(const QList<ListedDevice> &devices);
+
+QByteArray checksAsJson(const QList<Check> &checks);
+/// In the user's language, a line for each link.
+QString checksAsText(const QList<Check> &checks);
+
+/// A line for each setting: its key and its value.
+QString settingsAsText(const QVariantMap &settings);
+
+} // namespace tarvo

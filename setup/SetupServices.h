@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/DesktopFacts.h"
+#include "platform/InterfaceState.h"
+#include "setup/Chain.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace tarvo {
+
+class DynamicStore;
+class UsbNetworkDevices;
+
+/// What the program needs from the outside. Everything referred to outlives what uses it.
+struct SetupServices {
+    UsbNetworkDevices &usbDevices;
+    DynamicStore &dynamicStore;
+
+    /// Called on the main thread.
+    std::function<InterfaceState(int interfaceIndex)> interfaceState;
+
+    // The others are called on other threads, and may take seconds.
+
+    /// Ties a new socket to the interface of a device.
+    std::function<void(int socket, const UsbNetworkDevice &device)> bindSocket;
+    std::function<DesktopFacts()> readDesktop;
+    /// Has the running companion start again.
+    std::function<ActionResult()> restartCompanion;
+    /// Reads this computer's access-point profiles.
+    std::function<ProfileFacts()> readProfiles;
+};
+
+} // namespace tarvo

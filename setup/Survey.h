@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/Background.h"
+#include "setup/ModemProbe.h"
+#include "setup/SettingStore.h"
+#include "setup/SetupServices.h"
+
+#include <QList>
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+#include <stop_token>
+
+namespace tarvo {
+
+/// Gathers what the list of devices and the chain of checks are made of. Lives on the main thread, which never waits:
+/// answers are delivered from the event loop, and not any more when this object is gone.
+class Survey {
+public:
+    explicit Survey(const SetupServices &services);
+
+    /// @return the USB network devices that are there now
+    QList<Device> devices(const QVariantMap &settings) const;
+
+    /// Asks the gateway of @p device whether it is a modem, over the device's interface alone.
+    void askWhetherModem(const Device &device, const QVariantMap &settings, std::function<void(bool isModem)> deliver);
+
+    /// Goes through the whole chain.
+    void check(std::function<void(const QList<Check> &checks)> deliver);
+
+    /// Has the running companion start again, so that it reads new settings.
+    void restartCompanion(std::function<void(ActionResult result)> deliver);
+
+    /// @return whether answers are still to come
+    bool isBusy() const { return m_background.isBusy(); }
+
+private:
+    struct Gathering;
+
+    /// Reads one more fact of @p gathering on another thread.
+    template <typename Fact>
+    void gather(const std::shared_ptr<Gathering> &gathering, std::function<Fact(std::stop_token)> read,
+                std::function<void(ChainFacts &facts, const Fact &fact)> put);
+    ChainFacts factsAtHand(const SettingsInForce &settings) const;
+    ModemQuestion questionFor(const Device &device, const QVariantMap &settings) const;
+
+    SetupServices m_services;
+    Background m_background;
+};
+
+} // namespace tarvo

@@ -1,0 +1,99 @@
+"""Goes the whole way from a modem that nobody knows to a companion that polls it, with the real programs.
+
+Usage: setup_test.py [unittest options] PROGRAM MODEM_SIMULATOR SETUP_PROGRAM
+Exit status 77: no network namespaces can be made here.
+"""
+
+import json
+import os
+import pathlib
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import companion_test
+from companion_test import Modem, UsbDevices
+
+companion_test.VENDOR = 0x19D3  # not the example that the shipped settings name
+DEVICE = "19d3:5678"
+
+
+class SetupTest(unittest.TestCase):
+    """Has what starts, awaits and ends the companion in common with the companion's own tests."""
+
+    start_program = companion_test.CompanionTest.start_program
+    read_lines = companion_test.CompanionTest.read_lines
+    until = companion_test.CompanionTest.until
+    until_ready = companion_test.CompanionTest.until_ready
+    quit = companion_test.CompanionTest.quit
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.config = self.folder / "config/tarvo/Config.plist"
+        self.usb = UsbDevices(self.folder / "devices")
+        self.modem = Modem(self, "192.168.8")
+
+    def setup_program(self, *arguments, status=0):
+        nowhere = {name: str(self.folder / "nowhere") for name in ("XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS")}
+        environment = nowhere | {
+            "PATH": os.environ["PATH"], "HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.folder / "config"),
+            "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root),
+            "ASAN_OPTIONS": "verify_asan_link_order=0", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+        run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
+                             check=False)
+        self.assertEqual(run.returncode, status, run.stdout)
+        return json.loads(run.stdout) if "--json" in arguments else run.stdout
+
+    def marks(self, status=0):
+        return {check["id"]: check["mark"] for check in self.setup_program("check", "--json", status=status)["checks"]}
+
+    def test_leads_from_an_unknown_modem_to_one_that_is_polled(self):
+        foreign = Modem(self, "192.168.8")
+        foreign.plug("enp1", usb=False, metric=1)
+        self.modem.plug("enx1")
+        device = self.setup_program("list", "--json")["devices"][0]
+        expected = {"id": DEVICE, "interface": "enx1", "up": True, "addresses": ["192.168.8.100"],
+                    "gateway": "192.168.8.1", "support": "unsupported", "modem": True}
+        self.assertEqual(device, device | expected)
+        self.assertEqual(self.marks(status=1)["settings"], "broken")
+
+        self.setup_program("use", DEVICE)
+        self.assertEqual(stat.S_IMODE(self.config.stat().st_mode), 0o600)
+        marks = self.marks()
+        self.assertEqual(list(marks.values()), ["ok"] * 11 + ["skipped"] + ["unknown"] * 4, marks)
+        requests = [json.loads(line) for line in self.modem.record.read_text().splitlines()]
+        self.assertEqual([(r["method"], r["target"].partition("cmd=")[2].partition(",")[0]) for r in requests],
+                         [("GET", ""), ("GET", "ppp_status&multi_data=1")] * 2 + [("GET", "cr_version")])
+        self.assertEqual(foreign.record.read_text(), "")
+
+        self.start_program()
+        self.until_ready(self.modem, "enx1")
+        self.quit()
+
+    def test_says_where_the_chain_is_broken(self):
+        self.setup_program("use", DEVICE)
+        self.assertEqual(self.marks(status=1)["device"], "broken")
+        self.modem.plug("enx1")
+        self.modem.tell("fault refuse")
+        self.assertEqual(self.marks(status=1)["port"], "broken")
+        self.setup_program("exclude", DEVICE)
+        self.assertIn("excluded", self.setup_program("list"))
+        self.assertEqual(self.marks(status=1)["device"], "broken")
+        self.config.write_text("<plist>")
+        self.setup_program("use", DEVICE, status=1)
+        self.setup_program("use", DEVICE, "--force")
+        self.assertIn("vendor_ids: [\"6611\"]", self.setup_program("show"))
+        self.setup_program("reset")
+        self.assertIn("vendor_ids: [\"4660\"]", self.setup_program("show"))
+        self.setup_program("use", "nonsense", status=2)
+
+
+if __name__ == "__main__":
+    if companion_test.INSIDE not in os.environ:
+        companion_test.in_namespace()
+    sys.argv[1:], options = sys.argv[-3:], sys.argv[1:-3]
+    unittest.main(argv=[sys.argv[0], *options])
