@@ -20,6 +20,8 @@ struct SetupServices {
 
     /// Called on the main thread.
     std::function<InterfaceState(int interfaceIndex)> interfaceState;
+    /// Starts the companion. @return whether there is one to start
+    std::function<bool()> startCompanion;
 
     // The others are called on other threads, and may take seconds.
 

@@ -6,11 +6,15 @@
 #include "platform/linux/UdevUsbNetworkDevices.h"
 #include "setup/CommandLine.h"
 #include "setup/Survey.h"
+#include "setup/window/SetupWindow.h"
+#include "ui/Images.h"
 #include "ui/Translations.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <cstdio>
@@ -47,7 +51,14 @@ ProfileFacts readProfiles()
     std::_Exit(status);
 }
 
-int runOn(const std::function<int(Survey &survey)> &body)
+bool startCompanion()
+{
+    const QString beside = QStandardPaths::findExecutable(u"tarvo"_s, {QCoreApplication::applicationDirPath()});
+    const QString program = beside.isEmpty() ? QStandardPaths::findExecutable(u"tarvo"_s) : beside;
+    return !program.isEmpty() && QProcess::startDetached(program, {});
+}
+
+int runOn(const std::function<int(const SetupServices &services, Survey &survey)> &body)
 {
     StandardErrorLog log;
     NetlinkDynamicStore dynamicStore(log);
@@ -56,6 +67,7 @@ int runOn(const std::function<int(Survey &survey)> &body)
         .usbDevices = usbDevices,
         .dynamicStore = dynamicStore,
         .interfaceState = [&](int index) { return dynamicStore.interfaceState(index); },
+        .startCompanion = startCompanion,
         .bindSocket = [](int socket,
                          const UsbNetworkDevice &device) { bindSocketToInterface(socket, device.interfaceName); },
         .readDesktop = [] { return readDesktopFacts(companionName); },
@@ -63,7 +75,7 @@ int runOn(const std::function<int(Survey &survey)> &body)
         .readProfiles = readProfiles,
     };
     Survey survey(services);
-    const int status = body(survey);
+    const int status = body(services, survey);
     if (survey.isBusy())
         endAtOnce(status);
     return status;
@@ -73,7 +85,26 @@ int runInTerminal(int argc, char **argv, const Command &command)
 {
     QCoreApplication application(argc, argv);
     installTranslations(application, QLocale(), u"tarvo-setup"_s);
-    return runOn([&](Survey &survey) { return runCommand(command, survey); });
+    return runOn([&](const SetupServices &, Survey &survey) { return runCommand(command, survey); });
+}
+
+int runInWindow(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(u"io.github.tarvo.Tarvo.Setup"_s);
+    installTranslations(application, QLocale(), u"tarvo-setup"_s);
+    QApplication::setWindowIcon(applicationImage());
+    return runOn([](const SetupServices &services, Survey &survey) {
+        SetupWindow window(services, survey);
+        window.show();
+        return QApplication::exec();
+    });
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
 QStringList textsOf(int argc, char **argv)
@@ -98,5 +129,10 @@ int main(int argc, char **argv)
     QTextStream(stdout) << command.output << Qt::flush;
     if (!command.output.isEmpty())
         return exit_status::inOrder;
-    return runInTerminal(argc, argv, command);
+    if (!command.words.isEmpty())
+        return runInTerminal(argc, argv, command);
+    if (hasDisplay())
+        return runInWindow(argc, argv);
+    QTextStream(stderr) << u"tarvo-setup: there is no display for the window; see tarvo-setup --help"_s << Qt::endl;
+    return exit_status::wrongUse;
 }
