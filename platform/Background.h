@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <stop_token>
+#include <utility>
 
 namespace tarvo {
 
@@ -26,6 +31,21 @@ public:
         });
     }
 
+    /// The same, but delivers @p otherwise when there is no result after @p patience. Work that cannot be ended goes on.
+    template <typename Result>
+    void runFor(std::chrono::milliseconds patience, Result otherwise, std::function<Result(std::stop_token stop)> work,
+                std::function<void(const Result &result)> deliver)
+    {
+        const std::function<void(const Result &)> deliverOnce = [delivered = std::make_shared<bool>(false),
+                                                                 deliver = std::move(deliver)](const Result &result) {
+            if (!std::exchange(*delivered, true))
+                deliver(result);
+        };
+        run<Result>(std::move(work), deliverOnce);
+        QTimer::singleShot(patience, &m_timers,
+                           [deliverOnce, otherwise = std::move(otherwise)] { deliverOnce(otherwise); });
+    }
+
     /// @return whether work is still under way
     bool isBusy() const;
 
@@ -35,6 +55,7 @@ private:
     void start(std::function<std::function<void()>(const std::stop_token &stop)> work);
 
     std::shared_ptr<State> m_state;
+    QObject m_timers; ///< what waits for it ends with it
 };
 
 } // namespace tarvo

@@ -5,7 +5,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMetaType>
 
 #include <algorithm>
 
@@ -84,8 +83,6 @@ QString valueAsText(const QVariant &value)
 {
     if (!value.isValid())
         return u"(absent)"_s;
-    if (value.typeId() == QMetaType::QString)
-        return value.toString();
     return QString::fromUtf8(QJsonDocument(QJsonArray{QJsonValue::fromVariant(value)}).toJson(QJsonDocument::Compact))
         .sliced(1)
         .chopped(1);

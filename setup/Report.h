@@ -16,6 +16,8 @@ namespace tarvo {
 struct ListedDevice {
     Device device;
     std::optional<bool> isModem{};
+
+    bool operator==(const ListedDevice &) const = default;
 };
 
 // The JSON forms are documented in tarvo-setup(1), and programs rely on them.

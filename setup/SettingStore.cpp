@@ -20,12 +20,18 @@ namespace {
 
 constexpr int mostBackups = 100;
 
-/// @return the texts of the list at @p path, with numbers written as texts
+bool isIdentifier(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QString || value.typeId() == QMetaType::LongLong;
+}
+
+/// @return the texts and numbers of the list at @p path, as texts
 QStringList identifierTexts(const QVariantMap &settings, const QStringList &path)
 {
     QStringList texts;
     for (const QVariant &element : settingAt(settings, path).toList())
-        texts.append(element.toString());
+        texts.append(isIdentifier(element) ? element.toString() : QString());
+    texts.removeAll(QString());
     return texts;
 }
 

@@ -23,6 +23,8 @@ struct SetupServices {
     std::function<InterfaceState(int interfaceIndex)> interfaceState;
     /// @return what ties new sockets to the interface of a device, on any thread. Called on the main thread.
     std::function<SocketBinder(const UsbNetworkDevice &device)> socketBinderFor;
+    /// Starts the companion. @return whether there is one to start
+    std::function<bool()> startCompanion;
 
     // The others are called on other threads, and may take seconds.
 

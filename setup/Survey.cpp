@@ -1,7 +1,9 @@
 #include "setup/Survey.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "setup/SettingKeys.h"
 
+#include <chrono>
 #include <utility>
 
 namespace tarvo {
@@ -9,6 +11,11 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// A desktop whose bus says nothing is not waited for any longer.
+constexpr std::chrono::seconds desktopPatience{5};
+/// Longer than the requests to a modem take.
+constexpr std::chrono::seconds patience{30};
 
 bool sendsAccessPoints(const QVariantMap &settings)
 {
@@ -40,7 +47,7 @@ QList<Device> Survey::devices(const QVariantMap &settings) const
 
 ModemQuestion Survey::questionFor(const Device &device, const QVariantMap &settings) const
 {
-    return {device.network.gateway, m_services.socketBinderFor(device.usb), settings};
+    return {device.network.gateway, m_services.socketBinderFor(device.usb), settings.isEmpty() ? shippedSettings() : settings};
 }
 
 void Survey::askWhetherModem(const Device &device, const QVariantMap &settings,
@@ -54,11 +61,12 @@ void Survey::askWhetherModem(const Device &device, const QVariantMap &settings,
 }
 
 template <typename Fact>
-void Survey::gather(const std::shared_ptr<Gathering> &gathering, std::function<Fact(std::stop_token)> read,
+void Survey::gather(const std::shared_ptr<Gathering> &gathering, std::chrono::milliseconds limit,
+                    std::function<Fact(std::stop_token)> read,
                     std::function<void(ChainFacts &facts, const Fact &fact)> put)
 {
     ++gathering->missing;
-    m_background.run<Fact>(std::move(read), [gathering, put = std::move(put)](const Fact &fact) {
+    m_background.runFor<Fact>(limit, Fact(), std::move(read), [gathering, put = std::move(put)](const Fact &fact) {
         put(gathering->facts, fact);
         if (--gathering->missing == 0)
             gathering->deliver(checkChain(gathering->facts));
@@ -72,17 +80,17 @@ void Survey::check(std::function<void(const QList<Check> &checks)> deliver)
     gathering->facts = factsAtHand(settings);
     gathering->deliver = std::move(deliver);
     gather<DesktopFacts>(
-        gathering, [read = m_services.readDesktop](const std::stop_token &) { return read(); },
+        gathering, desktopPatience, [read = m_services.readDesktop](const std::stop_token &) { return read(); },
         [](ChainFacts &facts, const DesktopFacts &desktop) { facts.desktop = desktop; });
     if (!settings.path.isEmpty() && sendsAccessPoints(settings.values)) {
         gather<ProfileFacts>(
-            gathering, [read = m_services.readProfiles](const std::stop_token &) { return read(); },
+            gathering, patience, [read = m_services.readProfiles](const std::stop_token &) { return read(); },
             [](ChainFacts &facts, const ProfileFacts &profiles) { facts.profiles = profiles; });
     }
     const std::optional<Device> device = deviceToCheck(gathering->facts.devices);
     if (device && !device->network.gateway.isEmpty()) {
         gather<ModemFacts>(
-            gathering,
+            gathering, patience,
             [question = questionFor(*device, settings.values)](const std::stop_token &stop) {
                 return askModem(question, stop);
             },
@@ -104,7 +112,8 @@ ChainFacts Survey::factsAtHand(const SettingsInForce &settings) const
 
 void Survey::restartCompanion(std::function<void(ActionResult result)> deliver)
 {
-    m_background.run<ActionResult>(
+    m_background.runFor<ActionResult>(
+        desktopPatience, ActionResult::Failed,
         [restart = m_services.restartCompanion](const std::stop_token &) { return restart(); }, std::move(deliver));
 }
 

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QVariantMap>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <stop_token>
@@ -38,11 +39,13 @@ public:
 private:
     struct Gathering;
 
-    /// Reads one more fact of @p gathering on another thread.
+    /// Reads one more fact of @p gathering on another thread; what takes longer than @p limit stays unknown.
     template <typename Fact>
-    void gather(const std::shared_ptr<Gathering> &gathering, std::function<Fact(std::stop_token)> read,
+    void gather(const std::shared_ptr<Gathering> &gathering, std::chrono::milliseconds limit,
+                std::function<Fact(std::stop_token)> read,
                 std::function<void(ChainFacts &facts, const Fact &fact)> put);
     ChainFacts factsAtHand(const SettingsInForce &settings) const;
+    /// @param settings  say how to ask; where there are none, the shipped ones do
     ModemQuestion questionFor(const Device &device, const QVariantMap &settings) const;
 
     SetupServices m_services;

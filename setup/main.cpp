@@ -1,16 +1,21 @@
 #include "apn/tool/FolderReport.h"
 #include "platform/SystemLog.h"
 #include "platform/linux/DesktopFactsReader.h"
+#include "platform/linux/LeaseFiles.h"
 #include "platform/linux/NetlinkDynamicStore.h"
 #include "platform/linux/SocketBinding.h"
 #include "platform/linux/UdevUsbNetworkDevices.h"
 #include "setup/CommandLine.h"
 #include "setup/Survey.h"
+#include "setup/window/SetupWindow.h"
+#include "ui/Images.h"
 #include "ui/Translations.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <cstdio>
@@ -47,22 +52,31 @@ ProfileFacts readProfiles()
     std::_Exit(status);
 }
 
-int runOn(const std::function<int(Survey &survey)> &body)
+bool startCompanion()
+{
+    const QString beside = QStandardPaths::findExecutable(u"tarvo"_s, {QCoreApplication::applicationDirPath()});
+    const QString program = beside.isEmpty() ? QStandardPaths::findExecutable(u"tarvo"_s) : beside;
+    return !program.isEmpty() && QProcess::startDetached(program, {});
+}
+
+int runOn(const std::function<int(const SetupServices &services, Survey &survey)> &body)
 {
     StandardErrorLog log;
-    NetlinkDynamicStore dynamicStore(log);
+    LeaseFiles leases;
+    NetlinkDynamicStore dynamicStore(log, leases);
     UdevUsbNetworkDevices usbDevices;
     const SetupServices services{
         .usbDevices = usbDevices,
         .dynamicStore = dynamicStore,
         .interfaceState = [&](int index) { return dynamicStore.interfaceState(index); },
         .socketBinderFor = [](const UsbNetworkDevice &device) { return socketBinder(device.interfaceIndex); },
+        .startCompanion = startCompanion,
         .readDesktop = [] { return readDesktopFacts(companionName); },
         .restartCompanion = [] { return activateAction(companionName, u"restart"_s); },
         .readProfiles = readProfiles,
     };
     Survey survey(services);
-    const int status = body(survey);
+    const int status = body(services, survey);
     if (survey.isBusy())
         endAtOnce(status);
     return status;
@@ -72,7 +86,26 @@ int runInTerminal(int argc, char **argv, const Command &command)
 {
     QCoreApplication application(argc, argv);
     installTranslations(application, QLocale(), u"tarvo-setup"_s);
-    return runOn([&](Survey &survey) { return runCommand(command, survey); });
+    return runOn([&](const SetupServices &, Survey &survey) { return runCommand(command, survey); });
+}
+
+int runInWindow(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(u"io.github.tarvo.Tarvo.Setup"_s);
+    installTranslations(application, QLocale(), u"tarvo-setup"_s);
+    QApplication::setWindowIcon(applicationImage());
+    return runOn([](const SetupServices &services, Survey &survey) {
+        SetupWindow window(services, survey);
+        window.show();
+        return QApplication::exec();
+    });
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
 QStringList textsOf(int argc, char **argv)
@@ -97,5 +130,10 @@ int main(int argc, char **argv)
     QTextStream(stdout) << command.output << Qt::flush;
     if (!command.output.isEmpty())
         return exit_status::inOrder;
-    return runInTerminal(argc, argv, command);
+    if (!command.words.isEmpty())
+        return runInTerminal(argc, argv, command);
+    if (hasDisplay())
+        return runInWindow(argc, argv);
+    QTextStream(stderr) << u"tarvo-setup: there is no display for the window; see tarvo-setup --help"_s << Qt::endl;
+    return exit_status::wrongUse;
 }

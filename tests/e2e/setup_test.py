@@ -7,10 +7,12 @@ Exit status 77: no network namespaces can be made here.
 import json
 import os
 import pathlib
+import socket
 import stat
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 import companion_test
@@ -37,19 +39,20 @@ class SetupTest(unittest.TestCase):
         self.usb = UsbDevices(self.folder / "devices")
         self.modem = Modem(self, "192.168.8")
 
-    def setup_program(self, *arguments, status=0):
+    def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent"):
         nowhere = {name: str(self.folder / "nowhere") for name in ("XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS")}
         environment = nowhere | {
             "PATH": os.environ["PATH"], "HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.folder / "config"),
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root),
-            "ASAN_OPTIONS": "verify_asan_link_order=0", "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+            "ASAN_OPTIONS": "verify_asan_link_order=0", "DBUS_SESSION_BUS_ADDRESS": bus}
         run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
                              check=False)
         self.assertEqual(run.returncode, status, run.stdout)
         return json.loads(run.stdout) if "--json" in arguments else run.stdout
 
-    def marks(self, status=0):
-        return {check["id"]: check["mark"] for check in self.setup_program("check", "--json", status=status)["checks"]}
+    def marks(self, status=0, **options):
+        checks = self.setup_program("check", "--json", status=status, **options)["checks"]
+        return {check["id"]: check["mark"] for check in checks}
 
     def test_leads_from_an_unknown_modem_to_one_that_is_polled(self):
         foreign = Modem(self, "192.168.8")
@@ -90,6 +93,14 @@ class SetupTest(unittest.TestCase):
         self.setup_program("reset")
         self.assertIn("vendor_ids: [\"4660\"]", self.setup_program("show"))
         self.setup_program("use", "nonsense", status=2)
+
+    def test_does_not_wait_for_a_bus_that_says_nothing(self):
+        with socket.socket(socket.AF_UNIX) as silent:
+            silent.bind(str(self.folder / "bus"))
+            silent.listen()
+            begin = time.monotonic()
+            self.assertEqual(self.marks(status=1, bus=f"unix:path={self.folder}/bus")["companion"], "unknown")
+            self.assertLess(time.monotonic() - begin, 12)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,204 @@
+#include "setup/window/SetupWindow.h"
+
+#include "platform/StateStore.h"
+#include "setup/Autostart.h"
+#include "setup/SettingKeys.h"
+#include "setup/window/TitledItems.h"
+#include "simulator/ModemServer.h"
+#include "simulator/SimulatedModem.h"
+#include "tests/support/DesktopEnvironment.h"
+#include "tests/support/PrintQt.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
+
+struct PluggedDevices final : UsbNetworkDevices {
+    QList<UsbNetworkDevice> devices() override { return plugged; }
+    void watch(std::function<void()> handler) override { changed = std::move(handler); }
+
+    QList<UsbNetworkDevice> plugged;
+    std::function<void()> changed;
+};
+
+/// The window among simulated surroundings, with a real modem's server behind the first device.
+struct SetupWindowTest : testing::Test {
+    SetupWindowTest()
+    {
+        QFile::remove(userSettingsPath());
+        devices.plugged = {{.vendor = 0x19d2, .product = 7, .interfaceName = u"u1"_s, .interfaceIndex = 1},
+                           {.vendor = 0x0bda, .product = 8, .interfaceName = u"u2"_s, .interfaceIndex = 2}};
+    }
+
+    void open()
+    {
+        window = std::make_unique<SetupWindow>(services, survey);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        tabs = window->findChild<QTabWidget *>();
+        list = tabs->widget(0)->findChild<TitledList *>();
+    }
+
+    /// @return the accessible text of a row, which is all that it shows
+    QString row(int index, int tab = 0) const
+    {
+        const auto *const item = tabs->widget(tab)->findChild<TitledList *>()->item(index);
+        return item ? item->data(Qt::AccessibleTextRole).toString() : QString();
+    }
+
+    QPushButton *button(const QString &text) const
+    {
+        for (auto *const candidate : window->findChildren<QPushButton *>()) {
+            if (candidate->text() == text)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    QStringList vendors() const { return identifiersAt(settingsInForce().values, vendorsPath); }
+
+    SimulatedModem modem;
+    ModemServer server{modem};
+    StateStore store;
+    PluggedDevices devices;
+    std::atomic<int> restarts = 0;
+    SetupServices services{
+        .usbDevices = devices,
+        .dynamicStore = store,
+        .interfaceState =
+            [this](int index) {
+                return InterfaceState{true, {u"10.0.0.2"_s}, index == 1 ? server.authority() : QString()};
+            },
+        .socketBinderFor = [](const UsbNetworkDevice &) { return SocketBinder(); },
+        .startCompanion = [] { return true; },
+        .readDesktop =
+            [] {
+                return DesktopFacts{true, true, true, true};
+            },
+        .restartCompanion =
+            [this] {
+                ++restarts;
+                return ActionResult::Done;
+            },
+        .readProfiles = [] { return ProfileFacts(); },
+    };
+    Survey survey{services};
+    std::unique_ptr<SetupWindow> window;
+    QTabWidget *tabs = nullptr;
+    TitledList *list = nullptr;
+};
+
+} // namespace
+
+TEST_F(SetupWindowTest, LeadsFromThePluggedModemToOneInUseByTheKeyboard)
+{
+    open();
+    EXPECT_TRUE(waitFor([&] { return row(0).contains(u"DeviceIsModem"_s); })) << row(0).toStdString();
+    EXPECT_TRUE(row(0).contains(u"19d2:0007"_s) && row(1).contains(u"DeviceNoGateway"_s));
+    EXPECT_EQ(window->focusWidget(), list);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(vendors(), QStringList{u"6610"_s});
+    EXPECT_TRUE(waitFor([&] { return restarts == 1; }));
+    EXPECT_TRUE(row(0).contains(u"DeviceSupported"_s));
+    EXPECT_FALSE(button(u"UseModem"_s)->isEnabled());
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::mouseClick(button(u"LeaveAlone"_s), Qt::LeftButton);
+    EXPECT_TRUE(row(1).contains(u"DeviceExcluded"_s));
+    EXPECT_EQ(list->currentRow(), 1);
+
+    devices.plugged.clear();
+    devices.changed();
+    EXPECT_TRUE(waitFor([&] { return list->count() == 0; }));
+    const auto requests = modem.requests("logo_data.asp");
+    ASSERT_EQ(requests.size(), 1) << "a gateway is asked once";
+    EXPECT_TRUE(requests[0].head.contains("Referer")) << "as the shipped settings say, where there were none";
+}
+
+TEST_F(SetupWindowTest, ShowsTheChain)
+{
+    changeSettings(useDevice({0x19d2, 7}), Damaged::Refuse);
+    open();
+    QTest::keyClick(list, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_TRUE(waitFor([&] { return row(15, 1) == u"MarkOk: Check_companion. "_s; })) << row(15, 1).toStdString();
+    for (int i = 0; i < 15; ++i)
+        EXPECT_TRUE(row(i, 1).startsWith(i == 11 ? u"MarkSkipped"_s : u"MarkOk"_s)) << row(i, 1).toStdString();
+}
+
+TEST_F(SetupWindowTest, RefusesWhatIsWrongInTheFormAndSavesTheRest)
+{
+    open();
+    tabs->setCurrentIndex(2);
+    QLineEdit *const vendor = tabs->widget(2)->findChildren<QLineEdit *>().first();
+    QPushButton *const save = button(u"Save"_s);
+    EXPECT_FALSE(save->isEnabled());
+    vendor->clear();
+    QTest::keyClicks(vendor, u"0x19d2"_s);
+    EXPECT_FALSE(save->isEnabled());
+    vendor->clear();
+    QTest::keyClicks(vendor, u"6610 7"_s);
+    QTest::mouseClick(save, Qt::LeftButton);
+    EXPECT_EQ(vendors(), (QStringList{u"6610"_s, u"7"_s}));
+    EXPECT_FALSE(save->isEnabled());
+
+    QTest::keyClicks(vendor, u"7"_s);
+    window->close();
+    EXPECT_TRUE(window->isVisible()) << "asks before it drops changes";
+    EXPECT_TRUE(window->findChild<QMessageBox *>());
+}
+
+TEST_F(SetupWindowTest, AsksBeforeItReplacesADamagedFile)
+{
+    QDir().mkpath(QFileInfo(userSettingsPath()).path());
+    QFile file(userSettingsPath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("damaged") > 0);
+    file.close();
+    open();
+    QTest::mouseClick(button(u"UseModem"_s), Qt::LeftButton);
+    auto *const box = window->findChild<QMessageBox *>();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(vendors(), QStringList());
+    for (QAbstractButton *const candidate : box->buttons()) {
+        if (candidate->text() == u"StartAfresh"_s)
+            candidate->click();
+    }
+    EXPECT_EQ(vendors(), QStringList{u"6610"_s});
+}
+
+TEST(Autostart, IsSwitchedInTheUsersCopyOfTheEntry)
+{
+    const QByteArray entry = "[Desktop Entry]\nExec=tarvo\nHidden=false\n[Other]\nHidden=true\n";
+    const QByteArray off = withStartAtLogin(entry, false);
+    EXPECT_EQ(off, "[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\nExec=tarvo\n[Other]\nHidden=true\n");
+    for (const auto &[bytes, starts] : {std::pair(entry, true), {off, false}, {withStartAtLogin(off, true), true}})
+        EXPECT_EQ(startsAtLogin(bytes), starts);
+
+    EXPECT_EQ(Autostart().isOn(), std::nullopt) << "nothing is installed";
+    const QTemporaryDir system;
+    qputenv("XDG_CONFIG_DIRS", system.path().toLocal8Bit());
+    QDir(system.path()).mkpath(u"autostart"_s);
+    QFile file(system.filePath(u"autostart/tarvo.desktop"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(entry) > 0);
+    file.close();
+    EXPECT_EQ(Autostart().isOn(), true);
+    EXPECT_EQ(Autostart().set(false), QString());
+    EXPECT_EQ(Autostart().isOn(), false);
+    QFile hidden(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/tarvo.desktop"_s);
+    ASSERT_TRUE(hidden.open(QIODevice::WriteOnly) && hidden.write("[Desktop Entry]\nHidden=true\n") > 0);
+    hidden.close();
+    EXPECT_EQ(Autostart().set(true), QString());
+    ASSERT_TRUE(hidden.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(hidden.readAll().contains("Exec=tarvo")) << "an entry that says only that it is hidden";
+}
