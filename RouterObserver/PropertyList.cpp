@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QMetaType>
 #include <QStringDecoder>
+#include <QTimeZone>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -57,7 +58,7 @@ private:
 
 const QDateTime &dateEpoch()
 {
-    static const QDateTime epoch(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    static const QDateTime epoch(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
     return epoch;
 }
 

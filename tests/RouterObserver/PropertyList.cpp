@@ -5,6 +5,7 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QIODevice>
+#include <QTimeZone>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -53,7 +54,7 @@ TEST(PropertyList, KeepsTheKindOfEachValueThroughARoundTrip)
         {u"real"_s, 0.1},
         {u"whole real"_s, 2.0},
         {u"text"_s, u"<é&\U0001F4F6> "_s},
-        {u"date"_s, QDateTime(QDate(2026, 2, 28), QTime(23, 59, 58), Qt::UTC)},
+        {u"date"_s, QDateTime(QDate(2026, 2, 28), QTime(23, 59, 58), QTimeZone::utc())},
         {u"data"_s, QByteArray("\0\xFF", 2)},
         {u"list"_s, QVariantList{QVariantList{}, QVariantMap{}, u""_s, false}},
     };
