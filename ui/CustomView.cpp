@@ -31,6 +31,8 @@ void CustomView::setImage(const QString &name)
         return;
     image_ = name;
     setIcon(imageNamed(name));
+    if (icon().isNull())
+        systemLog_.write(u"no image: "_s + name);
     Q_EMIT appearanceChanged();
 }
 

@@ -1,6 +1,8 @@
 #include "ui/Translations.h"
 
+#include "simulator/RecordingLog.h"
 #include "tests/support/PrintQt.h"
+#include "ui/CustomView.h"
 #include "ui/Images.h"
 
 #include <QApplication>
@@ -8,6 +10,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTranslator>
 
 #include <gtest/gtest.h>
@@ -77,15 +80,28 @@ TEST(Translations, FollowTheUsersLanguage)
     QApplication::setLayoutDirection(before);
 }
 
-TEST(Images, AreThereWithoutAThemeAndDifferWithoutColour)
+TEST(Images, AreThereWithoutThemeAndPluginsAndDifferWithoutColour)
 {
+    QTemporaryDir theme;
+    QFile damaged(theme.filePath(u"tarvo-ready.png"_s));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("no picture") > 0);
+    damaged.close();
+    QCoreApplication::setLibraryPaths({}); // of plugins that are not loaded yet
+    QIcon::setThemeName(u"hicolor"_s);
+    QIcon::setFallbackSearchPaths({theme.path()});
+    EXPECT_TRUE(QIcon::hasThemeIcon(u"tarvo-ready"_s));
+
     QList<QImage> pictures;
     for (const char *name : {"ready", "online", "newVersion", "dataFluxReached", "dataFluxExceeded"}) {
-        QImage picture = imageNamed(QLatin1StringView(name)).pixmap(16).toImage();
+        const QIcon icon = imageNamed(QLatin1StringView(name));
+        QImage picture = icon.pixmap(16).toImage();
         EXPECT_EQ(picture.size(), QSize(16, 16)) << name;
+        EXPECT_NE(icon.pixmap({16, 16}, 2).toImage(), picture.scaled(32, 32)) << name << " is not sharp";
         picture.convertTo(QImage::Format_Grayscale8);
         EXPECT_FALSE(pictures.contains(picture)) << name << " looks like another without colour";
         pictures << picture;
     }
-    EXPECT_TRUE(imageNamed(u"none"_s).isNull());
+    RecordingLog systemLog;
+    CustomView(systemLog).setImage(u"none"_s);
+    EXPECT_TRUE(systemLog.contains(u"no image: none"_s));
 }
