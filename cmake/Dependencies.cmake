@@ -26,9 +26,12 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape xcb-res)
 
 find_package(Threads REQUIRED)
 
-if(TARVO_BUILD_TESTS)
+if(TARVO_BUILD_TESTS OR TARVO_BUILD_DEMO)
   # The simulated modem's web server.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+endif()
+
+if(TARVO_BUILD_TESTS)
   # Waits that run the event loop, and pointer events, in the tests of windows.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   # The test framework.
