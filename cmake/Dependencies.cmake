@@ -39,6 +39,8 @@ if(TARVO_BUILD_TESTS)
   # USB devices that are not there, beside real network interfaces.
   pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0)
   find_program(UMOCKDEV_WRAPPER umockdev-wrapper REQUIRED)
+  # The settings' service of the panel that hosts status items in the tests.
+  find_program(XFCONFD xfconfd PATHS "/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/xfce4/xfconf" REQUIRED)
   # The end-to-end test; it needs ip (iproute2), unshare and nsenter (util-linux) as well.
   find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 endif()

@@ -138,10 +138,11 @@ class CompanionTest(unittest.TestCase):
 
     def start_program(self):
         nowhere = "unix:path=/nonexistent"
-        environment = os.environ | {
+        environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
             "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
+            "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
             "DBUS_SESSION_BUS_ADDRESS": nowhere, "DBUS_SYSTEM_BUS_ADDRESS": nowhere}
         self.program = subprocess.Popen([sys.argv[1]], env=environment, stderr=subprocess.PIPE, text=True)
         self.log = []

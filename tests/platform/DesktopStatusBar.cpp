@@ -4,6 +4,7 @@
 
 #include <QBitmap>
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDir>
 #include <QFile>
@@ -93,7 +94,11 @@ std::unique_ptr<Program> startNotifierPanel()
     EXPECT_TRUE(settings.open(QIODevice::WriteOnly) && settings.write(panelSettings) > 0);
     settings.close();
 
-    auto panel = std::make_unique<Program>(std::vector<std::string>{"xfce4-panel", "--disable-wm-check"});
+    static const Program settingsService({TARVO_XFCONFD});
+    const auto *const bus = QDBusConnection::sessionBus().interface();
+    EXPECT_TRUE(waitFor([&] { return bus->isServiceRegistered(QStringLiteral("org.xfce.Xfconf")).value(); }));
+    auto panel = std::make_unique<Program>(std::vector<std::string>{"env", "XDG_DATA_DIRS=/usr/share", "NO_AT_BRIDGE=1",
+                                                                    "xfce4-panel", "--disable-wm-check"});
     EXPECT_TRUE(waitFor([screen = *XScreen::ofApplication()] { return trayIsOwned(screen); }));
     QWindow taker;
     takeTraySelection(taker);

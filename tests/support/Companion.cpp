@@ -4,9 +4,9 @@
 #include "ui/CustomView.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -22,19 +22,18 @@ class Application : public testing::Environment {
 public:
     void SetUp() override
     {
-        QDir(m_home.path()).mkpath(u"tarvo"_s);
-        QFile file(m_home.filePath(u"tarvo/Config.plist"_s));
+        const QDir home(qEnvironmentVariable("XDG_CONFIG_HOME"));
+        home.mkpath(u"tarvo"_s);
+        QFile file(home.filePath(u"tarvo/Config.plist"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
         file.close();
-        qputenv("XDG_CONFIG_HOME", m_home.path().toLocal8Bit());
         m_application = std::make_unique<QApplication>(m_argc, m_argv);
     }
 
     void TearDown() override { m_application.reset(); }
 
 private:
-    QTemporaryDir m_home;
     char m_name[6] = "tests";
     char *m_argv[2] = {m_name, nullptr};
     int m_argc = 1;

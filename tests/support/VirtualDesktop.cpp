@@ -14,12 +14,11 @@ namespace tarvo {
 
 VirtualDesktop::VirtualDesktop()
 {
-    for (const char *variable : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-        qputenv(variable, m_home.path().toLocal8Bit());
     m_screen.emplace(
         std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
     qputenv("DISPLAY", QByteArray::fromStdString(":" + m_screen->readLine()));
-    m_bus.emplace(std::vector<std::string>{"dbus-daemon", "--session", "--print-address", "--nofork"});
+    m_bus.emplace(
+        std::vector<std::string>{"dbus-daemon", "--config-file=" TARVO_SESSION_BUS, "--print-address", "--nofork"});
     qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(m_bus->readLine()));
     qputenv("QT_QPA_PLATFORM", "xcb");
     m_application.emplace(m_argumentCount, m_arguments);

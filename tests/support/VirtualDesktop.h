@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <optional>
@@ -21,7 +20,6 @@ public:
     VirtualDesktop();
 
 private:
-    QTemporaryDir m_home;
     std::optional<Program> m_screen;
     std::optional<Program> m_bus;
     int m_argumentCount = 1;

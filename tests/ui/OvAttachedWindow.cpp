@@ -31,7 +31,7 @@ struct BalloonWindow : testing::Test {
 
     static void SetUpTestSuite()
     {
-        windowManager.emplace(std::vector<std::string>{"openbox"});
+        windowManager.emplace(std::vector<std::string>{"env", "XDG_DATA_DIRS=/usr/share", "openbox"});
         ASSERT_TRUE(waitFor([] { // until a new window gets a frame
             QWidget window;
             window.show();
