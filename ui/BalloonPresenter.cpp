@@ -42,8 +42,9 @@ public:
     NotificationBalloon(Notifications &notifications, const QString &text, Otherwise otherwise)
         : m_notifications(notifications)
     {
-        notifications.show({.title = QStringLiteral("Tarvo"), .text = text, .iconName = QStringLiteral("tarvo")},
-                           [this, otherwise = std::move(otherwise)] { m_replacement = otherwise(); });
+        notifications.show(
+            {.title = QStringLiteral("Tarvo"), .text = text, .iconName = QStringLiteral("io.github.tarvo.Tarvo")},
+            [this, otherwise = std::move(otherwise)] { m_replacement = otherwise(); });
     }
 
     ~NotificationBalloon() override { m_notifications.close(); }
