@@ -3,14 +3,19 @@ set(TARVO_PROFILE_FOLDER "/Library/Application Support/Skyvane/QX_Profile/" CACH
   "Folder of the access-point profiles and of their list, profile.xml")
 set(TARVO_DEMO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem")
 set(TARVO_PROFILE_PUBLIC_KEY "${TARVO_DEMO_PROFILE_PUBLIC_KEY}" CACHE FILEPATH
-  "Public half of the key that makes profiles (RSA, 1024 bits, PEM); the demonstration key protects nothing")
+  "Public half of the key that makes profiles (RSA, 1024 bits, PEM), or empty for none; the demonstration key protects nothing")
 
 # Turns the key into DER and checks what it is, at configure time. Needs the program only then.
 find_program(OPENSSL_PROGRAM openssl REQUIRED)
 
-# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280).
+# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280), empty for no key.
 function(tarvo_profile_public_key out)
   set(pem "${TARVO_PROFILE_PUBLIC_KEY}")
+  if(pem STREQUAL "")
+    message(STATUS "No operator's key (TARVO_PROFILE_PUBLIC_KEY): the companion sends no access points")
+    set(${out} "" PARENT_SCOPE)
+    return()
+  endif()
   set(der "${CMAKE_CURRENT_BINARY_DIR}/profile-public-key.der")
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${pem}")
   if(NOT EXISTS "${pem}")
