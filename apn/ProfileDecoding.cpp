@@ -9,12 +9,14 @@ std::optional<QString> decryptApnFile(const QString &path)
     const ProfileBytes file = readProfileBytes(path);
     if (!file.bytes)
         return QString();
-    return decodeProfile(*file.bytes, builtInProfileKey()).text;
+    const auto &key = builtInProfileKey();
+    return key ? decodeProfile(*file.bytes, *key).text : std::nullopt;
 }
 
 std::optional<PlainBlock> decrypt(ProfileBlock block)
 {
-    return builtInProfileKey().decoder().decrypt(block);
+    const auto &key = builtInProfileKey();
+    return key ? key->decoder().decrypt(block) : std::nullopt;
 }
 
 std::optional<QString> getFileNameFromAbsolutePath(const QString &path)

@@ -9,13 +9,12 @@
 
 namespace tarvo {
 
-/// @return the decoded text of the profile at @p path; empty when the file is missing, unreadable or empty;
-/// nil
-///         when it is damaged
+/// @return the decoded text of the profile at @p path; empty when the file is missing, unreadable or empty; nil
+///         when it is damaged, or no key is built in
 std::optional<QString> decryptApnFile(const QString &path);
 
 /// Decodes one block with the built-in key.
-/// @return its plain text, zero-terminated; nil when it does not decode
+/// @return its plain text, zero-terminated; nil when it does not decode, or no key is built in
 std::optional<PlainBlock> decrypt(ProfileBlock block);
 
 /// Cuts the last component of @p path before its extension. The cut is made one character before the

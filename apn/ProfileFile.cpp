@@ -112,4 +112,10 @@ ProfileText readProfile(const QString &path, const ProfileKey &key)
     return decodeProfile(*file.bytes, key);
 }
 
+ProfileText readProfile(const QString &path)
+{
+    const auto &key = builtInProfileKey();
+    return key ? readProfile(path, *key) : ProfileText{std::nullopt, QStringLiteral("no key to decode it is built in")};
+}
+
 } // namespace tarvo

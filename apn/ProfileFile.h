@@ -51,7 +51,8 @@ ProfileBytes readProfileBytes(const QString &path);
 /// Decodes the records in @p file, each by itself, and joins their texts.
 ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key);
 
-/// Reads and decodes the file at @p path.
+/// Reads and decodes the file at @p path, with @p key or with the key that is built in.
 ProfileText readProfile(const QString &path, const ProfileKey &key);
+ProfileText readProfile(const QString &path);
 
 } // namespace tarvo

@@ -2,6 +2,8 @@
 
 #include "platform/Assertion.h"
 
+#include <QCryptographicHash>
+
 #include <ProfileSettings.h>
 #include <openssl/err.h>
 #include <openssl/evp.h>
@@ -62,12 +64,20 @@ std::optional<ProfileKey> ProfileKey::fromDer(QByteArrayView der)
     return ProfileKey(key);
 }
 
-const ProfileKey &builtInProfileKey()
+QByteArray ProfileKey::fingerprint() const
 {
-    static const std::optional<ProfileKey> key =
-        ProfileKey::fromDer(QByteArrayView(profilePublicKey, sizeof profilePublicKey));
-    TARVO_ASSERT(key, "key", "builtInProfileKey", "apn/ProfileKey", __LINE__);
-    return *key;
+    unsigned char *bytes = nullptr;
+    const int size = i2d_PUBKEY(m_key.get(), &bytes);
+    const auto hash = QCryptographicHash::hash(QByteArrayView(bytes, qMax(size, 0)), QCryptographicHash::Sha256);
+    OPENSSL_free(bytes);
+    return hash;
+}
+
+const std::optional<ProfileKey> &builtInProfileKey()
+{
+    static const std::optional<ProfileKey> key = ProfileKey::fromDer(QByteArrayView(profilePublicKey));
+    TARVO_ASSERT(key || profilePublicKey.empty(), "key", "builtInProfileKey", "apn/ProfileKey", __LINE__);
+    return key;
 }
 
 } // namespace tarvo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 
 #include <openssl/types.h>
@@ -43,6 +44,8 @@ public:
     /// @return nil unless it holds an RSA key whose blocks have the profiles' size
     static std::optional<ProfileKey> fromDer(QByteArrayView der);
 
+    /// @return the SHA-256 hash of the key's SubjectPublicKeyInfo in DER form
+    QByteArray fingerprint() const;
     BlockDecoder decoder() const { return BlockDecoder(m_key.get()); }
 
 private:
@@ -51,7 +54,7 @@ private:
     std::shared_ptr<EVP_PKEY> m_key;
 };
 
-/// The key that is built into the program, read once.
-const ProfileKey &builtInProfileKey();
+/// The key that is built into the program, read once. @return nil when it was built without one
+const std::optional<ProfileKey> &builtInProfileKey();
 
 } // namespace tarvo

@@ -21,7 +21,7 @@ namespace {
 
 std::optional<QString> readOrSkip(const QString &path, SystemLog &systemLog)
 {
-    const ProfileText profile = readProfile(path, builtInProfileKey());
+    const ProfileText profile = readProfile(path);
     if (!profile.text)
         systemLog.write(skippedLine(path, profile.problem));
     return profile.text;

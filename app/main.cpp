@@ -80,7 +80,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarvo"));
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("tarvo"));
+    QApplication::setDesktopFileName(QStringLiteral("io.github.tarvo.Tarvo"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     installTranslations(application, QLocale());

@@ -26,7 +26,7 @@ QByteArray privateKeyPem()
 
 const ProfileSigner &signer()
 {
-    static const ProfileSigner signer = ProfileSigner::fromPem(privateKeyPem()).value();
+    static const ProfileSigner signer = ProfileSigner::fromPem(privateKeyPem()).signer.value();
     return signer;
 }
 

@@ -3,14 +3,21 @@ set(TARVO_PROFILE_FOLDER "/Library/Application Support/Skyvane/QX_Profile/" CACH
   "Folder of the access-point profiles and of their list, profile.xml")
 set(TARVO_DEMO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem")
 set(TARVO_PROFILE_PUBLIC_KEY "${TARVO_DEMO_PROFILE_PUBLIC_KEY}" CACHE FILEPATH
-  "Public half of the key that makes profiles (RSA, 1024 bits, PEM); the demonstration key protects nothing")
+  "Public half of the key that makes profiles (RSA, 1024 bits, PEM), or empty for none; the demonstration key protects nothing")
+if(TARVO_PROFILE_PUBLIC_KEY STREQUAL "")
+  message(STATUS "No operator's key (TARVO_PROFILE_PUBLIC_KEY): the companion sends no access points")
+endif()
 
 # Turns the key into DER and checks what it is, at configure time. Needs the program only then.
 find_program(OPENSSL_PROGRAM openssl REQUIRED)
 
-# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280).
+# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280), empty for no key.
 function(tarvo_profile_public_key out)
   set(pem "${TARVO_PROFILE_PUBLIC_KEY}")
+  if(pem STREQUAL "")
+    set(${out} "" PARENT_SCOPE)
+    return()
+  endif()
   set(der "${CMAKE_CURRENT_BINARY_DIR}/profile-public-key.der")
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${pem}")
   if(NOT EXISTS "${pem}")
@@ -29,6 +36,20 @@ function(tarvo_profile_public_key out)
   file(READ "${der}" digits HEX)
   string(REGEX REPLACE "(..)" "0x\\1, " bytes "${digits}")
   set(${out} "${bytes}" PARENT_SCOPE)
+endfunction()
+
+# tarvo_profile_key_description(OUT): the built-in key, for the manual.
+function(tarvo_profile_key_description out)
+  tarvo_profile_public_key(key)
+  set(description "no key to read profiles is built into it, so that it sends no access points.")
+  if(NOT key STREQUAL "")
+    file(SHA256 "${CMAKE_CURRENT_BINARY_DIR}/profile-public-key.der" fingerprint)
+    set(description "the fingerprint of its key is\n.nf\n${fingerprint}.\n.fi")
+  endif()
+  if(TARVO_PROFILE_PUBLIC_KEY STREQUAL TARVO_DEMO_PROFILE_PUBLIC_KEY)
+    string(APPEND description "\nThat is the demonstration key, which everybody has and which protects nothing.")
+  endif()
+  set(${out} "${description}" PARENT_SCOPE)
 endfunction()
 
 # tarvo_profile_folder(OUT): the folder with its trailing slash.

@@ -18,7 +18,7 @@ ProfileSigner readSigner()
     QFile file(QStringLiteral(TARVO_DEMO_PRIVATE_KEY));
     if (!file.open(QIODevice::ReadOnly))
         std::abort();
-    return ProfileSigner::fromPem(file.readAll()).value();
+    return ProfileSigner::fromPem(file.readAll()).signer.value();
 }
 
 /// Records with good blocks, whatever is in them: chance finds none.

@@ -141,7 +141,7 @@ std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const Ballo
         return showWindow(text, iconFrame);
     const Notification notification{.title = extras.title.isEmpty() ? u"Tarvo"_s : extras.title,
                                     .text = text,
-                                    .iconName = u"tarvo"_s,
+                                    .iconName = u"io.github.tarvo.Tarvo"_s,
                                     .openLabel = extras.openLabel,
                                     .opened = m_with.clicked};
     return std::make_unique<NotificationBalloon>(*m_with.notifications, notification,

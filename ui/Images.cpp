@@ -6,6 +6,7 @@
 #include <QSvgRenderer>
 
 #include <memory>
+#include <utility>
 
 namespace tarvo {
 
@@ -15,21 +16,29 @@ namespace {
 
 constexpr int usualSize = 22; // pixels
 
+using Drawing = std::shared_ptr<QSvgRenderer>; // clones draw the same
+
+Drawing drawingOf(QStringView folder, const QString &name)
+{
+    auto drawing = std::make_shared<QSvgRenderer>(u":/tarvo/icons/hicolor/%1/%2.svg"_s.arg(folder, name));
+    drawing->setAspectRatioMode(Qt::KeepAspectRatio);
+    return drawing;
+}
+
 /// Draws an SVG file at whatever size is asked for. Qt's own engine for such files is a plugin, and need not be there.
-class SvgEngine final : public QIconEngine {
+class SvgEngine : public QIconEngine {
 public:
-    explicit SvgEngine(const QString &file)
-        : m_renderer(std::make_shared<QSvgRenderer>(file))
+    explicit SvgEngine(Drawing drawing)
+        : m_drawing(std::move(drawing))
     {
-        m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
     }
 
-    bool isNull() override { return !m_renderer->isValid(); }
+    bool isNull() override { return !m_drawing->isValid(); }
     QIconEngine *clone() const override { return new SvgEngine(*this); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
     {
-        m_renderer->render(painter, QRectF(rect));
+        drawingFor(qMin(rect.width(), rect.height())).render(painter, QRectF(rect));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
@@ -41,31 +50,59 @@ public:
         return pixmap;
     }
 
+protected:
+    /// @return the drawing whose lines meet the pixels at @p side pixels, as well as one can
+    virtual QSvgRenderer &drawingFor(int) { return *m_drawing; }
+
 private:
-    std::shared_ptr<QSvgRenderer> m_renderer; // clones draw the same
+    Drawing m_drawing;
 };
 
-QIcon themeOrEmbedded(const QString &iconName)
+/// An image that was also drawn for the sizes of panels which are no multiples of 16 pixels.
+class StateEngine final : public SvgEngine {
+public:
+    explicit StateEngine(const QString &name)
+        : SvgEngine(drawingOf(u"scalable/status", name))
+        , m_for22(drawingOf(u"22x22/status", name))
+        , m_for24(drawingOf(u"24x24/status", name))
+    {
+    }
+
+    QIconEngine *clone() const override { return new StateEngine(*this); }
+
+protected:
+    QSvgRenderer &drawingFor(int side) override
+    {
+        if (side % 22 == 0)
+            return *m_for22;
+        return side == 24 ? *m_for24 : SvgEngine::drawingFor(side);
+    }
+
+private:
+    Drawing m_for22;
+    Drawing m_for24;
+};
+
+QIcon iconOf(std::unique_ptr<SvgEngine> engine)
 {
-    // A lookup of a theme icon that is missing falls back to shorter names: ours would all become the application's.
-    // One that is there may be of a kind that no installed plugin draws, or damaged.
-    const QIcon themed = QIcon::hasThemeIcon(iconName) ? QIcon::fromTheme(iconName) : QIcon();
-    if (!themed.pixmap(usualSize).isNull())
-        return themed;
-    const QIcon embedded(new SvgEngine(u":/tarvo/icons/%1.svg"_s.arg(iconName)));
-    return embedded.isNull() ? QIcon() : embedded;
+    return engine->isNull() ? QIcon() : QIcon(engine.release());
 }
 
 } // namespace
 
 QIcon imageNamed(const QString &name)
 {
-    return themeOrEmbedded(u"tarvo-"_s + name);
+    // Not from the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
+    return iconOf(std::make_unique<StateEngine>(u"tarvo-"_s + name));
 }
 
 QIcon applicationImage()
 {
-    return themeOrEmbedded(u"tarvo"_s);
+    // The theme's may be of a kind that no installed plugin draws, or damaged.
+    const auto name = u"io.github.tarvo.Tarvo"_s;
+    const QIcon themed = QIcon::fromTheme(name);
+    return themed.pixmap(usualSize).isNull() ? iconOf(std::make_unique<SvgEngine>(drawingOf(u"scalable/apps", name)))
+                                             : themed;
 }
 
 } // namespace tarvo

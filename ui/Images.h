@@ -5,11 +5,11 @@
 
 namespace tarvo {
 
-/// @return the image that the desktop's icon theme has as `tarvo-<name>` (freedesktop Icon Theme standard), else, or
-///         when that cannot be drawn, the one that the program carries; a null icon for an unknown name
+/// @return the image of a state, which the program carries as `tarvo-<name>`, crisp at the sizes of panels; a null icon
+///         for an unknown name
 QIcon imageNamed(const QString &name);
 
-/// @return the application's own icon, in the same way
+/// @return the application's icon, from the desktop's icon theme (freedesktop Icon Theme standard) when it is there
 QIcon applicationImage();
 
 } // namespace tarvo

@@ -87,4 +87,11 @@ FolderReport reportFolder(const QString &folder, const ProfileKey &key)
     return Reporter(folder.endsWith(u'/') ? folder : folder + u'/', key).report();
 }
 
+FolderReport reportFolder(const QString &folder)
+{
+    const auto &key = builtInProfileKey();
+    return key ? reportFolder(folder, *key)
+               : FolderReport{{QStringLiteral("no key to decode profiles is built in")}, false};
+}
+
 } // namespace tarvo

@@ -13,7 +13,8 @@ struct FolderReport {
     bool isInOrder = true;
 };
 
-/// Reads @p folder, whose list is its `profile.xml`, the way the companion does.
+/// Reads @p folder, whose list is its `profile.xml`, the way the companion does, with @p key or with the one built in.
 FolderReport reportFolder(const QString &folder, const ProfileKey &key);
+FolderReport reportFolder(const QString &folder);
 
 } // namespace tarvo

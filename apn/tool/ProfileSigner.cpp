@@ -50,12 +50,14 @@ ProfileSigner::ProfileSigner(std::shared_ptr<EVP_PKEY> key)
 {
 }
 
-std::optional<ProfileSigner> ProfileSigner::fromPem(QByteArrayView pem)
+PrivateKeyReading ProfileSigner::fromPem(QByteArrayView pem)
 {
     const Key key(PEM_read_bio_PrivateKey(reader(pem).get(), nullptr, nullptr, nullptr), EVP_PKEY_free);
+    if (!key && pem.contains("ENCRYPTED"))
+        return {std::nullopt, QStringLiteral("its pass phrase is missing or wrong")};
     if (!key || !ProfileKey::fromDer(publicDer(key.get())))
-        return std::nullopt;
-    return ProfileSigner(key);
+        return {std::nullopt, QStringLiteral("it holds no RSA private key of 1024 bits in PEM form")};
+    return {ProfileSigner(key), {}};
 }
 
 ProfileKey ProfileSigner::publicKey() const

@@ -13,12 +13,13 @@
 
 namespace tarvo {
 
+struct PrivateKeyReading;
+
 /// The private half of a key that makes profiles.
 class ProfileSigner {
 public:
-    /// Reads a private key in PEM form; one with a pass phrase is asked for on the terminal.
-    /// @return nil unless it holds an RSA key whose blocks have the profiles' size
-    static std::optional<ProfileSigner> fromPem(QByteArrayView pem);
+    /// Reads a private key in PEM form; its pass phrase, if it has one, is asked for on the terminal.
+    static PrivateKeyReading fromPem(QByteArrayView pem);
 
     ProfileKey publicKey() const;
 
@@ -36,8 +37,12 @@ private:
     std::shared_ptr<EVP_PKEY> m_key;
 };
 
-/// Reads a public key in PEM form. @return nil unless it holds an RSA key whose blocks have the profiles'
-/// size
+struct PrivateKeyReading {
+    std::optional<ProfileSigner> signer; ///< nil unless it is an RSA key whose blocks have the profiles' size
+    QString problem; ///< why it is nil, as the end of a sentence; empty when it is not
+};
+
+/// Reads a public key in PEM form. @return nil unless it holds an RSA key whose blocks have the profiles' size
 std::optional<ProfileKey> profileKeyFromPem(QByteArrayView pem);
 
 } // namespace tarvo

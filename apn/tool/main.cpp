@@ -1,5 +1,6 @@
 #include "apn/ProfileDecoding.h"
 #include "apn/ProfileFile.h"
+#include "apn/ProfileSelection.h"
 #include "apn/tool/FolderReport.h"
 #include "apn/tool/ProfileSigner.h"
 #include "apn/tool/ProfileSource.h"
@@ -74,9 +75,9 @@ int pack(const QCommandLineParser &arguments, const QString &path)
     const auto json = readFile(path);
     if (!pem || !json)
         return failed;
-    const auto signer = ProfileSigner::fromPem(*pem);
+    const auto [signer, keyProblem] = ProfileSigner::fromPem(*pem);
     if (!signer)
-        return fail(keyPath, QStringLiteral("it holds no RSA private key of 1024 bits in PEM form"));
+        return fail(keyPath, keyProblem);
 
     if (!json->isValidUtf8())
         return fail(path, QStringLiteral("it is no UTF-8"));
@@ -95,6 +96,8 @@ int pack(const QCommandLineParser &arguments, const QString &path)
 std::optional<ProfileKey> publicKey(const QCommandLineParser &arguments)
 {
     const QString path = arguments.value(publicKeyOption);
+    if (path.isEmpty() && !builtInProfileKey())
+        fail(QStringLiteral("key"), QStringLiteral("none is built in; name one by --public-key"));
     if (path.isEmpty())
         return builtInProfileKey();
     const auto pem = readFile(path);
@@ -134,12 +137,23 @@ int check(const QCommandLineParser &arguments, const QString &path)
     return report.isInOrder ? inOrder : failed;
 }
 
+int about()
+{
+    const auto &key = builtInProfileKey();
+    print(stdout, QStringLiteral("folder: %1").arg(QString::fromUtf8(APN_ROOT)));
+    print(stdout,
+          key ? QStringLiteral("key: SHA-256 %1").arg(QString::fromLatin1(key->fingerprint().toHex()))
+              : QStringLiteral("key: none, so that no access points are sent"));
+    return inOrder;
+}
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QStringLiteral("Makes and reads access-point profiles.\n\n"
                                                     "  pack FILE     makes a profile of a JSON file\n"
                                                     "  unpack FILE   shows a profile's text\n"
-                                                    "  check DIR     says what the companion makes of a folder"));
+                                                    "  check DIR     says what the companion makes of a folder\n"
+                                                    "  about         tells the companion's folder and key"));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption({keyOption, QStringLiteral("Private key to pack with, PEM."), QStringLiteral("file")});
@@ -147,7 +161,7 @@ void describe(QCommandLineParser &parser)
                       QStringLiteral("Public key to read with, PEM; the companion's own when not given."),
                       QStringLiteral("file")});
     parser.addOption({{QStringLiteral("o"), outputOption}, QStringLiteral("File to write."), QStringLiteral("file")});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack, unpack or check"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack, unpack, check or about"));
     parser.addPositionalArgument(QStringLiteral("path"), QStringLiteral("What to work on."));
 }
 
@@ -173,5 +187,7 @@ int main(int argc, char **argv)
         return unpack(parser, words[1]);
     if (words.size() == 2 && words[0] == u"check")
         return check(parser, words[1]);
+    if (words == QStringList(QStringLiteral("about")))
+        return about();
     return fail(QStringLiteral("arguments"), QStringLiteral("see tarvo-profile --help"), wrongUse);
 }

@@ -7,6 +7,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
+#include <QGuiApplication>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -85,8 +86,9 @@ void DesktopNotifications::show(const Notification &notification, std::function<
     m_wanted = true;
     m_failed = std::move(failed);
     QDBusMessage message = call(u"Notify"_s);
+    const QVariantMap hints{{u"transient"_s, true}, {u"desktop-entry"_s, QGuiApplication::desktopFileName()}};
     message << notification.title << m_identifier << notification.iconName << notification.title
-            << notification.text.toHtmlEscaped() << QStringList() << QVariantMap{{u"transient"_s, true}} << longestStay;
+            << notification.text.toHtmlEscaped() << QStringList() << hints << longestStay;
     auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(asked, &QDBusPendingCallWatcher::finished, this,
             [this, asked, request = ++m_request] { shown(asked, request); });

@@ -18,7 +18,7 @@ inline ProfileSigner demoSigner()
 {
     QFile file(QStringLiteral(TARVO_DEMO_PRIVATE_KEY));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return ProfileSigner::fromPem(file.readAll()).value();
+    return ProfileSigner::fromPem(file.readAll()).signer.value();
 }
 
 /// A profile folder of the test's own, which the companion reads as long as this lives.

@@ -72,6 +72,8 @@ TEST(ProfileTool, PacksWhatTheCompanionReads)
     EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 0);
     EXPECT_EQ(run({u"unpack"_s, packed}), 0);
     EXPECT_EQ(tool.readAllStandardOutput(), record.toUtf8() + '\n');
+    EXPECT_EQ(run({u"about"_s}), 0);
+    EXPECT_TRUE(tool.readAllStandardOutput().contains(folder.signer().publicKey().fingerprint().toHex()));
     EXPECT_EQ(run({u"check"_s, folder.path({})}), 1) << "there is no list";
     EXPECT_EQ(run(pack + QStringList{folder.path(u"names.json"_s)}), 1) << "a list has its own name";
     EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);

@@ -83,13 +83,13 @@ TEST(Translations, FollowTheUsersLanguage)
 TEST(Images, AreThereWithoutThemeAndPluginsAndDifferWithoutColour)
 {
     QTemporaryDir theme;
-    QFile damaged(theme.filePath(u"tarvo-ready.png"_s));
+    QFile damaged(theme.filePath(u"io.github.tarvo.Tarvo.png"_s));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("no picture") > 0);
     damaged.close();
     QCoreApplication::setLibraryPaths({}); // of plugins that are not loaded yet
     QIcon::setThemeName(u"hicolor"_s);
     QIcon::setFallbackSearchPaths({theme.path()});
-    EXPECT_TRUE(QIcon::hasThemeIcon(u"tarvo-ready"_s));
+    EXPECT_FALSE(applicationImage().pixmap(16).isNull());
 
     QList<QImage> pictures;
     for (const char *name : {"ready", "online", "newVersion", "dataFluxReached", "dataFluxExceeded"}) {
@@ -97,6 +97,7 @@ TEST(Images, AreThereWithoutThemeAndPluginsAndDifferWithoutColour)
         QImage picture = icon.pixmap(16).toImage();
         EXPECT_EQ(picture.size(), QSize(16, 16)) << name;
         EXPECT_NE(icon.pixmap({16, 16}, 2).toImage(), picture.scaled(32, 32)) << name << " is not sharp";
+        EXPECT_EQ(icon.pixmap(24).toImage().copy(1, 1, 22, 22), icon.pixmap(22).toImage()) << name << " is stretched";
         picture.convertTo(QImage::Format_Grayscale8);
         EXPECT_FALSE(pictures.contains(picture)) << name << " looks like another without colour";
         pictures << picture;
