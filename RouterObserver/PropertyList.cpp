@@ -1,10 +1,10 @@
 #include "RouterObserver/PropertyList.h"
 
 #include "RouterObserver/PropertyListLimits.h"
+#include "platform/StrictUtf8.h"
 
 #include <QDateTime>
 #include <QMetaType>
-#include <QStringDecoder>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -65,9 +65,7 @@ std::optional<QVariant> toValue(plist_t node);
 
 std::optional<QString> toText(const char *bytes, quint64 size)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder(QByteArrayView(bytes, static_cast<qsizetype>(size)));
-    return decoder.hasError() ? std::nullopt : std::optional(text);
+    return strictUtf8(QByteArrayView(bytes, static_cast<qsizetype>(size)), ByteOrderMark::Drop);
 }
 
 std::optional<QVariant> toMap(plist_t node)

@@ -1,7 +1,8 @@
 #include "apn/ProfileFile.h"
 
+#include "platform/StrictUtf8.h"
+
 #include <QFile>
-#include <QStringDecoder>
 
 #include <fcntl.h>
 
@@ -25,10 +26,8 @@ ProfileBytes unreadable(const std::error_code &error)
 /// @return the text up to the first zero byte; nil when it is no UTF-8
 std::optional<QString> textOf(const PlainBlock &plain)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8,
-                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    QString text = decoder(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))));
-    return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
+    return strictUtf8(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))),
+                      ByteOrderMark::Keep);
 }
 
 } // namespace
