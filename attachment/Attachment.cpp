@@ -60,9 +60,7 @@ void Work::post(StepQueue &queue, std::function<void()> step) const
 bool Work::start(std::function<void(const Work &work)> body) const
 {
     bool started = false;
-    whileAttached([&] {
-        started = m_state->threads.start([work = *this, body = std::move(body)] { body(work); });
-    });
+    whileAttached([&] { started = m_state->threads.start([work = *this, body = std::move(body)] { body(work); }); });
     return started;
 }
 

@@ -138,8 +138,8 @@ bool ModemClient::setWebRequestWithId(const std::optional<QString> &command)
 {
     if (!command)
         return false;
-    const auto answer = setWebRequestToServer(modemUrl(u"goform/goform_set_cmd_process?"_s),
-                                              u"goformId="_s + *command, nullptr);
+    const auto answer =
+        setWebRequestToServer(modemUrl(u"goform/goform_set_cmd_process?"_s), u"goformId="_s + *command, nullptr);
     if (!answer) {
         log(*command + u" setReqResultStr: (null), error: (null)"_s);
         return false;
