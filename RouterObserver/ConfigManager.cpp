@@ -1,7 +1,6 @@
 #include "RouterObserver/ConfigManager.h"
 
 #include "RouterObserver/PropertyList.h"
-#include "RouterObserver/PropertyListLimits.h"
 #include "platform/Assertion.h"
 
 #include <QCoreApplication>
