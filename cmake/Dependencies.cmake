@@ -12,9 +12,6 @@ find_package(CURL 7.88 REQUIRED)
 # MD5 for the session token, RSA for the access-point profile files.
 find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
 
-# Reads and writes Config.plist, in its XML and binary forms.
-pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0>=2.2)
-
 # Links, addresses and routes from the kernel.
 pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>=3.7)
 
