@@ -9,9 +9,8 @@
 
 namespace tarvo {
 
-/// @return the decoded text of the profile at @p path; empty when the file is missing, unreadable or empty;
-/// nil
-///         when it is damaged
+/// @return the decoded text of the profile at @p path; empty when the file is missing, unreadable or empty; nil when it
+///         is damaged
 std::optional<QString> decryptApnFile(const QString &path);
 
 /// Decodes one block with the built-in key.

@@ -40,9 +40,8 @@ CipherInputs::CipherInputs(QByteArrayView file)
 std::optional<ProfileBlock> CipherInputs::at(qsizetype record)
 {
     findTextFrom(record);
-    // A line end at or after the block's end leaves the record's own bytes at the start of the text, so
-    // whether that is UTF-8 matters only for one before it. Each text is therefore checked once, not once a
-    // record.
+    // A line end at or after the block's end leaves the record's own bytes at the start of the text, so whether that is
+    // UTF-8 matters only for one before it. Each text is therefore checked once, not once a record.
     const bool cutsBlock = m_lastLineEnd >= record && m_lastLineEnd - record < blockSize;
     if (cutsBlock && m_file.sliced(record, m_textEnd - record).isValidUtf8())
         return std::nullopt;

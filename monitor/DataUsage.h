@@ -6,8 +6,7 @@
 
 namespace tarvo {
 
-/// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there
-/// is none.
+/// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there is none.
 ///         "inf", "nan" and hexadecimal are no numbers; one too large for a float is infinite
 float leadingNumber(const QString &text);
 

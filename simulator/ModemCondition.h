@@ -69,8 +69,7 @@ QByteArray statusPage(const ModemCondition &condition);
 QByteArray getAnswer(const ModemCondition &condition, const QString &command, const QString &session);
 
 /// Carries out a set command whose sender has been checked.
-/// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them
-/// escaped
+/// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them escaped
 /// @return whether the modem accepts it
 bool applySetCommand(ModemCondition &condition, const QByteArray &form);
 

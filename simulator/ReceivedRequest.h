@@ -17,8 +17,7 @@ struct ReceivedRequest {
     std::chrono::steady_clock::time_point time{}; ///< when it was complete
     quint64 connection = 0; ///< counts the accepted connections from 1
 
-    /// @return the value of the first header named @p name, whatever its letters' case; nil when there is
-    /// none
+    /// @return the value of the first header named @p name, whatever its letters' case; nil when there is none
     std::optional<QByteArray> header(const QByteArray &name) const;
     QByteArray path() const;
     /// @return what follows the question mark; empty when there is none
@@ -33,8 +32,7 @@ enum class TakeResult {
     Malformed, ///< the bytes are no request, or too many
 };
 
-/// Cuts the first complete request off @p buffer; heads of up to 64 KiB and bodies of up to 4 MiB are
-/// accepted.
+/// Cuts the first complete request off @p buffer; heads of up to 64 KiB and bodies of up to 4 MiB are accepted.
 TakeResult takeRequest(QByteArray &buffer, ReceivedRequest &request);
 
 } // namespace tarvo

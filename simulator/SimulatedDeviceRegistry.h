@@ -20,8 +20,7 @@ public:
     /// Takes out @p service and everything below it.
     void removeDevice(IOServiceHandle service);
 
-    /// Adds a USB modem: a device with the identifiers, below it its interface, and below that the network
-    /// interface
+    /// Adds a USB modem: a device with the identifiers, below it its interface, and below that the network interface
     /// @p bsdName. @return the USB device
     IOServiceHandle addModem(const QString &bsdName, int vendorID, int productID,
                              const QByteArray &interfaceClass = "IOUSBHostInterface");

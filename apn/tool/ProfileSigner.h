@@ -36,8 +36,7 @@ private:
     std::shared_ptr<EVP_PKEY> m_key;
 };
 
-/// Reads a public key in PEM form. @return nil unless it holds an RSA key whose blocks have the profiles'
-/// size
+/// Reads a public key in PEM form. @return nil unless it holds an RSA key whose blocks have the profiles' size
 std::optional<ProfileKey> profileKeyFromPem(QByteArrayView pem);
 
 } // namespace tarvo

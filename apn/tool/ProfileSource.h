@@ -12,8 +12,7 @@ struct ProfileSource {
     QStringList problems{}; ///< each the end of a sentence; empty when all is well
 };
 
-/// @return what is wrong with @p record as an access-point record: JSON, its keys, the kinds of their values,
-/// and
+/// @return what is wrong with @p record as an access-point record: JSON, its keys, the kinds of their values, and
 ///         characters that end or change the record on its way to the modem
 QStringList recordProblems(const QString &record);
 
