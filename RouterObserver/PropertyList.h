@@ -15,7 +15,7 @@ inline constexpr int maxPropertyListDepth = 32;
 
 /// What reading a property list gave: its root, or why there is none.
 struct PropertyListReading {
-    std::optional<QVariant> root;
+    std::optional<QVariant> root; ///< nil when the list was refused
     QString problem; ///< empty when there is a root
 };
 

@@ -16,7 +16,7 @@ QString notFoundApnTemplate();
 
 /// Which access point becomes the modem's default.
 struct DefaultApn {
-    int index = 0;
+    int index = 0; ///< in the modem's list, or one of the two above
     /// The not-found record has to be given the modem's default name: no record is known by it.
     bool isUnknown = false;
     QStringList problems{}; ///< a line for each record that had to be read and could not

@@ -16,6 +16,7 @@ public:
     /// @param published  called on the polling worker after each page has become the snapshot
     explicit StatusMonitor(std::function<void(const Work &work)> published);
 
+    /// @return the snapshot that all parts read; lives as long as this object
     SharedSnapshot &snapshot() { return m_snapshot; }
 
     /// Turns the status page @p content into the snapshot (polling worker).

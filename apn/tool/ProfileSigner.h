@@ -20,6 +20,7 @@ public:
     /// @return nil unless it holds an RSA key whose blocks have the profiles' size
     static std::optional<ProfileSigner> fromPem(QByteArrayView pem);
 
+    /// @return the half that the companion decodes with
     ProfileKey publicKey() const;
 
     /// Makes one record of at most 117 bytes of plain text, by PKCS#1 v1.5 type 1 padding and the private-key

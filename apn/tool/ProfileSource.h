@@ -7,8 +7,8 @@ namespace tarvo {
 
 /// The text of a profile, and what an operator should know about it before the companion reads it.
 struct ProfileSource {
-    QString text;
-    bool isNameList = false;
+    QString text; ///< what a profile is packed from when there are no problems
+    bool isNameList = false; ///< the text is a list of names, not a record
     QStringList problems{}; ///< each the end of a sentence; empty when all is well
 };
 
