@@ -11,6 +11,7 @@ namespace tarvo {
 /// A session that is opened while a change is being told hears of later changes only.
 class StateStore : public DynamicStore {
 public:
+    /// Values by key.
     using Entries = QMap<QString, QVariantMap>;
 
     StateStore() = default;
@@ -19,6 +20,7 @@ public:
 
     std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
 
+    /// @return the whole state as it is now
     const Entries &entries() const { return m_entries; }
 
     /// Replaces the whole state, then tells each session of each key whose value differs, in key order.

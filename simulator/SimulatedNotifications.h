@@ -13,6 +13,7 @@ public:
     void show(const Notification &notification, std::function<void()> failed) override;
     void close() override;
 
+    /// From now on the desktop has, or has not, such a service.
     void setAvailable(bool available) { m_available = available; }
     /// Turns down what was shown last.
     void refuse();
