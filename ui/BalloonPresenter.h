@@ -31,6 +31,7 @@ public:
 
     /// Closes the balloon if one is shown; otherwise opens one with @p text, unless that is nil or empty.
     void toggleAttachedWindowAtPoint(const std::optional<QString> &text);
+    /// @return whether a balloon was opened and not closed; the user may have dismissed it
     bool isShown() const { return attachedWindow != nullptr; }
 
 private:

@@ -37,6 +37,7 @@ public:
         SystemLog &systemLog;
     };
 
+    /// Nothing has been shown, and there is no device yet.
     explicit NewsSequence(const Surroundings &surroundings);
 
     /// The pointer came over the icon: starts a sequence unless one runs (main thread).

@@ -22,9 +22,9 @@ class StatusIcon {
 public:
     /// What the user does with the icon. Each is called on the main thread.
     struct Actions {
-        std::function<void()> click;
-        std::function<void()> pointerEntered;
-        std::function<void()> openModemPage;
+        std::function<void()> click; ///< on the icon itself
+        std::function<void()> pointerEntered; ///< the icon; not in every bar
+        std::function<void()> openModemPage; ///< chosen in the menu, as the next two
         std::function<void()> openMessages;
         std::function<void()> quit;
     };

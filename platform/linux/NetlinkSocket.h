@@ -11,8 +11,10 @@ namespace tarvo {
 /// A connection to the kernel's routing netlink (rtnetlink(7)). Used on one thread.
 class NetlinkSocket {
 public:
+    /// Given one message at a time, which it must not keep.
     using Handler = std::function<void(nl_msg *message)>;
 
+    /// What is left after events were received.
     enum class Received {
         Everything, ///< the socket is empty now
         Some, ///< there is more to receive
