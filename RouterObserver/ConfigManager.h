@@ -29,10 +29,20 @@ public:
     /// @throws std::out_of_range when the module is an array without such an element
     std::optional<QVariant> getConfigurationByModuleAndKey(const std::optional<QString> &module,
                                                            const std::optional<QString> &moduleKey) const;
+
+    // The writers change nothing, and return false, when an argument is nil or nothing was loaded. Nothing but `flush`
+    // reaches the file. Nothing calls them at present.
+
+    /// Gives @p module the value @p object, in the place of an earlier one. @return whether it has
     bool setConfigurationByModule(const std::optional<QString> &module, const std::optional<QVariant> &object);
+    /// Puts @p value under @p key into a module that is a dictionary, or at the end of one that is an array, unless
+    /// that has an equal element. @return whether there is such a module, of whatever kind
     bool setConfigurationByModuleKeyAndValue(const std::optional<QString> &module, const std::optional<QString> &key,
                                              const QVariant &value);
+    /// Takes @p module out, if it is there. @return false also when the dictionary is empty
     bool removeConfigurationByModule(const std::optional<QString> &module);
+    /// Takes @p moduleKey out of a module that is a dictionary, if it is there. @return whether there is such a module,
+    /// of whatever kind
     bool removeConfigurationByModuleAndKey(const std::optional<QString> &module,
                                            const std::optional<QString> &moduleKey);
     /// @return the whole dictionary itself, owned by the store; null when nothing was loaded

@@ -12,8 +12,8 @@ namespace tarvo {
 
 /// The configured services and their order. Opened by the first look-up of a service by name, and kept from then on.
 struct NetworkPreferences {
-    DynamicStore &store;
-    std::unique_ptr<DynamicStoreSession> prefRef{};
+    DynamicStore &store; ///< holds them in its setup domain; outlives this object
+    std::unique_ptr<DynamicStoreSession> prefRef{}; ///< null until it is opened
 };
 
 /// @return the address of the service's IPv4 router right now; nil when it has none

@@ -8,9 +8,14 @@
 
 namespace tarvo {
 
+/// The largest property-list file that is read, in bytes.
+inline constexpr qsizetype maxPropertyListSize = 1 << 20;
+/// How deep the values of a property list may be nested.
+inline constexpr int maxPropertyListDepth = 32;
+
 /// What reading a property list gave: its root, or why there is none.
 struct PropertyListReading {
-    std::optional<QVariant> root;
+    std::optional<QVariant> root; ///< nil when the list was refused
     QString problem; ///< empty when there is a root
 };
 

@@ -32,7 +32,9 @@ struct ReadyDictionary {
 
 /// Who is told of devices. A report that nobody takes is left empty.
 struct RouterReports {
+    /// A supported interface has IPv4 state, with a router or without.
     std::function<void(const ReadyDictionary &)> procECMReady;
+    /// A supported interface has gone.
     std::function<void(const QString &bsdName)> procInterfaceRemoved;
     std::function<void()> supportedInterfaceAppeared{}; ///< it may have no address yet
 };
@@ -43,6 +45,7 @@ struct RouterReports {
 /// address but stays without a router is logged, once for each device.
 class RouterObserver {
 public:
+    /// Watches nothing yet. Everything referred to outlives the observer.
     RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog);
     ~RouterObserver();
     RouterObserver(const RouterObserver &) = delete;
@@ -50,16 +53,24 @@ public:
 
     /// Starts to watch the interface list. @return false when the network state cannot be had
     bool startWatchNetworkInterface(const std::shared_ptr<const RouterReports> &observer);
+    /// Reads the interface list at the first of @p keys: reports what has gone, and starts to watch IPv4 when a
+    /// supported interface has come. A list that cannot be read changes nothing.
     void updateSupportedNetworkInterface(DynamicStoreSession &session, const QStringList &keys);
     /// Starts to watch the IPv4 state of all services; does nothing when that is on already.
     void startWatchSupportedInterfaceIPv4(const std::shared_ptr<const RouterReports> &observer);
+    /// Looks for the first service on a supported interface, among those whose keys match the first of @p keys, and
+    /// reports it. Its time becomes the plugged-in time; when there is no such service, that time is forgotten.
     void updateSupportedInterfaceIPv4(DynamicStoreSession &session, const QStringList &keys);
+    /// Ends what `startWatchSupportedInterfaceIPv4` began. Nothing calls it at present.
     void stopWatchSupportedInterfaceIPv4();
 
+    // Make the reports, to the observer that was given last.
     void ipv4Observer(const ReadyDictionary &ready) const;
     void interfaceRemoved(const QString &bsdName) const;
 
+    /// Takes this moment for the time at which the modem was plugged in.
     void resetModemPlugedInTime();
+    /// Forgets the time at which the modem was plugged in.
     void releaseModemPlugedInTime();
     /// @return the time of the last ready report; nil when the last IPv4 change was of no supported modem
     std::optional<QDateTime> getModemPlugedInTime() const;
@@ -70,10 +81,14 @@ public:
     /// @return whether a supported interface is there, with or without an address
     bool hasSupportedInterface() const { return !supportedBSDNames_.isEmpty(); }
 
+    // Whether the settings list a USB identifier, of which the lower 32 bits count: among the vendors whose devices are
+    // ours, the products (which detection does not ask for), and the products that are left alone.
     bool isSupportedVendorID(qint64 vendorID) const;
     bool isSupportedProductID(qint64 productID) const;
     bool isExcludedProductID(qint64 productID) const;
+    /// @return whether the device is of a supported vendor and no excluded product; false for one without a vendor
     bool isSupportedIOService(IOServiceHandle service) const;
+    /// @return the device behind the interface @p bsdName; 0 when there is none, or the name has more than 255 bytes
     IOServiceHandle getIOServiceOfBSDName(const QString &bsdName) const;
     /// @param bsdName must not be nil
     bool isSupportedEnthernetBSDName(const std::optional<QString> &bsdName) const;

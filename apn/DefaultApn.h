@@ -11,20 +11,18 @@ namespace tarvo {
 inline constexpr int notFoundApnIndex = 199; ///< the not-found record has to be added
 inline constexpr int unnamedApnIndex = 100; ///< records were sent, and the modem names no default
 
-/// The access-point record for a default that this computer does not know, "PC_PROFILE_NAME" in its name's
-/// place.
+/// The access-point record for a default that this computer does not know, "PC_PROFILE_NAME" in its name's place.
 QString notFoundApnTemplate();
 
 /// Which access point becomes the modem's default.
 struct DefaultApn {
-    int index = 0;
+    int index = 0; ///< in the modem's list, or one of the two above
     /// The not-found record has to be given the modem's default name: no record is known by it.
     bool isUnknown = false;
     QStringList problems{}; ///< a line for each record that had to be read and could not
 };
 
-/// Finds the default's place among the modem's own access points first, then among the records of this
-/// computer.
+/// Finds the default's place among the modem's own access points first, then among the records of this computer.
 /// @param name         the modem's default; nil and empty mean that it names none
 /// @param webDefaults  the names of the modem's own access points, in the order of their indexes
 /// @param records      the records that were sent, JSON objects

@@ -1,7 +1,8 @@
 #include "apn/ProfileFile.h"
 
+#include "platform/StrictUtf8.h"
+
 #include <QFile>
-#include <QStringDecoder>
 
 #include <fcntl.h>
 
@@ -25,10 +26,8 @@ ProfileBytes unreadable(const std::error_code &error)
 /// @return the text up to the first zero byte; nil when it is no UTF-8
 std::optional<QString> textOf(const PlainBlock &plain)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8,
-                           QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-    QString text = decoder(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))));
-    return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
+    return strictUtf8(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))),
+                      ByteOrderMark::Keep);
 }
 
 } // namespace
@@ -41,9 +40,8 @@ CipherInputs::CipherInputs(QByteArrayView file)
 std::optional<ProfileBlock> CipherInputs::at(qsizetype record)
 {
     findTextFrom(record);
-    // A line end at or after the block's end leaves the record's own bytes at the start of the text, so
-    // whether that is UTF-8 matters only for one before it. Each text is therefore checked once, not once a
-    // record.
+    // A line end at or after the block's end leaves the record's own bytes at the start of the text, so whether that is
+    // UTF-8 matters only for one before it. Each text is therefore checked once, not once a record.
     const bool cutsBlock = m_lastLineEnd >= record && m_lastLineEnd - record < blockSize;
     if (cutsBlock && m_file.sliced(record, m_textEnd - record).isValidUtf8())
         return std::nullopt;

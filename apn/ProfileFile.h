@@ -13,11 +13,13 @@ namespace tarvo {
 /// A profile is a few records; a file of more bytes than this is none.
 inline constexpr qsizetype maximumProfileSize = 256 * 1024;
 
+/// What reading a file gave.
 struct ProfileBytes {
     std::optional<QByteArray> bytes; ///< nil when the file cannot be read
     QString problem; ///< why not, as the end of a sentence; empty when it can
 };
 
+/// What decoding a profile gave.
 struct ProfileText {
     std::optional<QString> text; ///< nil unless the whole file is in order
     QString problem; ///< what is wrong, as the end of a sentence; empty when nothing is

@@ -19,6 +19,7 @@ inline constexpr std::size_t profileRecordSize = profileBlockSize + 2;
 /// A block less the 11 bytes of its padding (RFC 8017, 9.2).
 inline constexpr std::size_t maximumBlockTextSize = profileBlockSize - 11;
 
+/// One block as it lies in a profile; the bytes stay the caller's.
 using ProfileBlock = std::span<const unsigned char, profileBlockSize>;
 /// A block's plain text, and zero bytes up to the end; at least one.
 using PlainBlock = std::array<char, profileBlockSize + 1>;
@@ -46,6 +47,7 @@ public:
 
     /// @return the SHA-256 hash of the key's SubjectPublicKeyInfo in DER form
     QByteArray fingerprint() const;
+    /// @return a decoder that shares this key, and may outlive it
     BlockDecoder decoder() const { return BlockDecoder(m_key.get()); }
 
 private:

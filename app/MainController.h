@@ -35,6 +35,7 @@ namespace tarvo {
 /// Lives on the main thread, where all its operations run.
 class MainController {
 public:
+    /// Makes the parts; nothing is watched, shown or sent yet.
     explicit MainController(Services services);
     /// Ends all work, and waits until it has ended.
     ~MainController();
@@ -62,6 +63,7 @@ public:
     void procInterfaceRemoved(const QString &bsdName);
     /// The device is up but has no router yet: there is nothing to do but wait.
     void waitingIPv4Ready();
+    /// Starts to poll the modem that was last reported, with a line in the log.
     void startGetModemInfo();
     /// Shows the icon as online and starts to poll the modem that was last reported.
     void startGetModemStatus();

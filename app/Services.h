@@ -18,12 +18,12 @@ class Workspace;
 
 /// What the controller needs from the outside. Everything referred to outlives the controller.
 struct Services {
-    DynamicStore &dynamicStore;
-    DeviceRegistry &deviceRegistry;
-    Workspace &workspace;
-    StatusBar &statusBar;
-    Clock &clock;
-    SystemLog &systemLog;
+    DynamicStore &dynamicStore; ///< tells of interfaces and their addresses
+    DeviceRegistry &deviceRegistry; ///< tells which USB device is behind an interface
+    Workspace &workspace; ///< tells of sleep and wake, and opens pages
+    StatusBar &statusBar; ///< holds the icon
+    Clock &clock; ///< times the polling and the news
+    SystemLog &systemLog; ///< receives every line
 
     /// @return what ties sockets to the network interface of that name, as it is now; called on the main thread. Empty
     ///         ties nothing

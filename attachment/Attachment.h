@@ -29,12 +29,14 @@ struct ModemLocation {
 /// stop token end, and what they still compute reaches nothing. For every thread.
 class Work {
 public:
+    // Where the modem is, as `ModemLocation` says; valid as long as this handle.
     const QString &router() const;
     const std::optional<QString> &interfaceName() const;
     const SocketBinder &bindSocket() const;
 
     /// @return the token that stops when the work is over
     std::stop_token stopToken() const;
+    /// @return whether the attachment was dropped; from then on it stays so
     bool isOver() const { return stopToken().stop_requested(); }
 
     /// Runs @p step unless the work is over; the work does not end in the middle of it. The step must not wait.
@@ -70,6 +72,7 @@ public:
     Attachment(const Attachment &) = delete;
     Attachment &operator=(const Attachment &) = delete;
 
+    /// @return the handle to give to those who work for this modem
     const Work &work() const { return m_work; }
 
 private:

@@ -15,12 +15,14 @@ public:
     {
     }
 
+    /// @return a copy of the value
     T get() const
     {
         const std::scoped_lock lock(m_mutex);
         return m_value;
     }
 
+    /// Replaces the value. The old one is destroyed after the lock is given back.
     void set(T value)
     {
         const std::scoped_lock lock(m_mutex);

@@ -9,11 +9,8 @@ find_package(PkgConfig REQUIRED)
 # HTTP to the modem: timeouts, interruptible transfers, exact headers.
 find_package(CURL 7.88 REQUIRED)
 
-# MD5 for the session token, RSA for the access-point profile files.
+# RSA for the access-point profile files.
 find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
-
-# Reads and writes Config.plist, in its XML and binary forms.
-pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0>=2.2)
 
 # Links, addresses and routes from the kernel.
 pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>=3.7)
@@ -22,7 +19,7 @@ pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>
 pkg_check_modules(LIBUDEV REQUIRED IMPORTED_TARGET libudev)
 
 # Docking the icon into a system tray that speaks XEmbed, and telling which process such a tray is.
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-icccm xcb-shape xcb-res)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-res)
 
 find_package(Threads REQUIRED)
 

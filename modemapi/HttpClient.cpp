@@ -104,8 +104,7 @@ QByteArray requestTarget(const QUrl &url)
 
 } // namespace
 
-/// The handles of one client: an easy handle for the exchange, driven by a multi handle that another thread
-/// may wake.
+/// The handles of one client: an easy handle for the exchange, driven by a multi handle that another thread may wake.
 class HttpClient::Transfer {
 public:
     Transfer()

@@ -31,18 +31,21 @@ struct HttpAnswer {
 /// Makes HTTP exchanges one after the other, over a connection that is kept open between them. For one thread.
 ///
 /// An exchange ends after five seconds at the latest, or at once when its token is stopped. Proxies are never used,
-/// redirects are followed for reads and on the same server only, an answer of more than 4 MiB in all is an error. A post
-/// always has a connection of its own, so that it is never sent a second time because an old one turned out closed.
+/// redirects are followed for reads and on the same server only, an answer of more than 4 MiB in all is an error. A
+/// post always has a connection of its own, so that it is never sent a second time because an old one was closed.
 class HttpClient {
 public:
-    static constexpr std::chrono::milliseconds timeout{5000};
-    static constexpr qsizetype maximumAnswerSize = 4 * 1024 * 1024;
+    static constexpr std::chrono::milliseconds timeout{5000}; ///< of one exchange, redirects included
+    static constexpr qsizetype maximumAnswerSize = 4 * 1024 * 1024; ///< in bytes, heads and bodies together
 
+    /// Connects to nothing yet.
     HttpClient();
     ~HttpClient();
     HttpClient(const HttpClient &) = delete;
     HttpClient &operator=(const HttpClient &) = delete;
 
+    /// Makes one exchange, and blocks the calling thread until it has ended.
+    /// @param stop  ends it early, with an error
     HttpAnswer exchange(const HttpRequest &request, std::stop_token stop);
 
 private:

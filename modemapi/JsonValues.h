@@ -17,9 +17,8 @@ struct ParsedJson {
 /// Reads @p text, which must hold an object or an array at the top and nothing beside it.
 ParsedJson parseJson(const QString &text);
 
-/// The integer that @p value stands for: a number is cut towards zero, a text is read up to its first
-/// character that belongs to no number (`"1"` is 1), true is 1. Anything else is 0, and what is too large is
-/// the largest.
+/// The integer that @p value stands for: a number is cut towards zero, a text is read up to its first character that
+/// belongs to no number (`"1"` is 1), true is 1. Anything else is 0, and what is too large is the largest.
 qint64 integerValue(const QJsonValue &value);
 
 } // namespace tarvo

@@ -39,8 +39,8 @@ struct StatusSnapshot {
 
     bool isHaveNewVersion_ = false; ///< the modem offers new firmware
     bool isHaveDataLimitReachedForOneMonth_ = false; ///< the monthly reminder's threshold is passed
-    bool isHaveDataLimitExceedForOneMonth_ = false;
-    bool isHaveDataLimitExceedForThreedays_ = false;
+    bool isHaveDataLimitExceedForOneMonth_ = false; ///< the monthly limit is passed
+    bool isHaveDataLimitExceedForThreedays_ = false; ///< the three-day limit is passed
 
     // A notice is pending, since it first came up until the next device is ready. Both also stand when there is no
     // device, so that nothing shows a normal state then.
@@ -68,6 +68,7 @@ struct StatusSnapshot {
 /// The one snapshot, which is replaced whole: nobody sees half of a pass. For every thread.
 class SharedSnapshot {
 public:
+    /// @return a copy of the present snapshot
     StatusSnapshot get() const { return m_snapshot.get(); }
 
     /// Publishes what @p change makes of the present snapshot, unless @p work is over.

@@ -6,28 +6,27 @@
 
 namespace tarvo {
 
-/// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there
-/// is none.
+/// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there is none.
 ///         "inf", "nan" and hexadecimal are no numbers; one too large for a float is infinite
 float leadingNumber(const QString &text);
 
 /// The fields of a status page that the snapshot is made of, as texts. A field that neither style has is nil.
 struct StatusFields {
-    std::optional<QString> reminderSwitch{};
+    std::optional<QString> reminderSwitch{}; ///< "on" when the monthly limit is watched
     std::optional<QString> monthlyLimit{}; ///< gigabytes
     std::optional<QString> monthlyThreshold{}; ///< read like a limit in gigabytes
     std::optional<QString> threeDayLimit{}; ///< gigabytes
-    std::optional<QString> monthlySent{}; ///< bytes, as the four below
+    std::optional<QString> monthlySent{}; ///< bytes, like the next three
     std::optional<QString> monthlyReceived{};
     std::optional<QString> threeDaySent{};
     std::optional<QString> threeDayReceived{};
-    std::optional<QString> roamingSetting{};
+    std::optional<QString> roamingSetting{}; ///< "on" when roaming is allowed
 
     bool operator==(const StatusFields &) const = default;
 };
 
-/// Reads the fields from a status page: in the older style, and where that gives nothing or an empty text, in
-/// the JSON style.
+/// Reads the fields from a status page: in the older style, and where that gives nothing or an empty text, in the JSON
+/// style.
 StatusFields readStatusFields(const QString &content);
 
 /// Data used in a month against its limit and reminder threshold. Amounts in gigabytes of 2^30 bytes.
@@ -35,9 +34,9 @@ struct MonthlyUsage {
     float limit = 0;
     float used = 0;
     float surplus = 0; ///< what is left; below zero when the limit is passed
-    bool thresholdPassed = false;
-    bool limitPassed = false;
-    float threshold = 0;
+    bool thresholdPassed = false; ///< the user wants to be reminded
+    bool limitPassed = false; ///< more than the limit is used
+    float threshold = 0; ///< above which the user wants to be reminded
 
     bool operator==(const MonthlyUsage &) const = default;
 };
@@ -45,15 +44,17 @@ struct MonthlyUsage {
 /// Data used in three days against its limit, in gigabytes.
 struct ThreeDayUsage {
     float limit = 0;
-    bool limitPassed = false;
+    bool limitPassed = false; ///< more than the limit is used
     float used = 0;
 
     bool operator==(const ThreeDayUsage &) const = default;
 };
 
+/// @return whether the modem may roam
 bool isRoaming(const StatusFields &fields);
 /// @return nil when the reminder is not switched on
 std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields);
+/// @return the usage, whether the reminder is switched on or not; a limit that is missing or no number is 0
 ThreeDayUsage threeDayUsage(const StatusFields &fields);
 
 } // namespace tarvo

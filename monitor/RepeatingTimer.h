@@ -17,6 +17,7 @@ Clock::TimePoint nextFireTime(Clock::TimePoint due, std::chrono::milliseconds in
 /// threads wait, each fire goes to one of them.
 class RepeatingTimer {
 public:
+    /// @param clock  outlives the timer
     RepeatingTimer(Clock &clock, std::chrono::milliseconds interval);
 
     /// Waits for the next fire. @return false when @p stop ended the wait

@@ -23,6 +23,7 @@ public:
 
     explicit StatusMonitor(Listeners listeners);
 
+    /// @return the snapshot that all parts read; lives as long as this object
     SharedSnapshot &snapshot() { return m_snapshot; }
 
     /// Turns the status page @p content into the snapshot (polling worker).

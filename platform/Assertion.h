@@ -2,8 +2,7 @@
 
 namespace tarvo {
 
-/// Ends the process with a message that names the method, source unit, line and condition that a programming error
-/// broke.
+/// Ends the process with a message that names the method, source unit, line and broken condition.
 [[noreturn]] void assertionFailed(const char *method, const char *sourceUnit, int line, const char *condition);
 
 } // namespace tarvo

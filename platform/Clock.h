@@ -8,10 +8,12 @@ namespace tarvo {
 /// Monotonic time, and waits that can be ended early. Used on every thread.
 class Clock {
 public:
+    /// A moment since an arbitrary start; it goes on through changes of the computer's date.
     using TimePoint = std::chrono::steady_clock::time_point;
 
     virtual ~Clock() = default;
 
+    /// @return this moment
     virtual TimePoint now() const = 0;
 
     /// Blocks the calling thread until @p deadline or until @p stop is requested.

@@ -13,6 +13,7 @@ namespace tarvo {
 /// so a handle needs no release and can be kept or dropped freely.
 using IOServiceHandle = quint32;
 
+/// Which devices a search looks at.
 enum class RegistrySearch {
     Upward, ///< the device itself, then its ancestors, the nearest first
     Downward, ///< the device itself, then everything below it

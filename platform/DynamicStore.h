@@ -15,7 +15,9 @@ namespace tarvo {
 ///
 /// The state domain says what the network is like now; the setup domain says what is configured and in which order.
 namespace store {
+/// Value holds `kSCDynamicStorePropNetInterfaces`.
 inline const QString interfaceListKey = QStringLiteral("State:/Network/Interface");
+/// Matches the keys that `serviceIPv4Key` gives.
 inline const QString anyServiceIPv4Pattern = QStringLiteral("State:/Network/Service/[^/]+/IPv4");
 /// Value holds `kSCPropNetServiceOrder`.
 inline const QString globalIPv4SetupKey = QStringLiteral("Setup:/Network/Global/IPv4");

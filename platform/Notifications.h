@@ -8,8 +8,8 @@ namespace tarvo {
 
 /// What a desktop notification shows.
 struct Notification {
-    QString title;
-    QString text;
+    QString title; ///< one line, plain text
+    QString text; ///< plain text, perhaps of several lines
     QString iconName; ///< a name of the desktop's icon theme
     QString openLabel{}; ///< of the action that the notification offers; empty for none
     std::function<void()> opened{}; ///< called on the main thread when the user chose that action

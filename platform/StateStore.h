@@ -12,6 +12,7 @@ namespace tarvo {
 /// A session that is opened while a change is being told hears of later changes only.
 class StateStore : public DynamicStore {
 public:
+    /// Values by key.
     using Entries = QMap<QString, QVariantMap>;
     /// New values by key; nil for a key that goes.
     using Changes = QMap<QString, std::optional<QVariantMap>>;
@@ -22,6 +23,7 @@ public:
 
     std::unique_ptr<DynamicStoreSession> createSession(const QString &name, Callback callback) override;
 
+    /// @return the whole state as it is now
     const Entries &entries() const { return m_entries; }
 
     /// Makes all of @p changes, then tells each session of each key whose value differs, in key order.

@@ -12,8 +12,8 @@ class QMenu;
 namespace tarvo {
 
 /// Lengths a status item may have, beside a fixed number of pixels.
-inline constexpr double variableStatusItemLength = -1.0;
-inline constexpr double squareStatusItemLength = -2.0;
+inline constexpr double variableStatusItemLength = -1.0; ///< as long as icon and title take
+inline constexpr double squareStatusItemLength = -2.0; ///< as long as the bar is high
 
 /// One item in the desktop's status bar; it is taken out of the bar when it is destroyed.
 ///
@@ -48,6 +48,7 @@ public:
     virtual ~StatusBar() = default;
 
     /// @param length pixels, or one of the two constants above
+    /// @return a new item, the caller's, which takes no room yet; the bar outlives it
     virtual std::unique_ptr<StatusItem> createItem(double length) = 0;
 };
 

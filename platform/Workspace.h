@@ -11,6 +11,7 @@ namespace tarvo {
 /// Used on the main thread only; no operation blocks.
 class Workspace {
 public:
+    /// What is done when the machine sleeps or wakes.
     using Handler = std::function<void()>;
 
     virtual ~Workspace() = default;

@@ -19,8 +19,7 @@ public:
     /// Moves time on; every wait whose deadline has come by then ends.
     void advance(std::chrono::nanoseconds duration);
 
-    /// Waits, for at most @p limit of real time, until at least @p count threads wait for a deadline still to
-    /// come.
+    /// Waits, for at most @p limit of real time, until at least @p count threads wait for a deadline still to come.
     /// @return whether they do
     bool waitForSleepers(std::size_t count, std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
 

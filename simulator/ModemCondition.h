@@ -19,8 +19,8 @@ enum class PageStyle {
 
 /// All that a simulated modem is and knows. Field names in the comments are those of its answers.
 struct ModemCondition {
-    PageStyle pageStyle = PageStyle::Json;
-    QString statusPagePath = QStringLiteral("logo_data.asp");
+    PageStyle pageStyle = PageStyle::Json; ///< of the status page
+    QString statusPagePath = QStringLiteral("logo_data.asp"); ///< where the status page is, without a leading slash
 
     QString crVersion = QStringLiteral("CR_1.0.7"); ///< `cr_version`
     QString waInnerVersion = QStringLiteral("WA_2.3.1"); ///< `wa_inner_version`
@@ -51,12 +51,12 @@ struct ModemCondition {
 
     bool isPCProfileType = true; ///< `profile_type`
     QStringList webProfiles{QStringLiteral("Internet")}; ///< the modem's own access points, by index
-    QList<QJsonObject>
-        pcApns; ///< the access points that a computer has added; one takes the place of another of its index
+    /// The access points that a computer has added; one takes the place of another of its index.
+    QList<QJsonObject> pcApns;
     QString defaultProfileName; ///< `pc_default_profilename`
     std::optional<int> defaultApnIndex; ///< as last set by a computer
     bool apnReady = false; ///< a computer has said that its access points are complete
-    bool lowPower = false;
+    bool lowPower = false; ///< as last set by a computer
     QString pcTime; ///< as last set by a computer
 };
 
@@ -69,8 +69,7 @@ QByteArray statusPage(const ModemCondition &condition);
 QByteArray getAnswer(const ModemCondition &condition, const QString &command, const QString &session);
 
 /// Carries out a set command whose sender has been checked.
-/// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them
-/// escaped
+/// @param form  the form's text without the token: `goformId=...` and the command's fields, none of them escaped
 /// @return whether the modem accepts it
 bool applySetCommand(ModemCondition &condition, const QByteArray &form);
 

@@ -15,11 +15,16 @@ class SimulatedModem;
 /// The half of the modem's server that lives on its thread.
 class ModemListener final : public QObject {
 public:
+    /// Listens to nothing yet.
+    /// @param modem  outlives this object
+    /// @param port   0 takes any free port
     ModemListener(SimulatedModem &modem, const QHostAddress &address, quint16 port);
 
     /// @return why listening failed; nil when it did not
     std::optional<QString> listen();
+    /// @return the port that is listened to
     quint16 port() const { return m_port; }
+    /// From now on requests meet @p fault.
     void setFault(const ModemFault &fault);
     /// Closes everything.
     void close();

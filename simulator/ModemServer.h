@@ -35,7 +35,7 @@ enum class FaultKind {
 
 /// A fault and the requests that it befalls.
 struct ModemFault {
-    FaultKind kind = FaultKind::None;
+    FaultKind kind = FaultKind::None; ///< `None` ends an earlier fault
     QByteArray part{}; ///< only requests that hold this; empty for all. Not for `Refuse`
     std::chrono::milliseconds delay{2000}; ///< of `SlowAnswer`
     QByteArray location{}; ///< of `Redirect`
@@ -57,6 +57,7 @@ public:
 
     /// @return why nothing is listened to; nil when all is well
     const std::optional<QString> &error() const { return m_error; }
+    /// @return the port that is listened to
     quint16 port() const { return m_port; }
     /// @return "address:port", as it stands in a URL
     QString authority() const;

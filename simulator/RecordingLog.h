@@ -22,6 +22,7 @@ public:
 
     void write(const QString &line) override;
 
+    /// @return a copy of all lines, the oldest first
     QStringList lines() const;
     /// @return whether a whole line is equal to @p line
     bool contains(const QString &line) const;
@@ -30,6 +31,7 @@ public:
     /// Waits, for at most @p limit, until @p line has been written @p times. @return whether it has
     bool waitFor(const QString &line, qsizetype times = 1,
                  std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
+    /// Forgets all lines.
     void clear();
 
 private:

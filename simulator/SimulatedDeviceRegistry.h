@@ -10,18 +10,19 @@ namespace tarvo {
 /// A tree of devices that is built by hand.
 class SimulatedDeviceRegistry final : public DeviceRegistry {
 public:
+    /// One device, as it is put into the tree.
     struct Device {
-        IOServiceHandle parent = 0;
+        IOServiceHandle parent = 0; ///< 0 for one at the top
         QByteArray className; ///< e.g. "IOUSBHostInterface"; may be empty
         QVariantMap properties; ///< an interface's own device has "BSD Name"
     };
 
+    /// @return the new device's handle, which is never given again
     IOServiceHandle addDevice(const Device &device);
     /// Takes out @p service and everything below it.
     void removeDevice(IOServiceHandle service);
 
-    /// Adds a USB modem: a device with the identifiers, below it its interface, and below that the network
-    /// interface
+    /// Adds a USB modem: a device with the identifiers, below it its interface, and below that the network interface
     /// @p bsdName. @return the USB device
     IOServiceHandle addModem(const QString &bsdName, int vendorID, int productID,
                              const QByteArray &interfaceClass = "IOUSBHostInterface");

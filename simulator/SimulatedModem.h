@@ -20,9 +20,9 @@ namespace tarvo {
 
 /// What a modem's server sends back.
 struct ModemReply {
-    int status = 200;
-    QByteArray contentType = "application/json; charset=utf-8";
-    QByteArray body;
+    int status = 200; ///< of HTTP (RFC 9110)
+    QByteArray contentType = "application/json; charset=utf-8"; ///< the value of the header
+    QByteArray body; ///< what the client reads
 };
 
 /// A modem: answers requests from its condition, changes by them, and remembers each. Used on every thread.
@@ -38,14 +38,18 @@ public:
     /// @param listener  may be empty
     explicit SimulatedModem(Listener listener = {});
 
+    /// @return a copy of the condition as it is now
     ModemCondition condition() const;
+    /// Changes the condition, whole: no request sees half of it.
     void change(const std::function<void(ModemCondition &condition)> &changer);
 
     /// From now on every request that holds @p part, in its target or body, is answered with @p body and
     /// changes nothing; the first such part wins.
     void setFixedAnswer(const QByteArray &part, const QByteArray &body);
+    /// Ends what `setFixedAnswer` began.
     void clearFixedAnswers();
 
+    /// Remembers @p request, carries it out, and answers it.
     ModemReply answer(const ReceivedRequest &request);
 
     /// @return the requests that hold @p part, the oldest first
@@ -54,6 +58,7 @@ public:
     /// whether they have
     bool waitForRequests(qsizetype count, const QByteArray &part = {},
                          std::chrono::milliseconds limit = std::chrono::seconds(10)) const;
+    /// Forgets the requests that have come.
     void clearRequests();
     /// @return why set commands were refused, the oldest first
     QStringList refusals() const;

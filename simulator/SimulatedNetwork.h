@@ -27,6 +27,7 @@ public:
     void setIPv4(const QString &interfaceName, const std::optional<QString> &router);
     /// The interface loses its IPv4 state.
     void clearIPv4(const QString &interfaceName);
+    /// The interface goes, with its service.
     void removeInterface(const QString &interfaceName);
 
 private:

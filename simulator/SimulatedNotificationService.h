@@ -17,11 +17,13 @@ class SimulatedNotificationService final : public QObject, protected QDBusContex
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 
 public:
+    /// Connects to the session bus; the service is not to be found yet.
     SimulatedNotificationService();
     ~SimulatedNotificationService() override;
 
     /// Takes the service's name on the bus.
     void start();
+    /// Gives the name back.
     void stop();
     /// From now on every notification is turned down.
     void refuse() { m_refuses = true; }

@@ -14,6 +14,7 @@ public:
     void forgetFailure() override { m_failed = {}; }
     void close() override;
 
+    /// From now on the desktop has, or has not, such a service.
     void setAvailable(bool available) { m_available = available; }
     /// Turns down what was shown last.
     void refuse();

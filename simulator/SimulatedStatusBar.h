@@ -11,6 +11,7 @@ class SimulatedStatusBar;
 /// An item that is in no real bar.
 class SimulatedStatusItem final : public StatusItem {
 public:
+    /// @param bar  outlives the item
     SimulatedStatusItem(SimulatedStatusBar &bar, double length);
     ~SimulatedStatusItem() override;
     SimulatedStatusItem(const SimulatedStatusItem &) = delete;
@@ -22,6 +23,7 @@ public:
     void setTitle(const QString &title) override { m_title = title; }
     std::optional<QRect> frame() const override;
 
+    // What the item was last given; the view is the giver's, and null for none.
     double length() const { return m_length; }
     QAbstractButton *view() const { return m_view; }
     QMenu *menu() const { return m_menu; }

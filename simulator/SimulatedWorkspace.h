@@ -13,6 +13,7 @@ namespace tarvo {
 /// A desktop that only notes what it is asked to open, and sleeps when told to.
 class SimulatedWorkspace final : public Workspace {
 public:
+    /// @return whether the page was opened
     using Opener = std::function<bool(const QUrl &url)>;
 
     /// @param opener  also handed every valid URL; its answer is then the answer of `openURL`. May be empty
@@ -27,6 +28,7 @@ public:
     /// Tells the observers that the machine has woken.
     void wake();
 
+    // The valid addresses and the paths that were asked for, the oldest first.
     const QList<QUrl> &openedURLs() const { return m_openedURLs; }
     const QStringList &launchedPaths() const { return m_launchedPaths; }
 

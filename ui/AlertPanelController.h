@@ -37,6 +37,7 @@ public:
     QDialog &wndAlert() { return *wndAlert_; }
 
 Q_SIGNALS:
+    /// The page with the new firmware is to be opened.
     void pageWanted(const QString &page);
 
 private:

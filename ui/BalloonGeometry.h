@@ -34,10 +34,12 @@ struct OvRect {
     double width = 0;
     double height = 0;
 
+    // The coordinates of the upper right corner and of the middle.
     double maxX() const { return x + width; }
     double maxY() const { return y + height; }
     double midX() const { return x + width * 0.5; }
     double midY() const { return y + height * 0.5; }
+    /// @return whether all of @p other lies in it, edges included
     bool contains(const OvRect &other) const;
     /// @return the rectangle with @p margin more on each side
     OvRect grownBy(double margin) const;
@@ -52,11 +54,11 @@ OvRect flipped(const QRectF &rect);
 struct BalloonShape {
     float borderWidth = 2; ///< drawn inside the outline
     float viewMargin = 2; ///< between the content and the outline
-    float arrowBaseWidth = 20;
+    float arrowBaseWidth = 20; ///< along the edge that carries the arrow
     float arrowHeight = 16; ///< from base to tip
     bool hasArrow = true; ///< without it, its room stays
-    float cornerRadius = 8;
-    bool drawsRoundCornerBesideArrow = true;
+    float cornerRadius = 8; ///< of the outline
+    bool drawsRoundCornerBesideArrow = true; ///< otherwise the corner beside an arrow is square
 
     bool operator==(const BalloonShape &) const = default;
 
@@ -75,8 +77,8 @@ struct BalloonShape {
 
 /// A balloon's window on the screen, and the frame of the content in that window.
 struct BalloonLayout {
-    OvRect window;
-    OvRect view;
+    OvRect window; ///< on the screen, y upwards
+    OvRect view; ///< from the window's lower left corner
 
     bool operator==(const BalloonLayout &) const = default;
 };

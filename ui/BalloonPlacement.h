@@ -6,8 +6,8 @@ namespace tarvo {
 
 /// Where a balloon points, and from which side.
 struct BalloonPlacement {
-    QPointF point;
-    OvSide side = OvSide::Bottom;
+    QPointF point; ///< on the screen, y upwards; the arrow's tip keeps the distance from it
+    OvSide side = OvSide::Bottom; ///< never `Automatic`
 
     bool operator==(const BalloonPlacement &) const = default;
 };

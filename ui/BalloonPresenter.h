@@ -43,6 +43,7 @@ public:
 
     /// Closes the balloon if one is shown; otherwise opens one with @p text, unless that is nil or empty.
     void toggleAttachedWindowAtPoint(const std::optional<QString> &text, const BalloonExtras &extras = {});
+    /// @return whether a balloon was opened and not closed; the user may have dismissed it
     bool isShown() const { return attachedWindow != nullptr; }
 
     /// Closes the balloon, but not under the pointer: then as soon as that has left it.

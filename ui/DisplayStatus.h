@@ -11,10 +11,10 @@ namespace tarvo {
 
 /// The kinds of news that a balloon sequence goes through, in its order.
 namespace DisplayType {
-inline constexpr int NewVersion = 5;
-inline constexpr int ThreeDayLimitExceeded = 6;
-inline constexpr int MonthlyLimitExceeded = 7;
-inline constexpr int MonthlyLimitReached = 8;
+inline constexpr int NewVersion = 5; ///< the modem offers new firmware
+inline constexpr int ThreeDayLimitExceeded = 6; ///< more than the three-day limit is used
+inline constexpr int MonthlyLimitExceeded = 7; ///< more than the monthly limit is used
+inline constexpr int MonthlyLimitReached = 8; ///< the monthly reminder's threshold is passed
 } // namespace DisplayType
 
 /// All of them, in that order.

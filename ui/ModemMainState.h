@@ -6,6 +6,7 @@
 
 namespace tarvo {
 
+/// The page that opens by itself.
 enum class StartUpPage {
     None,
     Home, ///< the configured home page, if there is one
@@ -14,7 +15,7 @@ enum class StartUpPage {
 
 /// What a start-up state of the modem asks for.
 struct StartUpAction {
-    StartUpPage page = StartUpPage::None;
+    StartUpPage page = StartUpPage::None; ///< to be opened now
     bool opened = false; ///< the modem's pages count as opened from now on
 
     bool operator==(const StartUpAction &) const = default;

@@ -46,6 +46,7 @@ public:
         std::function<void(const StandingNews &news)> told{};
     };
 
+    /// Nothing has been shown, and there is no device yet.
     explicit NewsSequence(const Surroundings &surroundings);
     /// No sequence may run any more, nor be waited for.
     ~NewsSequence();

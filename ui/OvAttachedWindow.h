@@ -20,12 +20,13 @@ class OvAttachedWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// @param view      the content, which is shown in the balloon as long as that lives and stays the caller's; null
-    ///                  gives no balloon
+    /// @return a balloon, still hidden; null without a content
+    /// @param view      the content, which is shown in the balloon as long as that lives and stays the caller's
     /// @param window    the window whose coordinates @p point has; may be null
     /// @param distance  between @p point and the arrow's tip
     static std::unique_ptr<OvAttachedWindow> initWithView(QWidget *view, QPointF point, QWidget *window,
                                                           OvSide side = OvSide::Automatic, float distance = 0);
+    // The same with a side that suits the place, or with @p point in global coordinates.
     static std::unique_ptr<OvAttachedWindow> initWithView(QWidget *view, QPointF point, QWidget *window,
                                                           float distance);
     static std::unique_ptr<OvAttachedWindow> initWithView(QWidget *view, QPointF point, OvSide side = OvSide::Automatic,
@@ -34,6 +35,8 @@ public:
 
     ~OvAttachedWindow() override;
 
+    // How the balloon looks; lengths in points, within the bounds that `BalloonShape` has. Each setter draws it anew at
+    // once, and moves and resizes the window where that follows.
     const QColor &borderColor() const { return borderColor_; }
     void setBorderColor(const QColor &color);
     float borderWidth() const { return shape_.borderWidth; }

@@ -22,8 +22,8 @@ class StatusIcon {
 public:
     /// What the user does with the icon. Each is called on the main thread.
     struct Actions {
-        std::function<void()> click; ///< a double click is one click
-        std::function<void()> pointerEntered;
+        std::function<void()> click; ///< on the icon itself; a double click is one click
+        std::function<void()> pointerEntered; ///< the icon; not in every bar
     };
 
     /// @param statusBar, systemLog, menu  outlive the icon

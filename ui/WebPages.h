@@ -34,6 +34,7 @@ public:
 
     /// The icon's click: opens the page that the news calls for.
     void openHomepage();
+    // Open the pages that the settings name for messages, new firmware and data limits; nothing when they name none.
     void openWebUISmsPage();
     void openNewVersionPage();
     void openDateLimitPage();
@@ -56,13 +57,17 @@ public:
     /// The news decide what a click opens; nil leaves that as it is. Any thread.
     void setClickTargets(std::optional<bool> updatePage, std::optional<bool> limitPage);
 
+    /// @return whether the modem's pages have opened by themselves since it came. Any thread, as the next two
     bool hasOpenedWebUI() const { return hasOpenedWebUI_; }
+    /// @return whether a click on the icon opens the firmware page
     bool openUpdateUrlWhileHasNewVersion() const { return openUpdateUrlWhileHasNewVersion_; }
+    /// @return whether data-limit news call for their page; a click does not ask
     bool openDateLimitUrlWhileHasLimit() const { return openDateLimitUrlWhileHasLimit_; }
 
     /// The device is another one, or gone: no page has been opened for it, when no work is under way.
     void reset();
 
+    /// @return the application that `openApp` starts
     QString getAppPath() const;
     /// @return whether the application was started; false for a nil path
     bool launchAppFromPath(const std::optional<QString> &path);

@@ -14,9 +14,10 @@ struct WebUIFields {
     std::optional<QString> passwordConfirmation{}; ///< "apn_id_password_confirm"
 };
 
+/// What a status answer decides about the modem's pages.
 enum class WebUIDecision {
-    Leave,
-    Open,
+    Leave, ///< nothing opens
+    Open, ///< unless they have opened by themselves before
     DependsOnDefaultApn, ///< `defaultApnNeedsUser` decides
 };
 

@@ -10,7 +10,7 @@ namespace tarvo {
 /// What the companion would make of a profile folder.
 struct FolderReport {
     QStringList lines; ///< one for each file, and one for each name without a file
-    bool isInOrder = true;
+    bool isInOrder = true; ///< the companion would use all of it
 };
 
 /// Reads @p folder, whose list is its `profile.xml`, the way the companion does, with @p key or with the one built in.

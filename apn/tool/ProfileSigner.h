@@ -21,6 +21,7 @@ public:
     /// Reads a private key in PEM form; its pass phrase, if it has one, is asked for on the terminal.
     static PrivateKeyReading fromPem(QByteArrayView pem);
 
+    /// @return the half that the companion decodes with
     ProfileKey publicKey() const;
 
     /// Makes one record of at most 117 bytes of plain text, by PKCS#1 v1.5 type 1 padding and the private-key

@@ -7,13 +7,12 @@ namespace tarvo {
 
 /// The text of a profile, and what an operator should know about it before the companion reads it.
 struct ProfileSource {
-    QString text;
-    bool isNameList = false;
+    QString text; ///< what a profile is packed from when there are no problems
+    bool isNameList = false; ///< the text is a list of names, not a record
     QStringList problems{}; ///< each the end of a sentence; empty when all is well
 };
 
-/// @return what is wrong with @p record as an access-point record: JSON, its keys, the kinds of their values,
-/// and
+/// @return what is wrong with @p record as an access-point record: JSON, its keys, the kinds of their values, and
 ///         characters that end or change the record on its way to the modem
 QStringList recordProblems(const QString &record);
 

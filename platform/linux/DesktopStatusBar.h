@@ -11,6 +11,7 @@
 
 namespace tarvo {
 
+/// The kinds of bar that can show an item.
 enum class BarKind {
     None, ///< nothing shows items at present
     Tray, ///< windows in a system tray of the X desktop
@@ -35,6 +36,7 @@ public:
 
     std::unique_ptr<StatusItem> createItem(double length) override;
 
+    /// @return the kind of bar that shows the items now
     BarKind kind() const { return m_kind; }
 
 private:

@@ -1,30 +1,14 @@
 #include "platform/linux/LogindWorkspace.h"
 
-#include "platform/linux/DesktopEntry.h"
-
 #include <QDesktopServices>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStringList>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 maxDesktopFileSize = 1 << 20;
-
-QStringList commandFor(const QString &path)
-{
-    if (!QFileInfo(path).isFile())
-        return {};
-    if (!path.endsWith(u".desktop"))
-        return {QFileInfo(path).absoluteFilePath()};
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? commandOfDesktopEntry(file.read(maxDesktopFileSize)) : QStringList();
-}
 
 bool isComplete(const QUrl &url)
 {
@@ -60,11 +44,12 @@ bool LogindWorkspace::openURL(const QUrl &url)
 
 bool LogindWorkspace::launchApplication(const QString &path)
 {
-    QStringList command = commandFor(path);
-    if (command.isEmpty())
+    const QFileInfo file(path);
+    if (!file.isFile())
         return false;
-    const QString program = command.takeFirst();
-    return QProcess::startDetached(program, command);
+    if (path.endsWith(u".desktop"))
+        return QProcess::startDetached(u"gio"_s, {u"launch"_s, file.absoluteFilePath()});
+    return QProcess::startDetached(file.absoluteFilePath(), {});
 }
 
 } // namespace tarvo

@@ -18,7 +18,9 @@ public:
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
     bool openURL(const QUrl &url) override;
-    /// @param path  an executable file, or the desktop file of an application
+    /// @param path  an executable file, which is started directly, or the desktop file of an application, which is
+    ///              handed to `gio launch` of GLib
+    /// @return whether the file could be started or handed over; what becomes of it then is not known
     bool launchApplication(const QString &path) override;
 
 private:

@@ -12,6 +12,7 @@ namespace tarvo {
 /// A connection to the kernel's routing netlink (rtnetlink(7)). Used on one thread.
 class NetlinkSocket {
 public:
+    /// Given one message at a time, which it must not keep.
     using Handler = std::function<void(nl_msg *message)>;
 
     struct Received {

@@ -17,16 +17,16 @@ namespace tarvo {
 
 /// An IPv4 address of an interface, as the kernel tells one from another. Addresses are in host byte order.
 struct InterfaceAddress {
-    quint32 local = 0;
+    quint32 local = 0; ///< the interface's own
     quint32 peer = 0; ///< the far end of a point-to-point link, else the same as `local`
-    quint8 prefixLength = 0;
+    quint8 prefixLength = 0; ///< of the network, in bits
 
     auto operator<=>(const InterfaceAddress &) const = default;
 };
 
 /// One way out of a default route.
 struct NextHop {
-    int interfaceIndex = 0;
+    int interfaceIndex = 0; ///< the kernel's number of the link it leads to
     quint32 gateway = 0; ///< IPv4 address in host byte order; 0 when the route names none
 
     bool operator==(const NextHop &) const = default;
@@ -34,10 +34,10 @@ struct NextHop {
 
 /// An IPv4 default route; more than one next hop makes it a multipath route.
 struct DefaultRoute {
-    quint32 table = 0;
+    quint32 table = 0; ///< the routing table it is in
     quint32 metric = 0; ///< the lower one is preferred
-    quint8 typeOfService = 0;
-    std::vector<NextHop> nextHops;
+    quint8 typeOfService = 0; ///< of the packets it is for; 0 is for all
+    std::vector<NextHop> nextHops; ///< in the kernel's order
 
     bool operator==(const DefaultRoute &) const = default;
 };
@@ -64,18 +64,23 @@ QString dotted(quint32 address);
 /// uncertain: they are then to be read again.
 class NetworkModel {
 public:
+    /// A link came, or its name or state is another one. A link that went down loses its routes.
     void setLink(int index, const QString &name, bool up);
+    /// The link is gone, with its addresses and routes.
     void removeLink(int index);
     /// An address of a link that the model does not know is ignored: the link's own message is still to come.
     void addAddress(int index, const InterfaceAddress &address);
     void removeAddress(int index, const InterfaceAddress &address);
+    /// A route that is known already is not added again.
     void addRoute(const DefaultRoute &route);
     /// Puts @p route where the kernel had another one with the same table, metric and type of service.
     void replaceRoute(const DefaultRoute &route);
+    /// Takes @p route away, also when next hops of it were dropped before.
     void removeRoute(const DefaultRoute &route);
 
     void setRoutesUncertain() { m_routesUncertain = true; }
     void setRoutesCertain() { m_routesUncertain = false; }
+    /// @return whether the routes are to be read again
     bool areRoutesUncertain() const { return m_routesUncertain; }
     /// Takes the routes of @p read, a model into which all routes have just been read, for certain.
     void takeRoutes(NetworkModel read);

@@ -24,6 +24,7 @@ public:
 
     /// @return whether the first answer is there; until then nothing is known of hosts
     bool known() const { return m_known; }
+    /// @return whether something shows items that are registered
     bool hosted() const { return m_hosted; }
 
     /// @return whether @p process has ever offered an item to the present watcher

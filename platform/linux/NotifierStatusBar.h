@@ -12,6 +12,7 @@ namespace tarvo {
 /// before a host is known.
 class NotifierStatusBar final : public StatusBar {
 public:
+    /// Offers nothing until `show`.
     NotifierStatusBar();
     ~NotifierStatusBar() override;
     NotifierStatusBar(const NotifierStatusBar &) = delete;

@@ -11,6 +11,7 @@ namespace tarvo {
 /// Status items that sit as windows in a system tray of the X desktop. It outlives its items.
 class XEmbedStatusBar final : public StatusBar {
 public:
+    /// Its items are in no tray until one is set.
     explicit XEmbedStatusBar(const XScreen &screen);
     ~XEmbedStatusBar() override;
 

@@ -11,6 +11,7 @@
 
 namespace tarvo {
 
+/// Gives back what libxcb allocated.
 struct FreeReply {
     void operator()(void *reply) const { std::free(reply); }
 };
@@ -21,9 +22,9 @@ using XReply = std::unique_ptr<T, FreeReply>;
 
 /// The X screen that the application's windows are on, seen through the application's own connection.
 struct XScreen {
-    xcb_connection_t *connection = nullptr;
-    xcb_window_t root = XCB_WINDOW_NONE;
-    int number = 0;
+    xcb_connection_t *connection = nullptr; ///< Qt's, which lives as long as the application
+    xcb_window_t root = XCB_WINDOW_NONE; ///< the screen's root window
+    int number = 0; ///< of the screen on its server
 
     /// @return nil where the application's windows are no X windows
     static std::optional<XScreen> ofApplication();
@@ -45,8 +46,8 @@ struct XScreen {
 
 /// One monitor: its place in the application's coordinates, and how many of the screen's pixels make one of them.
 struct ScaledScreen {
-    QRect geometry;
-    double ratio = 1;
+    QRect geometry; ///< in the application's coordinates
+    double ratio = 1; ///< pixels of the screen to one of them
 };
 
 /// Turns a rectangle of the screen's pixels into the application's coordinates. A monitor's top left corner is the

@@ -12,7 +12,7 @@ namespace tarvo {
 
 /// The window that manages the system tray of an X screen.
 struct XTray {
-    xcb_window_t window = XCB_WINDOW_NONE;
+    xcb_window_t window = XCB_WINDOW_NONE; ///< owns the selection
     /// Its icons may have an alpha channel.
     bool translucent = false;
     /// Its icons are stacked on top of each other, not side by side.

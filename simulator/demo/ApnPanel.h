@@ -15,6 +15,7 @@ public:
     /// @param world  outlives the panel
     explicit ApnPanel(DemoWorld &world);
 
+    /// Shows what the modem has now; to be called as often as that is to be seen.
     void refresh();
 
 private:

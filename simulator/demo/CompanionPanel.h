@@ -15,6 +15,7 @@ public:
     /// @param world  outlives the panel
     explicit CompanionPanel(DemoWorld &world);
 
+    /// Shows what the companion shows now; to be called as often as that is to be seen.
     void refresh();
 
 private:

@@ -31,16 +31,20 @@ public:
 
     /// Plugs the modem in: its interface comes at once, its address a moment later.
     void plugIn();
+    /// Takes the modem, its interface and its address away; nothing when it is not there.
     void unplug();
+    // The computer sleeps, or wakes; nothing when it does that already.
     void sleep();
     void wake();
 
+    // Both as last told, not as the companion has noticed.
     bool isPluggedIn() const { return m_pluggedIn; }
     bool isAsleep() const { return m_asleep; }
 
     /// @return why the demo cannot work; nil when it can
     const std::optional<QString> &problem() const { return m_problem; }
 
+    // The parts, which live as long as this object.
     SimulatedModem &modem() { return m_modem; }
     ModemServer &server() { return m_server; }
     MainController &controller() { return *m_controller; }
@@ -49,6 +53,7 @@ public:
     const ObservedStatusBar &statusBar() const { return m_statusBar; }
 
 Q_SIGNALS:
+    // On the main thread, for each of its kind.
     void modemAsked(const QString &request);
     void lineLogged(const QString &line);
     void pageOpened(const QUrl &page);

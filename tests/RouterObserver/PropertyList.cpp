@@ -72,6 +72,16 @@ TEST(PropertyList, WritesNothingThatWouldNotBeReadBack)
     EXPECT_FALSE(writePropertyList(QVariantList{QVariant()}));
 }
 
+TEST(PropertyList, ReadsTheXmlFormAsPeopleWriteIt)
+{
+    const auto reading =
+        readPropertyList("<plist><array><!-- <true/> --><integer> 0x1F </integer><integer>-010</integer>"
+                         "<real>1e3</real><string> a<![CDATA[<b>]]>&amp;</string>"
+                         "<data>\n AP\n 8=\n</data></array></plist>");
+    const QVariantList expected{qlonglong(31), qlonglong(-10), 1000.0, u" a<b>&"_s, QByteArray("\0\xFF", 2)};
+    EXPECT_EQ(reading.root.value_or(QVariant()), expected) << reading.problem.toStdString();
+}
+
 TEST(PropertyList, ReadsTheBinaryForm)
 {
     const auto reading = readPropertyList(smallBinary);
@@ -87,9 +97,19 @@ TEST(PropertyList, RefusesWhatIsNoSmallSoundPropertyList)
         QString problem;
     } cases[] = {
         {"deep XML", "<plist>" + QByteArray("<array>").repeated(40), u"too deeply"_s},
+        {"entity that grows", "<!DOCTYPE p [<!ENTITY e '12345'>]><string>&e;</string>", u"ntity"_s},
+        {"no value", "<plist/>", u"no property list"_s},
+        {"two values", "<plist><true/><true/></plist>", u"more than one"_s},
+        {"key without a value", "<dict><key>a</key></dict>", u"alternate"_s},
+        {"element in a text", "<string><true/></string>", u"line 1"_s},
+        {"damaged number", "<integer>1x</integer>", u"kind, integer"_s},
+        {"damaged date", "<date>2026-02-30T00:00:00Z</date>", u"kind, date"_s},
+        {"damaged data", "<data>!!!!</data>", u"kind, data"_s},
         {"NUL in a key", binary({"\xD1\x01\x02"_ba, "\x53\x61\0b"_ba, "\x09"_ba}), u"object 1 is damaged"_s},
-        {"key that is no text", binary({"\xD1\x01\x02"_ba, "\x09"_ba, "\x09"_ba}), u"no property list"_s},
-        {"no UTF-8", binary({"\x51\xE9"_ba}), u"unknown kind"_s},
+        {"key that is no text", binary({"\xD1\x01\x02"_ba, "\x09"_ba, "\x09"_ba}), u"no text"_s},
+        {"no UTF-8", binary({"\x51\xE9"_ba}), u"object 0 is damaged"_s},
+        {"half a surrogate pair", binary({"\x61\xD8\x3D"_ba}), u"object 0 is damaged"_s},
+        {"date beyond all years", binary({"\x33\x7F\xE0\0\0\0\0\0\0"_ba}), u"object 0 is damaged"_s},
         {"large", "<plist><string>" + QByteArray(1 << 20, 'x') + "</string></plist>", u"larger than"_s},
         {"loop", binary({"\xA1\x00"_ba}), u"too deeply"_s},
         {"shared references that expand", arraysInArrays(20), u"too large"_s},
