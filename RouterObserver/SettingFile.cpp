@@ -1,6 +1,5 @@
 #include "RouterObserver/SettingFile.h"
 
-#include "RouterObserver/PropertyListLimits.h"
 
 #include <QCoreApplication>
 #include <QFile>

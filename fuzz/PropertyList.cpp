@@ -1,6 +1,5 @@
 #include "RouterObserver/PropertyList.h"
 
-#include "RouterObserver/PropertyListLimits.h"
 
 #include <algorithm>
 #include <cstdlib>

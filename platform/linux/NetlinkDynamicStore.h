@@ -44,9 +44,6 @@ public:
     /// @return what is known of the interface @p index now
     InterfaceState interfaceState(int index) const { return m_model.interfaceState(index); }
 
-    /// @return what is known of the interface @p index now
-    InterfaceState interfaceState(int index) const { return m_model.interfaceState(index); }
-
     /// Called with the index of each link that is gone, before that is published.
     void setLinkRemovedHandler(std::function<void(int interfaceIndex)> handler) { m_linkRemoved = std::move(handler); }
 

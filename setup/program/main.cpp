@@ -39,7 +39,7 @@ ProfileFacts readProfiles()
     ProfileFacts facts{.wanted = true, .folder = folder, .folderExists = QFileInfo(folder).isDir()};
     if (!facts.folderExists)
         return facts;
-    const FolderReport report = reportFolder(folder, builtInProfileKey());
+    const FolderReport report = reportFolder(folder);
     if (!report.isInOrder)
         facts.problems = report.lines;
     return facts;
