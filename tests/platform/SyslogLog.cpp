@@ -1,0 +1,67 @@
+#include "platform/linux/SyslogLog.h"
+
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <array>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// @return all that waits to be read, with a line end after each datagram
+std::string drain(int descriptor)
+{
+    std::string all;
+    std::array<char, 2000> bytes;
+    for (ssize_t size = 0; (size = read(descriptor, bytes.data(), bytes.size())) > 0;)
+        all += std::string(bytes.data(), size) + (size < 2000 && bytes[size - 1] != '\n' ? "\n" : "");
+    return all;
+}
+
+int listenAt(const QByteArray &path)
+{
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    path.toStdString().copy(address.sun_path, sizeof address.sun_path);
+    unlink(path.constData());
+    const int end = socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK, 0);
+    EXPECT_EQ(bind(end, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    return end;
+}
+
+} // namespace
+
+TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(u"log"_s).toUtf8();
+    int syslog = listenAt(path);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    const int before = dup(STDERR_FILENO);
+    dup2(ends[1], STDERR_FILENO);
+    SyslogLog log(path);
+    for (int line = 0; line < 5000; ++line)
+        log.write(QString::number(line).repeated(10));
+    drain(ends[0]);
+    drain(syslog);
+    close(syslog);
+    syslog = listenAt(path); // it was started anew
+    log.write(u"taken"_s);
+    EXPECT_THAT(drain(ends[0]), testing::MatchesRegex("[0-9]+ lines were lost\ntaken\n"));
+    EXPECT_THAT(drain(syslog),
+                testing::MatchesRegex("<14>.* lines were lost\n<14>... .. ..:..:.. tarvo.[0-9]+.: taken\n"));
+    close(ends[0]);
+    close(ends[1]);
+    log.write(u"nobody reads"_s);
+    dup2(before, STDERR_FILENO);
+    EXPECT_EQ(fcntl(before, F_GETFL) & O_NONBLOCK, 0);
+}
