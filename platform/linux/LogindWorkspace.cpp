@@ -1,6 +1,7 @@
 #include "platform/linux/LogindWorkspace.h"
 
 #include "platform/linux/DesktopEntry.h"
+#include "platform/linux/InheritedDescriptors.h"
 
 #include <QDesktopServices>
 #include <QFile>
@@ -55,6 +56,7 @@ void LogindWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 
 bool LogindWorkspace::openURL(const QUrl &url)
 {
+    closeDescriptorsOnExec();
     return isComplete(url) && QDesktopServices::openUrl(url);
 }
 
@@ -64,6 +66,7 @@ bool LogindWorkspace::launchApplication(const QString &path)
     if (command.isEmpty())
         return false;
     const QString program = command.takeFirst();
+    closeDescriptorsOnExec();
     return QProcess::startDetached(program, command);
 }
 

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -125,7 +126,8 @@ TEST_F(LogindWorkspaceTest, StartsExecutablesAndDesktopFiles)
         file.write(content);
         return file.fileName();
     };
-    const auto script = write(u"a script"_s, "#!/bin/sh\nprintf '%s|' \"$@\" end > \"$0.out\"\n");
+    const auto script =
+        write(u"a script"_s, "#!/bin/sh\nprintf '%s|' \"$@\" $(ls /proc/$$/fd | grep 77) end > \"$0.out\"\n");
     const auto hasWritten = [&](const QByteArray &arguments) {
         QFile file(script + u".out"_s);
         return file.open(QIODevice::ReadOnly) && file.readAll() == arguments;
@@ -133,6 +135,7 @@ TEST_F(LogindWorkspaceTest, StartsExecutablesAndDesktopFiles)
     for (const auto &path : {script, folder_.path(), folder_.filePath(u"none"_s), folder_.filePath(u"none.desktop"_s)})
         EXPECT_FALSE(workspace.launchApplication(path)) << path.toStdString();
     QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    dup2(STDERR_FILENO, 77); // the program shall not get it
     EXPECT_TRUE(workspace.launchApplication(script));
     EXPECT_TRUE(waitFor([&] { return hasWritten("end|"); }));
     const auto entry = "[Other]\nExec=wrong\n[Desktop Entry]\nName=x\nExec = \"" + script.toUtf8()
