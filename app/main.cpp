@@ -1,5 +1,6 @@
 #include "RouterObserver/ConfigManager.h"
 #include "app/MainController.h"
+#include "platform/linux/BusAddress.h"
 #include "platform/linux/BusConnection.h"
 #include "platform/linux/Compositing.h"
 #include "platform/linux/DesktopNotifications.h"
@@ -16,7 +17,6 @@
 #include "ui/Translations.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QLocale>
 #include <QTextStream>
 
@@ -35,8 +35,9 @@ int run(QApplication &application)
     NetlinkDynamicStore dynamicStore(systemLog);
     UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); });
     dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
-    LogindWorkspace workspace(systemBusAddress(), systemLog);
-    const QDBusConnection sessionBus = QDBusConnection::sessionBus();
+    BusConnection systemBus(systemBusAddress());
+    BusConnection sessionBus(sessionBusAddress());
+    LogindWorkspace workspace(systemBus, systemLog);
     DesktopStatusBar statusBar(sessionBus);
     DesktopNotifications notifications(sessionBus, systemLog);
     SteadyClock clock;

@@ -47,14 +47,15 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded)
     return hosted ? BarKind::Notifier : BarKind::None;
 }
 
-DesktopStatusBar::DesktopStatusBar(const QDBusConnection &bus)
-    : m_hosts(bus, [this] { choose(); })
+DesktopStatusBar::DesktopStatusBar(BusConnection &sessionBus)
+    : m_hosts(sessionBus, [this] { choose(); })
 {
     const std::optional<XScreen> screen = XScreen::ofApplication();
     if (!screen)
         return;
     m_trayBar = std::make_unique<XEmbedStatusBar>(*screen);
     m_trays = std::make_unique<XTrayWatcher>(*screen, [this] { choose(); });
+    choose();
 }
 
 DesktopStatusBar::~DesktopStatusBar() = default;

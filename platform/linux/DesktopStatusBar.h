@@ -29,8 +29,8 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded);
 /// offer may come only after a tray got its first icon; items then move to the host and stay there.
 class DesktopStatusBar final : public StatusBar {
 public:
-    /// @param bus  the session's bus, where hosts are looked for; it need not be connected
-    explicit DesktopStatusBar(const QDBusConnection &bus);
+    /// @param sessionBus  where hosts are looked for, once it is there; outlives this object
+    explicit DesktopStatusBar(BusConnection &sessionBus);
     ~DesktopStatusBar() override;
 
     std::unique_ptr<StatusItem> createItem(double length) override;

@@ -35,9 +35,9 @@ bool isComplete(const QUrl &url)
 
 } // namespace
 
-LogindWorkspace::LogindWorkspace(const QString &busAddress, SystemLog &log)
+LogindWorkspace::LogindWorkspace(BusConnection &systemBus, SystemLog &log)
     : m_sleep(
-        busAddress, log,
+        systemBus, log,
         [this] {
             for (const auto &[willSleep, didWake] : m_observers)
                 willSleep();

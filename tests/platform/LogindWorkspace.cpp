@@ -1,5 +1,6 @@
 #include "platform/linux/LogindWorkspace.h"
 
+#include "platform/linux/BusConnection.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedLogind.h"
 #include "tests/support/PrintQt.h"
@@ -12,6 +13,8 @@
 
 #include <gtest/gtest.h>
 #include <unistd.h>
+
+#include <csignal>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -28,7 +31,7 @@ protected:
     }
     std::unique_ptr<LogindWorkspace> startWorkspace()
     {
-        auto workspace = std::make_unique<LogindWorkspace>(address_, log_);
+        auto workspace = std::make_unique<LogindWorkspace>(systemBus_, log_);
         workspace->addSleepObserver([this] { events_.append(logind_->isLocked() ? u"sleep"_s : u"late"_s); },
                                     [this] { events_.append(u"wake"_s); });
         workspace->addSleepObserver([this] { events_.append(u"2"_s); }, [] {});
@@ -42,6 +45,7 @@ protected:
     QTemporaryDir folder_;
     const QString address_ = u"unix:path=%1/run/bus"_s.arg(folder_.path());
     RecordingLog log_;
+    BusConnection systemBus_{address_};
     std::unique_ptr<Program> bus_;
     std::unique_ptr<SimulatedLogind> logind_;
     QStringList events_;
@@ -89,7 +93,7 @@ TEST_F(LogindWorkspaceTest, HoldsTheMachineUntilTheHandlersHaveReturned)
 TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
 {
     const auto workspace = startWorkspace();
-    EXPECT_EQ(log_.lines(), QStringList{u"no system bus: sleep and wake are not noticed"_s});
+    ASSERT_TRUE(waitFor([&] { return log_.contains(u"no system bus: sleep and wake are not noticed"_s); }));
     QDir(folder_.path()).mkdir(u"run"_s);
     for (const char *start : {"late", "again"}) {
         startBus();
@@ -107,9 +111,23 @@ TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
     EXPECT_EQ(log_.count(u"no system bus: sleep and wake are not noticed"_s), 1);
 }
 
+TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
+{
+    QDir(folder_.path()).mkdir(u"run"_s);
+    startBus();
+    logind_ = std::make_unique<SimulatedLogind>(address_);
+    logind_->fallSilent();
+    kill(bus_->process(), SIGSTOP);
+    const auto workspace = startWorkspace();
+    ASSERT_TRUE(waitFor([&] { return log_.contains(u"no system bus: sleep and wake are not noticed"_s); }));
+    kill(bus_->process(), SIGCONT);
+    EXPECT_TRUE(waitFor([&] { return logind_->prepareForSleep(true), !events_.isEmpty(); }));
+    EXPECT_EQ(events_, (QStringList{u"late"_s, u"2"_s}));
+}
+
 TEST_F(LogindWorkspaceTest, OpensCompleteAddressesOnly)
 {
-    LogindWorkspace workspace(address_, log_);
+    LogindWorkspace workspace(systemBus_, log_);
     Browser browser;
     EXPECT_TRUE(workspace.openURL(QUrl(u"http://192.168.0.1/index.html"_s)));
     for (const auto &text : {u""_s, u"http://"_s, u"http:///page"_s, u"page.html"_s, u"http://a b/"_s})
@@ -119,7 +137,7 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesOnly)
 
 TEST_F(LogindWorkspaceTest, StartsExecutablesAndDesktopFiles)
 {
-    LogindWorkspace workspace(address_, log_);
+    LogindWorkspace workspace(systemBus_, log_);
     const auto write = [this](const QString &name, const QByteArray &content) {
         QFile file(folder_.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
