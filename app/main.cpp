@@ -5,8 +5,10 @@
 #include "platform/linux/Compositing.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopStatusBar.h"
+#include "platform/linux/InheritedDescriptors.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
+#include "platform/linux/SessionBusForQt.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/SocketBinding.h"
 #include "platform/linux/SteadyClock.h"
@@ -19,12 +21,26 @@
 #include <QApplication>
 #include <QLocale>
 #include <QTextStream>
+#include <QTimer>
 
+#include <unistd.h>
+
+#include <chrono>
 #include <cstdlib>
+#include <optional>
 
 using namespace tarvo;
 
 namespace {
+
+constexpr int startOver = 75; // what the event loop returns when the program shall begin anew
+
+/// Begins anew, as only a new process can show its icon in a host of a session bus that came late; not at once, lest a bus
+/// in trouble keeps the program busy.
+void startOverLater(QApplication &application)
+{
+    QTimer::singleShot(std::chrono::seconds(10), &application, [] { QApplication::exit(startOver); });
+}
 
 int run(QApplication &application)
 {
@@ -38,7 +54,7 @@ int run(QApplication &application)
     BusConnection systemBus(systemBusAddress());
     BusConnection sessionBus(sessionBusAddress());
     LogindWorkspace workspace(systemBus, systemLog);
-    DesktopStatusBar statusBar(sessionBus);
+    DesktopStatusBar statusBar(sessionBus, [&] { startOverLater(application); });
     DesktopNotifications notifications(sessionBus, systemLog);
     SteadyClock clock;
 
@@ -57,11 +73,11 @@ int run(QApplication &application)
     return QApplication::exec();
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+int start(int argc, char **argv)
 {
+    std::optional<SessionBusForQt> sessionBusForQt(std::in_place);
     QApplication application(argc, argv);
+    sessionBusForQt.reset();
     QApplication::setApplicationName(QStringLiteral("tarvo"));
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tarvo"));
@@ -76,4 +92,16 @@ int main(int argc, char **argv)
         return EXIT_FAILURE;
     }
     return run(application);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const int status = start(argc, argv);
+    if (status != startOver)
+        return status;
+    closeDescriptorsOnExec();
+    execvp(argv[0], argv);
+    return EXIT_FAILURE;
 }

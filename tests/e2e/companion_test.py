@@ -10,6 +10,7 @@ import pathlib
 import plistlib
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -137,12 +138,16 @@ class CompanionTest(unittest.TestCase):
         self.start_program()
 
     def start_program(self):
-        nowhere = "unix:path=/nonexistent"
+        mute = f"unix:path={self.folder}/bus"
+        self.mute_bus = socket.socket(socket.AF_UNIX)
+        self.addCleanup(self.mute_bus.close)
+        self.mute_bus.bind(str(self.folder / "bus"))
+        self.mute_bus.listen()
         environment = os.environ | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
             "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": nowhere, "DBUS_SYSTEM_BUS_ADDRESS": nowhere}
+            "DBUS_SESSION_BUS_ADDRESS": mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
         self.program = subprocess.Popen([sys.argv[1]], env=environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
@@ -164,7 +169,7 @@ class CompanionTest(unittest.TestCase):
                 subprocess.run(["ip", "link", "del", one["ifname"]], stderr=subprocess.DEVNULL, check=False)
 
     def quit(self):
-        """SIGTERM ends the program, long before a request that gets no answer would end by itself."""
+        """SIGTERM ends the program, long before a request or a bus that gives no answer would end by itself."""
         self.program.terminate()
         self.assertEqual(self.program.wait(2), 0, "\n".join(self.log))
 
