@@ -60,7 +60,6 @@ int run(QApplication &application)
 
     MainController controller({dynamicStore, deviceRegistry, workspace, statusBar, clock, systemLog,
                                bindSocketToInterface, &QApplication::quit, &notifications, isScreenComposited});
-    const TerminationSignals signals([] { QApplication::quit(); });
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
         controller.applicationWillTerminate();
@@ -78,6 +77,7 @@ int start(int argc, char **argv)
     std::optional<SessionBusForQt> sessionBusForQt(std::in_place);
     QApplication application(argc, argv);
     sessionBusForQt.reset();
+    const TerminationSignals signals(&QApplication::quit);
     QApplication::setApplicationName(QStringLiteral("tarvo"));
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("tarvo"));
