@@ -8,6 +8,7 @@
 #include "platform/linux/InheritedDescriptors.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
+#include "platform/linux/QtMessages.h"
 #include "platform/linux/SessionBusForQt.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/SocketBinding.h"
@@ -42,9 +43,8 @@ void startOverLater(QApplication &application)
     QTimer::singleShot(std::chrono::seconds(10), &application, [] { QApplication::exit(startOver); });
 }
 
-int run(QApplication &application)
+int run(QApplication &application, SystemLog &systemLog)
 {
-    SyslogLog systemLog;
     if (const auto &problem = ConfigManager::sharedConfigManager().loadProblem())
         systemLog.write(*problem);
 
@@ -72,7 +72,7 @@ int run(QApplication &application)
     return QApplication::exec();
 }
 
-int start(int argc, char **argv)
+int start(int argc, char **argv, SystemLog &systemLog)
 {
     std::optional<SessionBusForQt> sessionBusForQt(std::in_place);
     QApplication application(argc, argv);
@@ -91,14 +91,16 @@ int start(int argc, char **argv)
         QTextStream(stderr) << "tarvo: another instance is running already\n";
         return EXIT_FAILURE;
     }
-    return run(application);
+    return run(application, systemLog);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    const int status = start(argc, argv);
+    SyslogLog systemLog;
+    const QtMessages messages(systemLog);
+    const int status = start(argc, argv, systemLog);
     if (status != startOver)
         return status;
     closeDescriptorsOnExec();

@@ -143,12 +143,12 @@ class CompanionTest(unittest.TestCase):
         self.addCleanup(self.mute_bus.close)
         self.mute_bus.bind(str(self.folder / "bus"))
         self.mute_bus.listen()
-        environment = os.environ | {
+        self.environment = os.environ | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
             "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "DBUS_SESSION_BUS_ADDRESS": mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
-        self.program = subprocess.Popen([sys.argv[1]], env=environment, stderr=subprocess.PIPE, text=True)
+        self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
         reader.start()
@@ -249,6 +249,12 @@ class CompanionTest(unittest.TestCase):
         ip("link del group 9")
         self.modem.unplug("enx1")
         self.until(lambda: "DeviceRemoved,stopGetModemStatus" in self.log)
+
+    def test_says_that_there_is_no_display(self):
+        program = subprocess.run([sys.argv[1]], env=self.environment | {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ""},
+                                 stderr=subprocess.PIPE, text=True, check=False)
+        self.assertIn("\ntarvo: no display: ", program.stderr)
+        self.assertEqual(program.returncode, 1)
 
     def test_quits_while_the_modem_does_not_answer(self):
         self.modem.tell("fault silent")
