@@ -5,6 +5,7 @@
 #include <QCryptographicHash>
 
 #include <ProfileSettings.h>
+#include <openssl/crypto.h>
 #include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/rsa.h>
@@ -16,6 +17,10 @@
 namespace tarvo {
 
 namespace {
+
+// Qt leaves by exit() when the display has gone, whatever other threads do. The library must not be taken down while one
+// of them is using it, so it must not begin to take care of that: it does with its first use by anybody, libcurl included.
+[[maybe_unused]] const int initialised = OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr);
 
 /// Takes back the error reports that the library leaves on the thread for whoever asks next.
 class ErrorMark {

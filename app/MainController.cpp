@@ -98,7 +98,10 @@ void MainController::couldNotOpen(const QString &page)
     log(u"cannot open "_s + page);
     if (m_services.notifications && m_services.notifications->available())
         m_services.notifications->show(
-            {.title = qtTrId("CannotOpenTitle"), .text = qtTrId("CannotOpenText").arg(page), .iconName = u"io.github.tarvo.Tarvo"_s}, {});
+            {.title = qtTrId("CannotOpenTitle"),
+             .text = qtTrId("CannotOpenText").arg(page),
+             .iconName = u"io.github.tarvo.Tarvo"_s},
+            {});
 }
 
 void MainController::awakeFromNib()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include <functional>
@@ -11,6 +12,7 @@ struct Notification {
     QString title; ///< one line, plain text
     QString text; ///< plain text, perhaps of several lines
     QString iconName; ///< a name of the desktop's icon theme
+    QImage image{}; ///< shown in the icon's place where the service does so; null for none
     QString openLabel{}; ///< of the action that the notification offers; empty for none
     std::function<void()> opened{}; ///< called on the main thread when the user chose that action
 };

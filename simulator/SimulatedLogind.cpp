@@ -63,6 +63,8 @@ QString SimulatedLogind::introspect(const QString &) const
 
 bool SimulatedLogind::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
+    if (m_silent)
+        return true;
     const QVariantList arguments = message.arguments();
     const bool isDelay = arguments.first() == u"sleep"_s && arguments.last() == u"delay"_s;
     if (message.member() == u"Inhibit" && isDelay)

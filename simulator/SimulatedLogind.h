@@ -16,6 +16,9 @@ public:
     /// Tells everybody on the bus that the machine is about to sleep, or has woken. Returns when the bus has passed it on.
     void prepareForSleep(bool sleeping);
 
+    /// From now on no call is answered.
+    void fallSilent() { m_silent = true; }
+
     /// @return whether somebody holds the lock
     bool isLocked() const;
     /// @return how many times the lock to delay sleep was lent
@@ -30,6 +33,7 @@ private:
     QDBusConnection m_bus;
     int m_lock = -1;
     int m_locksLent = 0;
+    bool m_silent = false;
 };
 
 } // namespace tarvo

@@ -142,6 +142,7 @@ std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const Ballo
     const Notification notification{.title = extras.title.isEmpty() ? u"Tarvo"_s : extras.title,
                                     .text = text,
                                     .iconName = u"io.github.tarvo.Tarvo"_s,
+                                    .image = extras.image,
                                     .openLabel = extras.openLabel,
                                     .opened = m_with.clicked};
     return std::make_unique<NotificationBalloon>(*m_with.notifications, notification,

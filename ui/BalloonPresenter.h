@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QObject>
 #include <QRect>
 #include <QString>
@@ -20,6 +21,7 @@ class OvAttachedWindow;
 /// What is shown beside a balloon's text where the desktop has room for it.
 struct BalloonExtras {
     QString title{};
+    QImage image{};
     QString openLabel{}; ///< of the action that leads to the news' page; empty where there is none
 };
 

@@ -7,6 +7,7 @@
 #include "platform/SystemLog.h"
 #include "ui/BalloonPresenter.h"
 #include "ui/DisplayStatus.h"
+#include "ui/Images.h"
 #include "ui/StatusIcon.h"
 #include "ui/UpdateAlert.h"
 #include "ui/WebPages.h"
@@ -143,21 +144,24 @@ void NewsSequence::displayNews(const Work &work, int type)
     pause(work.stopToken(), 2s);
 }
 
+BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image) const
+{
+    constexpr int imageSize = 64;
+    return {.title = news.page == Page::Firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
+            .image = imageNamed(image).pixmap(imageSize).toImage(),
+            .openLabel = m_with.pages.clickPage() == Page::None ? QString() : qtTrId("NewsOpen")};
+}
+
 bool NewsSequence::showBalloon(const Work &work, const DisplayStatus &status, int type)
 {
-    const bool firmware = type == DisplayType::NewVersion;
-    const StandingNews news{status.balloonText, firmware ? Page::Firmware : Page::DataLimit};
-    const BalloonExtras extras{.title = firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
-                                          .openLabel = qtTrId("NewsOpen")};
+    const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
     work.whileAttached([&] { m_shownImage = status.image; });
     const auto shown = std::make_shared<Latch>();
-    work.post(m_with.mainThread, [this, status, news, extras, shown] {
+    work.post(m_with.mainThread, [this, status, news, shown] {
         m_with.icon.setStatusImage(status.image);
         if (m_with.balloon.isShown())
             m_with.balloon.toggleAttachedWindowAtPoint(news.text);
-        const bool leads = m_with.pages.clickPage() != Page::None;
-        m_with.balloon.toggleAttachedWindowAtPoint(
-            news.text, leads ? extras : BalloonExtras{.title = extras.title});
+        m_with.balloon.toggleAttachedWindowAtPoint(news.text, extrasOf(news, status.image));
         if (status.announcesUpdate)
             m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.told)

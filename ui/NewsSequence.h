@@ -21,6 +21,7 @@ class StepQueue;
 class SystemLog;
 class UpdateAlert;
 class WebPages;
+struct BalloonExtras;
 struct DisplayStatus;
 
 /// Tells the user the news, one after the other, by icon, tool tip and balloon, and knows what was shown before.
@@ -104,6 +105,7 @@ private:
     DisplayStatus evaluate(const Work &work, int type);
     /// One step of the sequence: shows what is new for one display type, then waits.
     void displayNews(const Work &work, int type);
+    BalloonExtras extrasOf(const StandingNews &news, const QString &image) const;
     /// Shows the balloon of @p status. @return whether it came onto the screen
     bool showBalloon(const Work &work, const DisplayStatus &status, int type);
     /// Closes the balloon, and waits until it is closed.

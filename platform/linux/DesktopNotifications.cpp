@@ -1,23 +1,25 @@
 #include "platform/linux/DesktopNotifications.h"
 
 #include "platform/SystemLog.h"
+#include "platform/linux/BusConnection.h"
+#include "platform/linux/NotificationImage.h"
 
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantMap>
 
+#include <chrono>
 #include <utility>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto patience = 3s; // then the news are shown in another way
 
 const QString &serviceName()
 {
@@ -30,23 +32,33 @@ QDBusMessage call(const QString &method)
     return QDBusMessage::createMethodCall(serviceName(), u"/org/freedesktop/Notifications"_s, serviceName(), method);
 }
 
-QDBusMessage callToBus(const QString &method)
+QStringList actionsOf(const Notification &notification)
 {
-    const QString bus = u"org.freedesktop.DBus"_s;
-    return QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, method);
+    if (notification.openLabel.isEmpty())
+        return {};
+    return {u"default"_s, notification.openLabel, u"open"_s, notification.openLabel};
+}
+
+QVariantMap hintsOf(const Notification &notification)
+{
+    constexpr uchar normalUrgency = 1;
+    QVariantMap hints{{u"desktop-entry"_s, QGuiApplication::desktopFileName()},
+                      {u"urgency"_s, QVariant::fromValue(normalUrgency)},
+                      {u"category"_s, u"device"_s}};
+    if (!notification.image.isNull())
+        hints.insert(u"image-data"_s, QVariant::fromValue(NotificationImage(notification.image)));
+    return hints;
 }
 
 } // namespace
 
-DesktopNotifications::DesktopNotifications(const QDBusConnection &bus, SystemLog &systemLog)
+DesktopNotifications::DesktopNotifications(BusConnection &bus, SystemLog &systemLog)
     : m_bus(bus)
     , m_systemLog(systemLog)
+    , m_service(bus, serviceName(), [this](const QString &owner) { ownerChanged(owner); })
 {
-    if (!m_bus.isConnected())
-        return;
-    auto *watcher = new QDBusServiceWatcher(serviceName(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &DesktopNotifications::ownerChanged);
-    askWhatIsThere();
+    m_bus.follow(
+        this, [this] { askWhetherStartable(); }, [this] { busLost(); });
 }
 
 DesktopNotifications::~DesktopNotifications()
@@ -54,63 +66,77 @@ DesktopNotifications::~DesktopNotifications()
     close();
 }
 
-void DesktopNotifications::askWhatIsThere()
+void DesktopNotifications::busLost()
 {
-    askWhether(u"ListNames"_s, [this](bool running) {
-        if (!m_ownerSeen) // a change that was told meanwhile is newer
-            m_running = running;
-    });
-    askWhether(u"ListActivatableNames"_s, [this](bool startable) { m_startable = startable; });
+    m_startable = false;
+    if (m_failed) // the request will not be answered any more
+        std::exchange(m_failed, {})();
 }
 
-void DesktopNotifications::askWhether(const QString &list, const std::function<void(bool)> &answer)
+void DesktopNotifications::askWhetherStartable()
 {
-    auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(callToBus(list)), this);
-    connect(asked, &QDBusPendingCallWatcher::finished, this, [asked, answer] {
-        asked->deleteLater();
-        const QDBusPendingReply<QStringList> names = *asked;
-        answer(names.isValid() && names.value().contains(serviceName()));
+    m_bus.subscribe(u"/org/freedesktop/Notifications"_s, serviceName(), u"ActionInvoked"_s, this,
+                    SLOT(actionInvoked(QDBusMessage)));
+    m_bus.callBus(u"ListActivatableNames"_s, {}, this, [this](const QDBusMessage &answer) {
+        m_startable = answer.arguments().value(0).toStringList().contains(serviceName());
     });
 }
 
-void DesktopNotifications::ownerChanged(const QString &, const QString &, const QString &newOwner)
+void DesktopNotifications::ownerChanged(const QString &owner)
 {
-    m_ownerSeen = true;
-    m_running = !newOwner.isEmpty();
+    m_owner = owner;
     m_identifier = 0; // what an earlier service showed is not the new one's
 }
 
 void DesktopNotifications::show(const Notification &notification, std::function<void()> failed)
 {
-    constexpr int longestStay = 10000; // milliseconds, should we not come to close it
+    constexpr int serviceDecides = -1; // how long the notification stays on the screen
+    constexpr int answerTimeout = 25000; // milliseconds; the bus may have to start the service
     m_wanted = true;
     m_failed = std::move(failed);
     QDBusMessage message = call(u"Notify"_s);
-    const QVariantMap hints{{u"transient"_s, true}, {u"desktop-entry"_s, QGuiApplication::desktopFileName()}};
-    message << notification.title << m_identifier << notification.iconName << notification.title
-            << notification.text.toHtmlEscaped() << QStringList() << hints << longestStay;
-    auto *asked = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-    connect(asked, &QDBusPendingCallWatcher::finished, this,
-            [this, asked, request = ++m_request] { shown(asked, request); });
+    m_opened = notification.opened;
+    message << u"Tarvo"_s << m_identifier << notification.iconName << notification.title
+            << notification.text.toHtmlEscaped() << actionsOf(notification) << hintsOf(notification) << serviceDecides;
+    m_bus.call(
+        message, this, [this, request = ++m_request](const QDBusMessage &answer) { shown(answer, request); },
+        answerTimeout);
+    if (m_failed)
+        QTimer::singleShot(patience, this, [this, request = m_request] { giveUp(request); });
 }
 
-void DesktopNotifications::shown(QDBusPendingCallWatcher *asked, std::uint64_t request)
+void DesktopNotifications::giveUp(std::uint64_t request)
 {
-    asked->deleteLater();
-    const QDBusPendingReply<std::uint32_t> identifier = *asked;
-    if (identifier.isError())
-        m_systemLog.write(u"notification failed: "_s + identifier.error().message());
-    const std::uint32_t appeared = identifier.isError() ? 0 : identifier.value();
+    if (request != m_request || !m_failed)
+        return;
+    m_wanted = false; // should it appear after all, it is taken back
+    std::exchange(m_failed, {})();
+}
+
+void DesktopNotifications::actionInvoked(const QDBusMessage &signal)
+{
+    const bool isOurs = m_identifier != 0 && signal.arguments().value(0).toUInt() == m_identifier;
+    if (signal.service() == m_owner && isOurs && m_opened)
+        m_opened();
+}
+
+void DesktopNotifications::shown(const QDBusMessage &answer, std::uint64_t request)
+{
+    const bool isShown = answer.type() == QDBusMessage::ReplyMessage;
+    if (!isShown)
+        m_systemLog.write(u"notification failed: "_s + answer.errorMessage());
+    const std::uint32_t appeared = isShown ? answer.arguments().value(0).toUInt() : 0;
     if (request != m_request) {
         if (appeared != m_identifier)
             closeAtService(appeared); // it came too late to be replaced
         return;
     }
     m_identifier = appeared;
+    const auto failed = std::exchange(m_failed, {});
     if (!m_wanted)
         closeAtService(std::exchange(m_identifier, 0));
-    else if (identifier.isError() && m_failed)
-        std::exchange(m_failed, {})();
+    else if (!isShown && failed)
+        failed();
 }
 
 void DesktopNotifications::close()

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 namespace tarvo {
 
 namespace {
@@ -54,14 +56,16 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded)
     return hosted ? BarKind::Notifier : BarKind::None;
 }
 
-DesktopStatusBar::DesktopStatusBar(const QDBusConnection &bus)
-    : m_hosts(bus, [this] { choose(); })
+DesktopStatusBar::DesktopStatusBar(BusConnection &sessionBus, std::function<void()> hostOutOfReach)
+    : m_hostOutOfReach(std::move(hostOutOfReach))
+    , m_hosts(sessionBus, [this] { choose(); })
 {
     const std::optional<XScreen> screen = XScreen::ofApplication();
     if (!screen)
         return;
     m_trayBar = std::make_unique<XEmbedStatusBar>(*screen);
     m_trays = std::make_unique<XTrayWatcher>(*screen, [this] { choose(); });
+    choose();
 }
 
 DesktopStatusBar::~DesktopStatusBar() = default;
@@ -78,12 +82,15 @@ void DesktopStatusBar::choose()
     if (!m_hosts.known())
         return;
     const std::optional<XTray> tray = m_trays ? m_trays->tray() : std::nullopt;
-    m_kind = chooseBar(tray.has_value(), m_hosts.hosted(), tray && forwards(*tray));
+    const bool canBeHosted = m_hosts.hosted() && NotifierStatusBar::reachesHosts();
+    m_kind = chooseBar(tray.has_value(), canBeHosted, tray && forwards(*tray));
     if (m_kind != BarKind::Notifier)
         m_notifierBar.hide();
     setTray(m_kind == BarKind::Tray ? tray : std::nullopt);
     if (m_kind == BarKind::Notifier)
         m_notifierBar.show();
+    if (m_kind == BarKind::None && m_hosts.hosted() && m_hostOutOfReach)
+        m_hostOutOfReach();
 }
 
 bool DesktopStatusBar::forwards(const XTray &tray) const

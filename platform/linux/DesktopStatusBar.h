@@ -6,6 +6,7 @@
 #include "platform/linux/XEmbedStatusBar.h"
 #include "platform/linux/XTrayWatcher.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,8 +31,10 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded);
 /// offer may come only after a tray got its first icon; items then move to the host and stay there.
 class DesktopStatusBar final : public StatusBar {
 public:
-    /// @param bus  the session's bus, where hosts are looked for; it need not be connected
-    explicit DesktopStatusBar(const QDBusConnection &bus);
+    /// @param sessionBus      where hosts are looked for, once it is there; outlives this object
+    /// @param hostOutOfReach  called, maybe again and again, when there is only a host that this process cannot show items
+    ///                        in: the bus came, or came back, after Qt had asked for it
+    explicit DesktopStatusBar(BusConnection &sessionBus, std::function<void()> hostOutOfReach = {});
     ~DesktopStatusBar() override;
 
     std::unique_ptr<StatusItem> createItem(double length) override;
@@ -44,6 +47,7 @@ private:
     bool forwards(const XTray &tray) const;
     void setTray(const std::optional<XTray> &tray);
 
+    const std::function<void()> m_hostOutOfReach;
     BarKind m_kind = BarKind::None;
     std::optional<XTray> m_dockedTray;
     NotifierStatusBar m_notifierBar;

@@ -1,9 +1,8 @@
 #include "platform/linux/LogindSleep.h"
 
 #include "platform/SystemLog.h"
+#include "platform/linux/BusConnection.h"
 
-#include <QDBusConnection>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
 #include <utility>
@@ -14,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int callTimeoutInMilliseconds = 5000;
-
 const QString service = QStringLiteral("org.freedesktop.login1");
 const QString path = QStringLiteral("/org/freedesktop/login1");
 const QString managerInterface = QStringLiteral("org.freedesktop.login1.Manager");
@@ -23,55 +20,46 @@ const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Propert
 
 } // namespace
 
-LogindSleep::LogindSleep(const QString &busAddress, SystemLog &log, Handler willSleep, Handler didWake)
+LogindSleep::LogindSleep(BusConnection &bus, SystemLog &log, Handler willSleep, Handler didWake)
     : m_log(log)
     , m_willSleep(std::move(willSleep))
     , m_didWake(std::move(didWake))
-    , m_bus(
-          busAddress, [this] { busFound(); }, [this] { busLost(); })
+    , m_bus(bus)
+    , m_name(bus, service, [this](const QString &owner) { ownerChanged(owner); })
 {
-    m_bus.open();
+    m_bus.follow(
+        this, [this] { busFound(); }, [this] { busLost(); });
 }
 
 LogindSleep::~LogindSleep() = default;
 
 void LogindSleep::busFound()
 {
-    m_session = std::make_unique<QObject>();
-    auto connection = m_bus.connection();
-    // Without a service name here: naming one makes Qt wait for the bus. The sender is checked instead.
-    connection.connect(QString(), path, managerInterface, u"PrepareForSleep"_s, this,
-                       SLOT(prepareForSleep(QDBusMessage)));
-    const auto *owners =
-        new QDBusServiceWatcher(service, connection, QDBusServiceWatcher::WatchForOwnerChange, m_session.get());
-    connect(owners, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &, const QString &owner) { ownerChanged(owner); });
-    readState();
+    m_bus.subscribe(path, managerInterface, u"PrepareForSleep"_s, this, SLOT(prepareForSleep(QDBusMessage)));
 }
 
 void LogindSleep::busLost()
 {
-    m_session.reset();
-    ownerChanged(QString());
+    m_ownerAsked = false;
     logOnce(u"no system bus: sleep and wake are not noticed"_s);
 }
 
 void LogindSleep::ownerChanged(const QString &owner)
 {
-    if (m_owner == owner)
+    const bool isFirst = !std::exchange(m_ownerAsked, true);
+    if (m_owner == owner && !isFirst)
         return;
     m_owner = owner;
     m_lock = QDBusUnixFileDescriptor();
-    if (!owner.isEmpty())
+    m_lockAsked = false;
+    if (isFirst || !owner.isEmpty()) // where nobody owns the name, being asked may start logind
         readState();
 }
 
 void LogindSleep::readState()
 {
-    call(propertiesInterface, u"Get"_s, {managerInterface, u"PreparingForSleep"_s}, [this](const QDBusMessage &answer) {
-        m_owner = answer.service();
-        stateIs(answer.arguments().value(0).value<QDBusVariant>().variant().toBool());
-    });
+    call(propertiesInterface, u"Get"_s, {managerInterface, u"PreparingForSleep"_s},
+         [this](const QVariant &value) { stateIs(value.value<QDBusVariant>().variant().toBool()); });
 }
 
 void LogindSleep::prepareForSleep(const QDBusMessage &signal)
@@ -94,29 +82,29 @@ void LogindSleep::stateIs(bool sleeping)
 
 void LogindSleep::takeLock()
 {
-    if (m_lock.isValid())
+    if (m_owner.isEmpty() || m_lock.isValid() || std::exchange(m_lockAsked, true))
         return;
     const QVariantList arguments{u"sleep"_s, u"Tarvo"_s, u"Leave the modem alone before the machine sleeps"_s,
                                  u"delay"_s};
-    call(managerInterface, u"Inhibit"_s, arguments, [this](const QDBusMessage &answer) {
-        if (!m_sleeping && answer.service() == m_owner)
-            m_lock = answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
+    call(managerInterface, u"Inhibit"_s, arguments, [this](const QVariant &value) {
+        m_lockAsked = false;
+        if (!m_sleeping)
+            m_lock = value.value<QDBusUnixFileDescriptor>();
     });
 }
 
 void LogindSleep::call(const QString &interface, const QString &method, const QVariantList &arguments,
-                       const Answer &answer)
+                       const Answer &answered)
 {
-    auto message = QDBusMessage::createMethodCall(service, path, interface, method);
+    auto message = QDBusMessage::createMethodCall(m_owner.isEmpty() ? service : m_owner, path, interface, method);
     message.setArguments(arguments);
-    const auto pending = m_bus.connection().asyncCall(message, callTimeoutInMilliseconds);
-    auto *const watcher = new QDBusPendingCallWatcher(pending, m_session.get());
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, method, answer] {
-        watcher->deleteLater();
-        if (watcher->isError())
-            logOnce(u"logind does not answer %1: %2"_s.arg(method, watcher->error().message()));
-        else
-            answer(watcher->reply());
+    m_bus.call(message, this, [this, method, answered, owner = m_owner](const QDBusMessage &answer) {
+        if (owner != m_owner)
+            return; // it speaks of another logind than the present one
+        const bool isReply = answer.type() == QDBusMessage::ReplyMessage;
+        if (!isReply)
+            logOnce(u"logind does not answer %1: %2"_s.arg(method, answer.errorMessage()));
+        answered(isReply ? answer.arguments().value(0) : QVariant());
     });
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "platform/linux/BusConnection.h"
+#include "platform/linux/BusName.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QObject>
 #include <QString>
@@ -11,10 +10,10 @@
 #include <QVariantList>
 
 #include <functional>
-#include <memory>
 
 namespace tarvo {
 
+class BusConnection;
 class SystemLog;
 
 /// Sleep and wake of the machine, as logind tells them (org.freedesktop.login1(5); systemd's "Inhibitor Locks").
@@ -28,15 +27,16 @@ class LogindSleep final : public QObject {
 public:
     using Handler = std::function<void()>;
 
-    /// @param busAddress  the system bus (D-Bus specification, "Server Addresses")
-    LogindSleep(const QString &busAddress, SystemLog &log, Handler willSleep, Handler didWake);
+    /// @param bus  the system bus; outlives this object, as @p log does
+    LogindSleep(BusConnection &bus, SystemLog &log, Handler willSleep, Handler didWake);
     ~LogindSleep() override;
 
 private Q_SLOTS:
     void prepareForSleep(const QDBusMessage &signal);
 
 private:
-    using Answer = std::function<void(const QDBusMessage &answer)>;
+    /// Given the first value of a reply; no value when there was an error.
+    using Answer = std::function<void(const QVariant &value)>;
 
     void busFound();
     void busLost();
@@ -44,18 +44,20 @@ private:
     void readState();
     void stateIs(bool sleeping);
     void takeLock();
-    void call(const QString &interface, const QString &method, const QVariantList &arguments, const Answer &answer);
+    void call(const QString &interface, const QString &method, const QVariantList &arguments, const Answer &answered);
     void logOnce(const QString &line);
 
     SystemLog &m_log;
     const Handler m_willSleep;
     const Handler m_didWake;
+    BusConnection &m_bus;
     QString m_owner; ///< the unique name of the logind that is listened to; empty while none is known
+    bool m_ownerAsked = false; ///< the bus has told who owns the name, if anybody
     QDBusUnixFileDescriptor m_lock;
+    bool m_lockAsked = false;
     bool m_sleeping = false;
     QStringList m_logged;
-    BusConnection m_bus;
-    std::unique_ptr<QObject> m_session; ///< owns what ends with the present connection
+    BusName m_name;
 };
 
 } // namespace tarvo

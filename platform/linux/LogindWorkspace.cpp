@@ -1,5 +1,7 @@
 #include "platform/linux/LogindWorkspace.h"
 
+#include "platform/linux/InheritedDescriptors.h"
+
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
@@ -18,9 +20,9 @@ bool isComplete(const QUrl &url)
 
 } // namespace
 
-LogindWorkspace::LogindWorkspace(const QString &busAddress, SystemLog &log)
+LogindWorkspace::LogindWorkspace(BusConnection &systemBus, SystemLog &log)
     : m_sleep(
-        busAddress, log,
+        systemBus, log,
         [this] {
             for (const auto &[willSleep, didWake] : m_observers)
                 willSleep();
@@ -39,6 +41,7 @@ void LogindWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 
 bool LogindWorkspace::openURL(const QUrl &url)
 {
+    closeDescriptorsOnExec();
     return isComplete(url) && QDesktopServices::openUrl(url);
 }
 
@@ -47,6 +50,7 @@ bool LogindWorkspace::launchApplication(const QString &path)
     const QFileInfo file(path);
     if (!file.isFile())
         return false;
+    closeDescriptorsOnExec();
     if (path.endsWith(u".desktop"))
         return QProcess::startDetached(u"gio"_s, {u"launch"_s, file.absoluteFilePath()});
     return QProcess::startDetached(file.absoluteFilePath(), {});

@@ -13,8 +13,8 @@ namespace tarvo {
 /// Opening an address needs a QGuiApplication.
 class LogindWorkspace final : public Workspace {
 public:
-    /// @param busAddress  the system bus, usually `systemBusAddress()`
-    LogindWorkspace(const QString &busAddress, SystemLog &log);
+    /// @param systemBus  outlives this object, as @p log does
+    LogindWorkspace(BusConnection &systemBus, SystemLog &log);
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
     bool openURL(const QUrl &url) override;

@@ -1,10 +1,9 @@
 #include "platform/linux/NotifierHosts.h"
 
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QDBusPendingCall>
-#include <QDBusPendingReply>
+#include "platform/linux/BusConnection.h"
+
 #include <QDBusVariant>
+#include <QStringList>
 
 namespace tarvo {
 
@@ -24,67 +23,56 @@ QDBusMessage propertyQuestion(const QString &property)
     return question;
 }
 
-QVariant propertyAnswer(const QDBusPendingCall &call)
+QVariant propertyIn(const QDBusMessage &answer)
 {
-    const QDBusPendingReply<QDBusVariant> reply(call);
-    return reply.isError() ? QVariant() : reply.value().variant();
-}
-
-/// Calls @p handler with the finished call, unless @p receiver is gone by then.
-template <typename Handler>
-void whenFinished(const QDBusPendingCall &call, QObject *receiver, Handler handler)
-{
-    auto *const watcher = new QDBusPendingCallWatcher(call, receiver);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, receiver, [handler](QDBusPendingCallWatcher *done) {
-        done->deleteLater();
-        handler(*done);
-    });
+    const bool isReply = answer.type() == QDBusMessage::ReplyMessage;
+    return isReply ? answer.arguments().value(0).value<QDBusVariant>().variant() : QVariant();
 }
 
 } // namespace
 
-NotifierHosts::NotifierHosts(const QDBusConnection &bus, std::function<void()> changed)
+NotifierHosts::NotifierHosts(BusConnection &bus, std::function<void()> changed)
     : m_changed(std::move(changed))
     , m_bus(bus)
-    , m_watcher(watcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange)
+    , m_watcher(bus, watcherService, [this](const QString &owner) { ownerChanged(owner); })
 {
-    connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &, const QString &owner) { ownerChanged(owner); });
+    m_bus.follow(
+        this, [this] { busFound(); }, [] {});
+}
+
+void NotifierHosts::busFound()
+{
     for (const char *const signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
-        m_bus.connect(watcherService, watcherPath, watcherService, QLatin1String(signal), this, SLOT(askForHost()));
-    m_bus.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierItemRegistered"), this,
-                  SLOT(itemRegistered(QString)));
-    askForHost();
+        m_bus.subscribe(watcherPath, watcherService, QLatin1String(signal), this, SLOT(askForHost()));
+    m_bus.subscribe(watcherPath, watcherService, QStringLiteral("StatusNotifierItemRegistered"), this,
+                    SLOT(itemRegistered(QString)));
 }
 
 void NotifierHosts::ownerChanged(const QString &owner)
 {
     m_itemProcesses.clear();
     ++m_hostQuestion;
-    setHosted(false);
+    if (owner.isEmpty() || m_known)
+        setHosted(false);
     if (!owner.isEmpty())
         askForHost();
 }
 
 void NotifierHosts::askForHost()
 {
-    if (!m_bus.isConnected()) { // then no call would ever be answered
-        QMetaObject::invokeMethod(
-            this, [this] { setHosted(false); }, Qt::QueuedConnection);
-        return;
-    }
     const quint64 question = ++m_hostQuestion;
-    const auto call =
-        m_bus.asyncCall(propertyQuestion(QStringLiteral("IsStatusNotifierHostRegistered")), answerTimeout);
-    whenFinished(call, this, [this, question](const QDBusPendingCall &done) {
-        if (question == m_hostQuestion)
-            hostAnswered(done);
-    });
+    m_bus.call(
+        propertyQuestion(QStringLiteral("IsStatusNotifierHostRegistered")), this,
+        [this, question](const QDBusMessage &answer) {
+            if (question == m_hostQuestion)
+                hostAnswered(answer);
+        },
+        answerTimeout);
 }
 
-void NotifierHosts::hostAnswered(const QDBusPendingCall &call)
+void NotifierHosts::hostAnswered(const QDBusMessage &answer)
 {
-    setHosted(propertyAnswer(call).toBool());
+    setHosted(propertyIn(answer).toBool());
     if (m_hosted)
         askForItems();
 }
@@ -100,12 +88,14 @@ void NotifierHosts::setHosted(bool hosted)
 
 void NotifierHosts::askForItems()
 {
-    const auto call = m_bus.asyncCall(propertyQuestion(QStringLiteral("RegisteredStatusNotifierItems")), answerTimeout);
-    whenFinished(call, this, [this](const QDBusPendingCall &done) {
-        const QStringList items = propertyAnswer(done).toStringList().mid(0, mostItems);
-        for (const QString &item : items)
-            askForProcess(item);
-    });
+    m_bus.call(
+        propertyQuestion(QStringLiteral("RegisteredStatusNotifierItems")), this,
+        [this](const QDBusMessage &answer) {
+            const QStringList items = propertyIn(answer).toStringList().mid(0, mostItems);
+            for (const QString &item : items)
+                askForProcess(item);
+        },
+        answerTimeout);
 }
 
 void NotifierHosts::itemRegistered(const QString &item)
@@ -117,15 +107,11 @@ void NotifierHosts::askForProcess(const QString &item)
 {
     // An item is named by its bus name, which may be followed by an object path.
     const QString service = item.section(QLatin1Char('/'), 0, 0);
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
-    question.setArguments({service});
-    whenFinished(m_bus.asyncCall(question, answerTimeout), this, [this](const QDBusPendingCall &done) {
-        const QDBusPendingReply<quint32> reply(done);
-        if (reply.isError() || m_itemProcesses.contains(reply.value()))
+    m_bus.callBus(QStringLiteral("GetConnectionUnixProcessID"), {service}, this, [this](const QDBusMessage &answer) {
+        const quint32 process = answer.arguments().value(0).toUInt();
+        if (answer.type() != QDBusMessage::ReplyMessage || m_itemProcesses.contains(process))
             return;
-        m_itemProcesses.insert(reply.value());
+        m_itemProcesses.insert(process);
         m_changed();
     });
 }

@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QDBusConnection>
-#include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
+#include "platform/linux/BusName.h"
+
+#include <QDBusMessage>
 #include <QObject>
 #include <QSet>
 
 #include <functional>
 
 namespace tarvo {
+
+class BusConnection;
 
 /// Follows whether the session bus has a host for StatusNotifierItem, by signals alone. Nothing here blocks.
 ///
@@ -18,9 +20,9 @@ class NotifierHosts final : public QObject {
     Q_OBJECT
 
 public:
-    /// @param bus      the session's bus; one that is not connected has no host
-    /// @param changed  called from the event loop after any of what this object tells changed
-    NotifierHosts(const QDBusConnection &bus, std::function<void()> changed);
+    /// @param bus      the session's bus, which has no host while it is not there; outlives this object
+    /// @param changed  called after any of what this object tells changed
+    NotifierHosts(BusConnection &bus, std::function<void()> changed);
 
     /// @return whether the first answer is there; until then nothing is known of hosts
     bool known() const { return m_known; }
@@ -31,8 +33,9 @@ public:
     bool offersItems(quint32 process) const { return m_itemProcesses.contains(process); }
 
 private:
+    void busFound();
     void ownerChanged(const QString &owner);
-    void hostAnswered(const QDBusPendingCall &call);
+    void hostAnswered(const QDBusMessage &answer);
     void setHosted(bool hosted);
     void askForItems();
     void askForProcess(const QString &item);
@@ -43,12 +46,12 @@ private Q_SLOTS:
 
 private:
     std::function<void()> m_changed;
-    QDBusConnection m_bus;
-    QDBusServiceWatcher m_watcher;
+    BusConnection &m_bus;
     quint64 m_hostQuestion = 0; ///< counts the questions: only the answer to the last one is of interest
     bool m_known = false;
     bool m_hosted = false;
     QSet<quint32> m_itemProcesses;
+    BusName m_watcher;
 };
 
 } // namespace tarvo

@@ -1,6 +1,7 @@
 #include "platform/linux/NotifierStatusBar.h"
 
 #include <QAbstractButton>
+#include <QDBusConnection>
 #include <QIcon>
 #include <QImage>
 #include <QMenu>
@@ -146,6 +147,11 @@ NotifierStatusBar::~NotifierStatusBar() = default;
 std::unique_ptr<StatusItem> NotifierStatusBar::createItem(double)
 {
     return std::make_unique<Item>(*this);
+}
+
+bool NotifierStatusBar::reachesHosts()
+{
+    return QDBusConnection::sessionBus().isConnected();
 }
 
 void NotifierStatusBar::show()

@@ -20,6 +20,9 @@ public:
 
     std::unique_ptr<StatusItem> createItem(double length) override;
 
+    /// @return whether the bus that Qt connected to when it first asked for one is there, for it keeps to that
+    static bool reachesHosts();
+
     /// Offers all items with a view to the registered host.
     void show();
     /// Takes all items back.

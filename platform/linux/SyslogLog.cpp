@@ -1,54 +1,48 @@
 #include "platform/linux/SyslogLog.h"
 
-#include <QByteArray>
-#include <QList>
-
-#include <sys/stat.h>
-#include <syslog.h>
-#include <unistd.h>
+#include "platform/LogLine.h"
 
 namespace tarvo {
 
 namespace {
 
-bool standardErrorIsTheJournal()
+/// Writes @p line by @p write, and before it how many lines were lost, if any were.
+template <typename Write>
+void writeOrCount(const QByteArray &line, quint64 &lost, const Write &write)
 {
-    const QList<QByteArray> journal = qgetenv("JOURNAL_STREAM").split(':');
-    struct stat status { };
-    if (journal.size() != 2 || fstat(STDERR_FILENO, &status) != 0)
-        return false;
-    return journal[0].toULongLong() == status.st_dev && journal[1].toULongLong() == status.st_ino;
-}
-
-void writeAll(int descriptor, QByteArray bytes)
-{
-    while (!bytes.isEmpty()) {
-        const ssize_t written = ::write(descriptor, bytes.constData(), static_cast<size_t>(bytes.size()));
-        if (written <= 0)
-            return;
-        bytes.remove(0, written);
-    }
+    if (lost > 0 && write(QByteArray::number(lost) + (lost == 1 ? " line was lost" : " lines were lost")))
+        lost = 0;
+    if (lost > 0 || !write(line))
+        ++lost;
 }
 
 } // namespace
 
-SyslogLog::SyslogLog()
-    : m_echo(!standardErrorIsTheJournal())
+SyslogLog::SyslogLog(const QByteArray &socketPath)
+    : m_syslog(socketPath)
 {
-    openlog("tarvo", LOG_PID, LOG_USER);
 }
 
 SyslogLog::~SyslogLog()
 {
-    closelog();
+    writeAll(m_repetitions.finish());
 }
 
 void SyslogLog::write(const QString &line)
 {
-    const QByteArray bytes = line.toUtf8();
-    syslog(LOG_INFO, "%s", bytes.constData());
-    if (m_echo)
-        writeAll(STDERR_FILENO, bytes + '\n');
+    const QByteArray bytes = logLine(line);
+    const std::scoped_lock lock(m_mutex);
+    writeAll(m_repetitions.pass(bytes, std::chrono::steady_clock::now()));
+}
+
+void SyslogLog::writeAll(const QList<QByteArray> &lines)
+{
+    for (const QByteArray &line : lines) {
+        writeOrCount(line, m_lostToSyslog, [this](const QByteArray &bytes) { return m_syslog.write(bytes); });
+        if (m_standardError.isWanted())
+            writeOrCount(line, m_lostToStandardError,
+                         [this](const QByteArray &bytes) { return m_standardError.write(bytes + '\n'); });
+    }
 }
 
 } // namespace tarvo

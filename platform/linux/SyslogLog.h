@@ -1,16 +1,21 @@
 #pragma once
 
+#include "platform/RepetitionFilter.h"
 #include "platform/SystemLog.h"
+#include "platform/linux/StandardError.h"
+#include "platform/linux/SyslogSocket.h"
+
+#include <mutex>
 
 namespace tarvo {
 
-/// Lines to syslog(3), and to standard error unless that already ends in the journal.
+/// Lines to syslog, and to standard error unless that already ends in the journal.
 ///
-/// Whether standard error is the journal is told by the `JOURNAL_STREAM` variable (systemd.exec(5)). At most one
-/// object at a time: the connection to syslog belongs to the process.
+/// Writing never blocks: what nobody takes is lost, and how much that was is told when lines are taken again.
 class SyslogLog final : public SystemLog {
 public:
-    SyslogLog();
+    /// @param socketPath  where syslog takes lines
+    explicit SyslogLog(const QByteArray &socketPath = "/dev/log");
     ~SyslogLog() override;
     SyslogLog(const SyslogLog &) = delete;
     SyslogLog &operator=(const SyslogLog &) = delete;
@@ -18,7 +23,14 @@ public:
     void write(const QString &line) override;
 
 private:
-    bool m_echo;
+    void writeAll(const QList<QByteArray> &lines);
+
+    std::mutex m_mutex;
+    RepetitionFilter m_repetitions;
+    SyslogSocket m_syslog;
+    StandardError m_standardError;
+    quint64 m_lostToSyslog = 0;
+    quint64 m_lostToStandardError = 0;
 };
 
 } // namespace tarvo

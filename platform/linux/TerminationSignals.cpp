@@ -6,18 +6,24 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <utility>
 
 namespace tarvo {
 
 namespace {
 
+constexpr unsigned secondsToEnd = 3;
+
 std::atomic<int> signalSink{-1};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler reads it");
+std::atomic_flag ending;
 
 void writeToSink(int)
 {
     const int savedError = errno;
+    if (!ending.test_and_set())
+        alarm(secondsToEnd);
     // A full pipe will wake the reader as it is.
     [[maybe_unused]] const ssize_t written = ::write(signalSink, "", 1);
     errno = savedError;
@@ -27,6 +33,18 @@ void drain(int descriptor)
 {
     std::array<char, 64> bytes;
     while (::read(descriptor, bytes.data(), bytes.size()) > 0) { }
+}
+
+void handle(int signal)
+{
+    struct sigaction before { };
+    sigaction(signal, nullptr, &before);
+    if (before.sa_handler == SIG_IGN)
+        return;
+    struct sigaction action { };
+    action.sa_handler = writeToSink;
+    action.sa_flags = SA_RESTART;
+    sigaction(signal, &action, nullptr);
 }
 
 } // namespace
@@ -46,32 +64,17 @@ TerminationSignals::TerminationSignals(std::function<void()> handler)
                          call();
                      });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-        handleSignal(signal);
+        handle(signal);
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    for (const Replaced &replaced : m_replaced)
-        sigaction(replaced.signal, &replaced.action, nullptr);
     signalSink = -1;
     m_notifier.reset();
     for (const int end : {m_readEnd, m_writeEnd}) {
         if (end >= 0)
             close(end);
     }
-}
-
-void TerminationSignals::handleSignal(int signal)
-{
-    struct sigaction before { };
-    sigaction(signal, nullptr, &before);
-    if (before.sa_handler == SIG_IGN)
-        return;
-    struct sigaction action { };
-    action.sa_handler = writeToSink;
-    action.sa_flags = SA_RESTART;
-    sigaction(signal, &action, nullptr);
-    m_replaced.push_back({signal, before});
 }
 
 } // namespace tarvo

@@ -4,7 +4,6 @@
 #include "platform/linux/Compositing.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <QTimer>
 
 #include <chrono>
@@ -31,7 +30,8 @@ QString requestText(const ReceivedRequest &request)
     return u"set "_s + body.left(body.lastIndexOf(u"&AD="_s)).section(u'=', 1);
 }
 
-DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWorkspace::Opener opener)
+DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, BusConnection &sessionBus,
+                     SimulatedWorkspace::Opener opener)
     : m_opener(std::move(opener))
     , m_modem([this](const ReceivedRequest &request) {
         m_steps.post([this, text = requestText(request)] { Q_EMIT modemAsked(text); });
@@ -42,7 +42,7 @@ DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWo
     , m_workspace([this](const QUrl &page) { return openPage(page); })
     , m_statusBar(statusBar)
     , m_systemLog([this](const QString &line) { m_steps.post([this, line] { Q_EMIT lineLogged(line); }); })
-    , m_notifications(QDBusConnection::sessionBus(), m_systemLog)
+    , m_notifications(sessionBus, m_systemLog)
 {
     m_modem.change([](ModemCondition &condition) { condition.defaultProfileName = u"Demo Büro"_s; });
     if (!folder.writeSettings(m_server.authority()))

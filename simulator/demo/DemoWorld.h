@@ -25,9 +25,10 @@ class DemoWorld : public QObject {
     Q_OBJECT
 
 public:
-    /// @param folder, statusBar  outlive this object
+    /// @param folder, statusBar, sessionBus  outlive this object
     /// @param opener  shows the user a web page; empty shows none
-    DemoWorld(const DemoFolder &folder, StatusBar &statusBar, SimulatedWorkspace::Opener opener);
+    DemoWorld(const DemoFolder &folder, StatusBar &statusBar, BusConnection &sessionBus,
+              SimulatedWorkspace::Opener opener);
 
     /// Plugs the modem in: its interface comes at once, its address a moment later.
     void plugIn();

@@ -1,3 +1,5 @@
+#include "platform/linux/BusAddress.h"
+#include "platform/linux/BusConnection.h"
 #include "platform/linux/DesktopStatusBar.h"
 #include "simulator/demo/DemoFolder.h"
 #include "simulator/demo/DemoTour.h"
@@ -31,8 +33,9 @@ int main(int argc, char **argv)
     parser.process(application);
     const bool isTour = parser.isSet(u"tour"_s);
 
-    tarvo::DesktopStatusBar statusBar(QDBusConnection::sessionBus());
-    tarvo::DemoWorld world(folder, statusBar, isTour ? nullptr : &QDesktopServices::openUrl);
+    tarvo::BusConnection sessionBus(tarvo::sessionBusAddress());
+    tarvo::DesktopStatusBar statusBar(sessionBus);
+    tarvo::DemoWorld world(folder, statusBar, sessionBus, isTour ? nullptr : &QDesktopServices::openUrl);
     if (world.problem()) {
         std::cerr << "tarvo-demo: " << world.problem()->toStdString() << std::endl;
         return 1;

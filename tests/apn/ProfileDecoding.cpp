@@ -3,8 +3,29 @@
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
 
+#include <openssl/rand.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
 using namespace tarvo;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isExiting = false;
+[[maybe_unused]] const int lastToRun = std::atexit([] {
+    if (isExiting)
+        _exit(RAND_status());
+});
+
+} // namespace
+
+TEST(ProfileDecoding, CanGoOnWhileTheProcessExits)
+{
+    const ProfileFolder folder; // has used the library
+    EXPECT_EXIT((isExiting = true, std::exit(2)), testing::ExitedWithCode(1), "");
+}
 
 TEST(ProfileDecoding, JoinsTheTextsOfAllRecords)
 {

@@ -10,6 +10,7 @@ import pathlib
 import plistlib
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -137,14 +138,18 @@ class CompanionTest(unittest.TestCase):
         self.start_program()
 
     def start_program(self):
-        nowhere = "unix:path=/nonexistent"
-        environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
+        mute = f"unix:path={self.folder}/bus"
+        self.mute_bus = socket.socket(socket.AF_UNIX)
+        self.addCleanup(self.mute_bus.close)
+        self.mute_bus.bind(str(self.folder / "bus"))
+        self.mute_bus.listen()
+        self.environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
             "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": nowhere, "DBUS_SYSTEM_BUS_ADDRESS": nowhere}
-        self.program = subprocess.Popen([sys.argv[1]], env=environment, stderr=subprocess.PIPE, text=True)
+            "DBUS_SESSION_BUS_ADDRESS": mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
+        self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
         reader.start()
@@ -165,9 +170,12 @@ class CompanionTest(unittest.TestCase):
                 subprocess.run(["ip", "link", "del", one["ifname"]], stderr=subprocess.DEVNULL, check=False)
 
     def quit(self):
-        """SIGTERM ends the program, long before a request that gets no answer would end by itself."""
-        self.program.terminate()
-        self.assertEqual(self.program.wait(2), 0, "\n".join(self.log))
+        """SIGTERM, however often, ends the program, long before a request or a bus that gives no answer would."""
+        deadline = time.monotonic() + 2
+        while self.program.poll() is None and time.monotonic() < deadline:
+            self.program.terminate()
+            time.sleep(0.001)
+        self.assertEqual(self.program.poll(), 0, "\n".join(self.log))
 
     def until(self, condition, seconds=15):
         deadline = time.monotonic() + seconds
@@ -251,6 +259,12 @@ class CompanionTest(unittest.TestCase):
         ip("link del group 9")
         self.modem.unplug("enx1")
         self.until(lambda: "DeviceRemoved,stopGetModemStatus" in self.log)
+
+    def test_says_that_there_is_no_display(self):
+        program = subprocess.run([sys.argv[1]], env=self.environment | {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ""},
+                                 stderr=subprocess.PIPE, text=True, check=False)
+        self.assertIn("\ntarvo: no display: ", program.stderr)
+        self.assertEqual(program.returncode, 1)
 
     def test_quits_while_the_modem_does_not_answer(self):
         self.modem.tell("fault silent")

@@ -1,5 +1,7 @@
 #include "platform/linux/DesktopNotifications.h"
 
+#include "platform/linux/BusAddress.h"
+#include "platform/linux/BusConnection.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedNotificationService.h"
 #include "tests/support/DesktopEnvironment.h"
@@ -31,6 +33,12 @@ struct NotificationService : testing::Test {
         EXPECT_TRUE(waitFor([&] { return answered; }));
     }
 
+    void startService()
+    {
+        service.start();
+        EXPECT_TRUE(waitFor([&] { return notifications.available(); }));
+    }
+
     void show(const QString &text)
     {
         notifications.show({u"T"_s, text, {}}, [this] { ++failures; });
@@ -43,7 +51,8 @@ struct NotificationService : testing::Test {
 
     SimulatedNotificationService service;
     RecordingLog systemLog;
-    DesktopNotifications notifications{QDBusConnection::sessionBus(), systemLog};
+    BusConnection bus{sessionBusAddress()};
+    DesktopNotifications notifications{bus, systemLog};
     int failures = 0;
 };
 
@@ -52,15 +61,14 @@ struct NotificationService : testing::Test {
 TEST_F(NotificationService, IsFollowedAsItComesAndGoes)
 {
     EXPECT_FALSE(notifications.available());
-    service.start();
-    EXPECT_TRUE(waitFor([&] { return notifications.available(); }));
+    startService();
     service.stop();
     EXPECT_TRUE(waitFor([&] { return !notifications.available(); }));
 }
 
 TEST_F(NotificationService, ShowsOneAtATimeAndClosesIt)
 {
-    service.start();
+    startService();
     show(u"1 < 2 & 3"_s);
     EXPECT_TRUE(shows({u"1 &lt; 2 &amp; 3"_s}));
     awaitReplies();
@@ -79,7 +87,7 @@ TEST_F(NotificationService, ShowsOneAtATimeAndClosesIt)
 
 TEST_F(NotificationService, TellsWhenItIsTurnedDown)
 {
-    service.start();
+    startService();
     service.refuse();
     show(u"text"_s);
     EXPECT_TRUE(waitFor([&] { return failures == 1; }));

@@ -1,5 +1,7 @@
 #include "platform/linux/DesktopStatusBar.h"
 
+#include "platform/linux/BusAddress.h"
+#include "platform/linux/BusConnection.h"
 #include "tests/support/DesktopEnvironment.h"
 
 #include <QBitmap>
@@ -139,7 +141,8 @@ protected:
     int clicks = 0;
     QPushButton button;
     QMenu menu;
-    DesktopStatusBar bar{QDBusConnection::sessionBus()};
+    BusConnection bus{sessionBusAddress()};
+    DesktopStatusBar bar{bus};
     std::unique_ptr<StatusItem> empty = bar.createItem(variableStatusItemLength);
     std::unique_ptr<StatusItem> item = bar.createItem(squareStatusItemLength);
 };
@@ -173,7 +176,8 @@ TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
 {
     const auto tray = startTrayer(24);
-    DesktopStatusBar busless(QDBusConnection(QStringLiteral("no such bus")));
+    BusConnection noBus(QStringLiteral("no such bus"));
+    DesktopStatusBar busless(noBus);
     EXPECT_TRUE(waitFor([&] { return busless.kind() == BarKind::Tray; }));
 }
 

@@ -1,5 +1,6 @@
 #include "platform/linux/LogindWorkspace.h"
 
+#include "platform/linux/BusConnection.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedLogind.h"
 #include "tests/support/PrintQt.h"
@@ -11,6 +12,9 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -28,7 +32,7 @@ protected:
     }
     std::unique_ptr<LogindWorkspace> startWorkspace()
     {
-        auto workspace = std::make_unique<LogindWorkspace>(address_, log_);
+        auto workspace = std::make_unique<LogindWorkspace>(systemBus_, log_);
         workspace->addSleepObserver([this] { events_.append(logind_->isLocked() ? u"sleep"_s : u"late"_s); },
                                     [this] { events_.append(u"wake"_s); });
         workspace->addSleepObserver([this] { events_.append(u"2"_s); }, [] {});
@@ -42,6 +46,7 @@ protected:
     QTemporaryDir folder_;
     const QString address_ = u"unix:path=%1/run/bus"_s.arg(folder_.path());
     RecordingLog log_;
+    BusConnection systemBus_{address_};
     std::unique_ptr<Program> bus_;
     std::unique_ptr<SimulatedLogind> logind_;
     QStringList events_;
@@ -89,7 +94,7 @@ TEST_F(LogindWorkspaceTest, HoldsTheMachineUntilTheHandlersHaveReturned)
 TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
 {
     const auto workspace = startWorkspace();
-    EXPECT_EQ(log_.lines(), QStringList{u"no system bus: sleep and wake are not noticed"_s});
+    ASSERT_TRUE(waitFor([&] { return log_.contains(u"no system bus: sleep and wake are not noticed"_s); }));
     QDir(folder_.path()).mkdir(u"run"_s);
     for (const char *start : {"late", "again"}) {
         startBus();
@@ -107,9 +112,23 @@ TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
     EXPECT_EQ(log_.count(u"no system bus: sleep and wake are not noticed"_s), 1);
 }
 
+TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
+{
+    QDir(folder_.path()).mkdir(u"run"_s);
+    startBus();
+    logind_ = std::make_unique<SimulatedLogind>(address_);
+    logind_->fallSilent();
+    kill(bus_->process(), SIGSTOP);
+    const auto workspace = startWorkspace();
+    ASSERT_TRUE(waitFor([&] { return log_.contains(u"no system bus: sleep and wake are not noticed"_s); }));
+    kill(bus_->process(), SIGCONT);
+    EXPECT_TRUE(waitFor([&] { return logind_->prepareForSleep(true), !events_.isEmpty(); }));
+    EXPECT_EQ(events_, (QStringList{u"late"_s, u"2"_s}));
+}
+
 TEST_F(LogindWorkspaceTest, OpensCompleteAddressesOnly)
 {
-    LogindWorkspace workspace(address_, log_);
+    LogindWorkspace workspace(systemBus_, log_);
     Browser browser;
     EXPECT_TRUE(workspace.openURL(QUrl(u"http://192.168.0.1/index.html"_s)));
     for (const auto &text : {u""_s, u"http://"_s, u"http:///page"_s, u"page.html"_s, u"http://a b/"_s})
@@ -119,13 +138,13 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesOnly)
 
 TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
 {
-    LogindWorkspace workspace(address_, log_);
+    LogindWorkspace workspace(systemBus_, log_);
     const QString script = folder_.filePath(u"gio"_s);
     const QString entry = folder_.filePath(u"a b.desktop"_s);
     for (const auto &path : {script, entry}) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("#!/bin/sh\nprintf '%s|' \"$@\" end > \"$0.out\"\n");
+        file.write("#!/bin/sh\nprintf '%s|' \"$@\" $(ls /proc/$$/fd | grep 77) end > \"$0.out\"\n");
     }
     const auto hasWritten = [&](const QString &arguments) {
         QFile file(script + u".out"_s);
@@ -134,6 +153,7 @@ TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
     for (const auto &path : {script, folder_.path(), folder_.filePath(u"none"_s), folder_.filePath(u"none.desktop"_s)})
         EXPECT_FALSE(workspace.launchApplication(path)) << path.toStdString();
     QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    dup2(STDERR_FILENO, 77); // the program shall not get it
     EXPECT_TRUE(workspace.launchApplication(script));
     EXPECT_TRUE(waitFor([&] { return hasWritten(u"end|"_s); }));
     qputenv("PATH", folder_.path().toUtf8() + ':' + qgetenv("PATH"));

@@ -1,0 +1,67 @@
+#include "platform/LogLine.h"
+
+#include <QRegularExpression>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray cutMark = QByteArrayLiteral("…");
+
+QString withoutPassword(const QString &text)
+{
+    if (!text.startsWith(u"default_apn: "))
+        return text;
+    // A value may also be cut off, or be no text.
+    static const QRegularExpression field(uR"re(("password"\s*:\s*)("(?:[^"\\]|\\.)*+"?|[^\s,}]*+))re"_s,
+                                          QRegularExpression::DotMatchesEverythingOption);
+    return QString(text).replace(field, u"\\1\"…\""_s);
+}
+
+QByteArray escaped(char32_t character)
+{
+    switch (character) {
+    case U'\n':
+        return "\\n";
+    case U'\r':
+        return "\\r";
+    case U'\t':
+        return "\\t";
+    default:
+        return (character < 0x100 ? "\\x" : "\\u")
+            + QByteArray::number(static_cast<uint>(character), 16).rightJustified(character < 0x100 ? 2 : 4, '0');
+    }
+}
+
+bool needsEscape(char32_t character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+QByteArray logLine(const QString &text)
+{
+    // Every character takes a byte or more: what is cut off here would be cut off below.
+    const QString start = withoutPassword(text.left(maxLogLineSize + 1));
+    QByteArray line;
+    for (const char32_t character : start.toUcs4())
+        line += needsEscape(character) ? escaped(character) : QString::fromUcs4(&character, 1).toUtf8();
+    if (line.size() <= maxLogLineSize)
+        return line;
+    qsizetype end = maxLogLineSize - cutMark.size();
+    while ((static_cast<unsigned char>(line.at(end)) & 0xC0U) == 0x80U)
+        --end;
+    return line.first(end) + cutMark;
+}
+
+} // namespace tarvo

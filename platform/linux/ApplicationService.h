@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDBusVirtualObject>
+#include <QString>
+
+#include <functional>
+
+namespace tarvo {
+
+class BusConnection;
+
+/// The running program on the session bus, so that a launcher or a second start finds it: the D-Bus interface
+/// org.freedesktop.Application (freedesktop Desktop Entry Specification, "D-Bus Activation").
+class ApplicationService final : public QDBusVirtualObject {
+    Q_OBJECT
+
+public:
+    /// What the program is asked for. Each is called on the thread of this object, after the request was answered.
+    struct Handlers {
+        std::function<void()> activate; ///< to show itself
+        std::function<void()> restart; ///< to start again, by the action "restart"
+    };
+
+    /// Takes the name @p applicationId whenever there is a bus.
+    /// @param bus  outlives this object
+    ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers);
+
+    QString introspect(const QString &path) const override;
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
+
+private:
+    void busFound();
+
+    BusConnection &m_bus;
+    const QString m_applicationId;
+    const Handlers m_handlers;
+};
+
+/// Asks the program that owns @p applicationId on the session bus to show itself, while events are handled for a few
+/// seconds at most. @return whether it did
+bool activateRunningApplication(const QString &busAddress, const QString &applicationId);
+
+} // namespace tarvo

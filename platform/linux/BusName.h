@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+namespace tarvo {
+
+class BusConnection;
+
+/// Follows which client of a message bus owns a name, without waiting for the bus.
+class BusName final : public QObject {
+    Q_OBJECT
+
+public:
+    using Handler = std::function<void(const QString &owner)>;
+
+    /// @param bus      outlives this object
+    /// @param changed  called with the owner's unique name once the bus is found, and when it changes; with an empty text
+    ///                 for nobody, also when the bus is lost
+    BusName(BusConnection &bus, QString name, Handler changed);
+
+private Q_SLOTS:
+    void ownerChanged(const QDBusMessage &signal);
+
+private:
+    void busFound();
+    void busLost();
+    void tell(const QString &owner);
+
+    BusConnection &m_bus;
+    const QString m_name;
+    const Handler m_changed;
+    std::optional<QString> m_told; ///< the owner that was told last; nil before the bus has said who it is
+};
+
+} // namespace tarvo

@@ -1,0 +1,24 @@
+#include "platform/LogLine.h"
+
+#include <QList>
+
+#include <gtest/gtest.h>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+TEST(LogLine, IsOneLineWithoutThePassword)
+{
+    const QList<std::pair<QString, QByteArray>> lines{
+        {u"50 % \u00e9 \\n"_s, "50 % \u00e9 \\n"},
+        {u"a\nb\r\t\u001b[1m\u0085\u2028\U0001f600"_s, "a\\nb\\r\\t\\x1b[1m\\x85\\u2028\U0001f600"},
+        {uR"(default_apn: {"password":"a\"b","u":"x"})"_s, R"(default_apn: {"password":"…","u":"x"})"},
+        {uR"(default_apn: {"password" : 1234,"u":"x"})"_s, R"(default_apn: {"password" : "…","u":"x"})"},
+        {uR"(default_apn: {"password":"cut o)"_s, R"(default_apn: {"password":"…")"},
+        {uR"(another: {"password":"a"})"_s, R"(another: {"password":"a"})"}};
+    for (const auto &[text, line] : lines)
+        EXPECT_EQ(logLine(text).toStdString(), line.toStdString());
+    EXPECT_EQ(logLine(u"x"_s.repeated(1024)), QByteArray(1024, 'x'));
+    EXPECT_EQ(logLine(u"x"_s.repeated(5000)), QByteArray(1021, 'x') + "…");
+    EXPECT_EQ(logLine(u"\u20ac"_s.repeated(342)), u"\u20ac"_s.repeated(340).toUtf8() + "…");
+}

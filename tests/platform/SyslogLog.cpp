@@ -1,0 +1,66 @@
+#include "platform/linux/SyslogLog.h"
+
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <array>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using testing::MatchesRegex;
+
+/// @return all that waits to be read
+std::string drain(int descriptor)
+{
+    std::string all;
+    std::array<char, 2000> bytes;
+    for (ssize_t size = 0; (size = read(descriptor, bytes.data(), bytes.size())) > 0;)
+        all.append(bytes.data(), size);
+    return all;
+}
+
+int listenAt(const QByteArray &path)
+{
+    sockaddr_un address{.sun_family = AF_UNIX, .sun_path = {}};
+    path.toStdString().copy(address.sun_path, sizeof address.sun_path);
+    unlink(path.constData());
+    const int end = socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK, 0);
+    EXPECT_EQ(bind(end, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    return end;
+}
+
+} // namespace
+
+TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(u"log"_s).toUtf8();
+    int syslog = listenAt(path);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    const int before = dup(STDERR_FILENO);
+    dup2(ends[1], STDERR_FILENO);
+    SyslogLog log(path);
+    for (int line = 0; line < 5000; ++line)
+        log.write(QString::number(line).repeated(10));
+    drain(ends[0]);
+    close(syslog);
+    syslog = listenAt(path); // it was started anew
+    log.write(u"taken"_s);
+    EXPECT_THAT(drain(ends[0]), MatchesRegex("[0-9]+ lines were lost\ntaken\n"));
+    EXPECT_THAT(drain(syslog), MatchesRegex("<14>.* lines were lost<14>... .. ..:..:.. tarvo.[0-9]+.: taken"));
+    EXPECT_EQ(fcntl(ends[1], F_GETFL) & O_NONBLOCK, 0) << "others write there, too";
+    close(ends[0]);
+    log.write(u"nobody reads"_s);
+    dup2(before, STDERR_FILENO);
+}
