@@ -94,11 +94,10 @@ void RouterObserver::updateSupportedNetworkInterface(DynamicStoreSession &sessio
     const bool newSupportedInterface = addSupportedInterfaces(interfaces);
     const bool deviceGone = reportVanishedInterfaces(interfaces);
     preInterfaces_ = interfaces;
-    if (newSupportedInterface) {
-        if (observer_ && observer_->supportedInterfaceAppeared)
-            observer_->supportedInterfaceAppeared();
+    if ((newSupportedInterface || deviceGone) && observer_ && observer_->supportedInterfacesChanged)
+        observer_->supportedInterfacesChanged();
+    if (newSupportedInterface)
         startWatchSupportedInterfaceIPv4(observer_);
-    }
     // A removal ends the work with whichever device was in use, so that one that remains is to be reported once more.
     if (deviceGone && watchedIPv4)
         updateSupportedInterfaceIPv4(*ipv4MonitorRls_, {store::anyServiceIPv4Pattern});

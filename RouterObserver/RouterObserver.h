@@ -36,7 +36,8 @@ struct RouterReports {
     std::function<void(const ReadyDictionary &)> procECMReady;
     /// A supported interface has gone.
     std::function<void(const QString &bsdName)> procInterfaceRemoved;
-    std::function<void()> supportedInterfaceAppeared{}; ///< it may have no address yet
+    /// A supported interface has come, with or without an address, or gone.
+    std::function<void()> supportedInterfacesChanged{};
 };
 
 /// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.

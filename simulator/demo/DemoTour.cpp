@@ -4,6 +4,7 @@
 #include "simulator/demo/DemoWorld.h"
 #include "simulator/demo/Pictures.h"
 #include "ui/CustomView.h"
+#include "ui/StatusWindow.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -11,6 +12,7 @@
 #include <QEventLoop>
 #include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
@@ -46,13 +48,14 @@ QString balloonText()
     return {};
 }
 
-/// The panel that is on the screen; null when there is none.
-QDialog *visiblePanel()
+/// The window of that kind that is on the screen; null when there is none.
+template <typename Kind>
+Kind *visibleWindow()
 {
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (auto *dialog = qobject_cast<QDialog *>(window); dialog && dialog->isVisible())
-            return dialog;
+        if (auto *found = qobject_cast<Kind *>(window); found && found->isVisible())
+            return found;
     }
     return nullptr;
 }
@@ -117,8 +120,28 @@ void DemoTour::plugIn()
     check(u"the modem was told that they are complete"_s, condition.apnReady);
     check(u"the modem refused nothing"_s, m_world.modem().refusals().isEmpty());
     check(u"no page was opened"_s, m_world.workspace().openedURLs().isEmpty());
+    check(u"the tool tip says: \"%1\""_s.arg(toolTip()),
+          eventually([this] { return toolTip().startsWith(qtTrId("StatusConnected")); }));
     takePicture(u"online"_s);
+    seeStatusWindow();
     end();
+}
+
+void DemoTour::seeStatusWindow()
+{
+    QMenu *menu = m_world.statusBar().menu();
+    check(u"the icon has a menu"_s, menu != nullptr);
+    if (!menu)
+        return;
+    menu->popup(QGuiApplication::primaryScreen()->geometry().center());
+    takePicture(u"menu"_s);
+    menu->close();
+    menu->actions().first()->trigger();
+    const auto window = [] { return visibleWindow<StatusWindow>(); };
+    check(u"its first entry opens the status window"_s, eventually([&] { return window() != nullptr; }, 2s));
+    takePicture(u"status"_s);
+    if (StatusWindow *shown = window())
+        shown->hide();
 }
 
 void DemoTour::reachLimits()
@@ -147,7 +170,7 @@ void DemoTour::seeLimit(const QString &what, const QString &image, const QString
     m_lastBalloon = balloonText();
     check(u"a balloon tells of the %1: \"%2\""_s.arg(what, m_lastBalloon), shown);
     check(u"the icon shows \"%1\""_s.arg(image), this->image() == image);
-    check(u"the tool tip says the same"_s, toolTip() == m_lastBalloon);
+    check(u"the tool tip holds it"_s, toolTip().contains(m_lastBalloon));
     takePicture(picture);
 }
 
@@ -165,6 +188,8 @@ void DemoTour::failAndRecover()
     const auto isError = [](const QString &line) { return line.startsWith(u"error: "); };
     check(u"the failure is logged"_s,
           eventually([&] { return std::ranges::any_of(m_world.systemLog().lines(), isError); }));
+    check(u"the tool tip says that the modem does not answer"_s,
+          eventually([this] { return toolTip().startsWith(qtTrId("StatusNotAnswering")); }));
     m_world.server().setFault({});
     const qsizetype before = pagesFetched();
     check(u"polling goes on"_s, eventually([&] { return pagesFetched() >= before + 2; }));
@@ -206,12 +231,12 @@ void DemoTour::seeFirmware()
     seeLimit(u"firmware"_s, u"newVersion"_s, u"firmware"_s);
     clickIcon(u"with new firmware"_s, u"/firmware"_s);
     const qsizetype before = m_world.workspace().openedURLs().size();
-    QDialog *panel = visiblePanel();
+    QDialog *panel = visibleWindow<QDialog>();
     check(u"the update panel is open"_s, panel != nullptr);
     if (auto *button = panel ? panel->findChild<QPushButton *>(u"btnOK_"_s) : nullptr)
         button->click();
     check(u"its button closes it and opens the firmware's page"_s,
-          eventually([&] { return !visiblePanel() && m_world.workspace().openedURLs().size() == before + 1; }, 2s));
+          eventually([&] { return !visibleWindow<QDialog>() && m_world.workspace().openedURLs().size() == before + 1; }, 2s));
     check(u"a modem's pages are opened by themselves only once"_s,
           std::ranges::count(m_world.workspace().openedURLs(), QUrl(u"http://%1/"_s.arg(m_world.server().authority())))
               == 1);
@@ -223,7 +248,8 @@ void DemoTour::unplug()
     begin(u"The modem is unplugged"_s);
     m_world.unplug();
     const StatusSnapshot snapshot = m_world.controller().snapshot();
-    check(u"the icon shows \"ready\" without a tip"_s, image() == u"ready" && toolTip().isEmpty());
+    check(u"the icon shows \"ready\", and its tip says that there is no modem"_s,
+          image() == u"ready" && toolTip() == qtTrId("StatusNoModem"));
     check(u"nothing is known any more"_s,
           m_world.controller().news().stopProcModemStatus() && !snapshot.isHaveNewVersion_
               && snapshot.m_useData == 0.F);

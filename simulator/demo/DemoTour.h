@@ -30,6 +30,7 @@ public:
 private:
     void start();
     void plugIn();
+    void seeStatusWindow();
     void reachLimits();
     void seeLimit(const QString &what, const QString &image, const QString &picture);
     void clickIcon(const QString &why, const QString &path);
