@@ -35,6 +35,12 @@ bool isListed(const QString &key, qint64 identifier)
     return std::ranges::any_of(identifiers, [&](const QVariant &listed) { return isText(listed, decimal); });
 }
 
+/// @return the identifier as `lsusb` prints it
+QString hexadecimal(qint64 identifier)
+{
+    return u"%1"_s.arg(identifier, 4, 16, QLatin1Char('0'));
+}
+
 std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 {
     const auto name = ipv4State.constFind(store::kSCPropInterfaceName);
@@ -95,8 +101,27 @@ bool RouterObserver::addSupportedInterfaces(const QStringList &interfaces)
     for (const QString &bsdName : interfaces) {
         if (isSupportedEnthernetBSDName(bsdName))
             supportedBSDNames_.insert(bsdName);
+        else
+            explainRefusal(bsdName);
     }
     return supportedBSDNames_.size() > before;
+}
+
+void RouterObserver::explainRefusal(const QString &bsdName)
+{
+    const IOServiceHandle service = getIOServiceOfBSDName(bsdName);
+    const auto vendor = deviceRegistry_.searchProperty(service, u"idVendor"_s, RegistrySearch::Upward);
+    if (!vendor || explainedServices_.contains(service))
+        return;
+    explainedServices_.insert(service);
+    const qint64 vendorID = vendor->toLongLong();
+    const auto product = deviceRegistry_.searchProperty(service, u"idProduct"_s, RegistrySearch::Upward);
+    const qint64 productID = product.value_or(0).toLongLong();
+    const QString reason = isSupportedVendorID(vendorID)
+        ? u"its product %1 is in eliminate_product_ids"_s.arg(productID)
+        : u"its vendor %1 is not in vendor_ids"_s.arg(vendorID);
+    systemLog_.write(u"%1: USB device %2:%3 is left alone: %4"_s.arg(bsdName, hexadecimal(vendorID),
+                                                                     hexadecimal(productID), reason));
 }
 
 void RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)

@@ -34,6 +34,7 @@ struct RouterReports {
 };
 
 /// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.
+/// Of a USB device that is no supported one, the log says why.
 ///
 /// Everything runs on the main thread, and reports are made synchronously from the store's callbacks.
 class RouterObserver {
@@ -76,6 +77,8 @@ private:
     /// Reports and forgets the supported interfaces that were there at the last update and are not in @p interfaces.
     void reportVanishedInterfaces(const QStringList &interfaces);
     bool hasEthernetRouter(IOServiceHandle service);
+    /// Logs, once for each USB device, why the one behind @p bsdName is not supported.
+    void explainRefusal(const QString &bsdName);
 
     DynamicStore &dynamicStore_;
     DeviceRegistry &deviceRegistry_;
@@ -85,6 +88,7 @@ private:
     std::shared_ptr<const RouterReports> observer_;
     QStringList preInterfaces_;
     QSet<QString> supportedBSDNames_;
+    QSet<IOServiceHandle> explainedServices_;
     std::unique_ptr<DynamicStoreSession> interfaceMonitorRls_;
     std::unique_ptr<DynamicStoreSession> ipv4MonitorRls_;
     bool watchIPv4On_ = false;

@@ -29,7 +29,10 @@ namespace {
 int run(QApplication &application)
 {
     SyslogLog systemLog;
-    if (const auto &problem = ConfigManager::sharedConfigManager().loadProblem())
+    const ConfigManager &settings = ConfigManager::sharedConfigManager();
+    systemLog.write(QStringLiteral("settings: ")
+                    + settings.settingPath().value_or(QStringLiteral("no tarvo/Config.plist was found")));
+    if (const auto &problem = settings.loadProblem())
         systemLog.write(*problem);
 
     NetlinkDynamicStore dynamicStore(systemLog);
