@@ -50,6 +50,8 @@ public:
     /// Writes the dictionary back to the file it came from, whole or not at all.
     void flush() const;
 
+    /// @return the file that the settings were read from, with its path; nil when none was found
+    const std::optional<QString> &settingPath() const { return settingPath_; }
     /// @return why the file that was found could not be loaded, with its path; nil when nothing went wrong
     const std::optional<QString> &loadProblem() const { return loadProblem_; }
 

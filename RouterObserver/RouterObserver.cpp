@@ -1,6 +1,7 @@
 #include "RouterObserver/RouterObserver.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/UsbIdentity.h"
 #include "platform/Assertion.h"
 #include "platform/SystemLog.h"
 
@@ -40,6 +41,7 @@ bool isListed(const QString &key, qint64 identifier)
     return std::ranges::any_of(identifiers, [&](const QVariant &listed) { return isText(listed, decimal); });
 }
 
+/// @return the identifier as `lsusb` prints it
 std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 {
     const auto name = ipv4State.constFind(store::kSCPropInterfaceName);
@@ -109,8 +111,23 @@ bool RouterObserver::addSupportedInterfaces(const QStringList &interfaces)
     for (const QString &bsdName : interfaces) {
         if (isSupportedEnthernetBSDName(bsdName))
             supportedBSDNames_.insert(bsdName, getIOServiceOfBSDName(bsdName));
+        else
+            explainRefusal(bsdName);
     }
     return supportedBSDNames_.size() > before;
+}
+
+void RouterObserver::explainRefusal(const QString &bsdName)
+{
+    const IOServiceHandle service = getIOServiceOfBSDName(bsdName);
+    const auto identity = service == 0 ? std::nullopt : usbIdentity(deviceRegistry_, service);
+    if (!identity || explainedServices_.contains(service))
+        return;
+    explainedServices_.insert(service);
+    const QString reason = isSupportedVendorID(identity->vendor)
+        ? u"its product %1 is in eliminate_product_ids"_s.arg(identity->product)
+        : u"its vendor %1 is not in vendor_ids"_s.arg(identity->vendor);
+    systemLog_.write(u"%1: USB device %2 is left alone: %3"_s.arg(bsdName, identity->text(), reason));
 }
 
 bool RouterObserver::reportVanishedInterfaces(const QStringList &interfaces)

@@ -41,6 +41,7 @@ struct RouterReports {
 };
 
 /// Watches the network for a supported modem, and reports when its interface has IPv4 state and when it is gone.
+/// Of a USB device that is no supported one, the log says why.
 ///
 /// Everything runs on the main thread, and reports are made synchronously from the store's callbacks. A modem that has an
 /// address but stays without a router is logged, once for each device.
@@ -103,6 +104,8 @@ private:
     bool reportVanishedInterfaces(const QStringList &interfaces);
     bool hasEthernetRouter(IOServiceHandle service);
     void noteMissingGateways();
+    /// Logs, once for each USB device, why the one behind @p bsdName is not supported.
+    void explainRefusal(const QString &bsdName);
 
     DynamicStore &dynamicStore_;
     DeviceRegistry &deviceRegistry_;
@@ -112,6 +115,7 @@ private:
     std::shared_ptr<const RouterReports> observer_;
     QStringList preInterfaces_;
     QHash<QString, IOServiceHandle> supportedBSDNames_; ///< with the devices behind them
+    QSet<IOServiceHandle> explainedServices_;
     std::unique_ptr<DynamicStoreSession> interfaceMonitorRls_;
     std::unique_ptr<DynamicStoreSession> ipv4MonitorRls_;
     bool watchIPv4On_ = false;

@@ -99,7 +99,10 @@ int showRunningInstance()
 
 int run(QApplication &application, SystemLog &systemLog)
 {
-    if (const auto &problem = ConfigManager::sharedConfigManager().loadProblem())
+    const ConfigManager &settings = ConfigManager::sharedConfigManager();
+    systemLog.write(QStringLiteral("settings: ")
+                    + settings.settingPath().value_or(QStringLiteral("no tarvo/Config.plist was found")));
+    if (const auto &problem = settings.loadProblem())
         systemLog.write(*problem);
 
     LeaseFiles leases;

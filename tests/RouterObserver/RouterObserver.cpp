@@ -86,7 +86,13 @@ TEST_F(RouterObserverTest, SupportsEveryProductOfAListedVendorThatIsNotExcluded)
     for (const auto &[name, vendorID, productID, supported] : cases) {
         registry_.addModem(name, vendorID, productID);
         EXPECT_EQ(observer_.isSupportedEnthernetBSDName(name), supported) << name.toStdString();
+        network_.addInterface(name);
     }
+    observer_.startWatchNetworkInterface(reports_);
+    network_.addInterface(u"lo"_s);
+    const auto excluded = u"en2: USB device 1234:5679 is left alone: its product 22137 is in eliminate_product_ids"_s;
+    EXPECT_EQ(log_.count(excluded), 1);
+    EXPECT_EQ(log_.count(u"en3: USB device 1235:5678 is left alone: its vendor 4661 is not in vendor_ids"_s), 1);
     EXPECT_TRUE(observer_.isSupportedVendorID(vendor + (1LL << 32))) << "the low 32 bits count";
     EXPECT_FALSE(observer_.isSupportedProductID(product)) << "no list";
     const auto bare = registry_.addDevice({.parent = 0, .className = {}, .properties = {{u"idVendor"_s, vendor}}});
