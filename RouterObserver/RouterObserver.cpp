@@ -50,7 +50,8 @@ std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 
 ReadyDictionary readyDictionary(const QVariantMap &ipv4State, IOServiceHandle service)
 {
-    ReadyDictionary ready{.router{}, .kOmbraIOService = service, .kOmbraBSDName = interfaceNameOf(ipv4State), .addresses{}};
+    ReadyDictionary ready{
+        .router{}, .kOmbraIOService = service, .kOmbraBSDName = interfaceNameOf(ipv4State), .addresses{}};
     ready.addresses = ipv4State.value(store::kSCPropNetIPv4Addresses).toStringList();
     if (ipv4State.contains(store::kSCPropNetIPv4Router))
         ready.router = ipv4State[store::kSCPropNetIPv4Router].toString();

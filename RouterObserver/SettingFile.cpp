@@ -1,6 +1,5 @@
 #include "RouterObserver/SettingFile.h"
 
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>

@@ -14,9 +14,8 @@ UnknownModems::UnknownModems(DynamicStore &dynamicStore, DeviceRegistry &deviceR
     : m_deviceRegistry(deviceRegistry)
     , m_observer(observer)
     , m_changed(std::move(changed))
-    , m_session(dynamicStore.createSession(u"UnknownModems"_s, [this](auto &session, const QStringList &keys) {
-        update(session, keys);
-    }))
+    , m_session(dynamicStore.createSession(u"UnknownModems"_s,
+                                           [this](auto &session, const QStringList &keys) { update(session, keys); }))
 {
     if (!m_session)
         return;

@@ -7,6 +7,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What the records have to say about the name.
@@ -24,7 +26,7 @@ RecordSearch searchRecords(const std::optional<QString> &name, const QStringList
             continue;
         const ParsedJson parsed = parseJson(record);
         if (!parsed.document) {
-            search.problems.append(QStringLiteral("apn dictionary: (null), json Error: ") + parsed.error);
+            search.problems.append(u"apn dictionary: (null), json Error: "_s + parsed.error);
             continue;
         }
         const QJsonObject fields = parsed.document->object();
@@ -44,10 +46,9 @@ RecordSearch searchRecords(const std::optional<QString> &name, const QStringList
 
 QString notFoundApnTemplate()
 {
-    return QStringLiteral(
-        R"({ "index": 199,"isPC":1,"isWeb":0,"pdp_type": 1,"profile": "PC_PROFILE_NAME","apn": "","auth": 1,)"
-        R"("username": "","password": "","dns_mode": 0,"prefer_dns": "","standby_dns": "",)"
-        R"("ipv6_prefer_dns": "","ipv6_standby_dns": ""})");
+    return uR"({ "index": 199,"isPC":1,"isWeb":0,"pdp_type": 1,"profile": "PC_PROFILE_NAME","apn": "","auth": 1,)"
+           R"("username": "","password": "","dns_mode": 0,"prefer_dns": "","standby_dns": "",)"
+           R"("ipv6_prefer_dns": "","ipv6_standby_dns": ""})"_s;
 }
 
 DefaultApn chooseDefaultApn(const std::optional<QString> &name, const QStringList &webDefaults,

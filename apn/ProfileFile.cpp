@@ -13,6 +13,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto recordSize = static_cast<qsizetype>(profileRecordSize);
@@ -20,7 +22,7 @@ constexpr auto blockSize = static_cast<qsizetype>(profileBlockSize);
 
 ProfileBytes unreadable(const std::error_code &error)
 {
-    return {std::nullopt, QStringLiteral("it cannot be read: ") + QString::fromStdString(error.message())};
+    return {std::nullopt, u"it cannot be read: "_s + QString::fromStdString(error.message())};
 }
 
 /// @return the text up to the first zero byte; nil when it is no UTF-8
@@ -67,7 +69,7 @@ ProfileBytes readProfileBytes(const QString &path)
     if (!std::filesystem::exists(status))
         return unreadable(error);
     if (!std::filesystem::is_regular_file(status))
-        return {std::nullopt, QStringLiteral("it is no regular file")};
+        return {std::nullopt, u"it is no regular file"_s};
 
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
@@ -76,16 +78,16 @@ ProfileBytes readProfileBytes(const QString &path)
     file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
     QByteArray bytes = file.read(maximumProfileSize + 1);
     if (file.error() != QFile::NoError)
-        return {std::nullopt, QStringLiteral("it cannot be read: ") + file.errorString()};
+        return {std::nullopt, u"it cannot be read: "_s + file.errorString()};
     if (bytes.size() > maximumProfileSize)
-        return {std::nullopt, QStringLiteral("it is larger than %1 bytes").arg(maximumProfileSize)};
+        return {std::nullopt, u"it is larger than %1 bytes"_s.arg(maximumProfileSize)};
     return {std::move(bytes), {}};
 }
 
 ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key)
 {
     if (file.size() % recordSize != 0)
-        return {std::nullopt, QStringLiteral("its length is no multiple of %1 bytes").arg(recordSize)};
+        return {std::nullopt, u"its length is no multiple of %1 bytes"_s.arg(recordSize)};
     BlockDecoder decoder = key.decoder();
     CipherInputs inputs(file);
     QString text;
@@ -93,10 +95,10 @@ ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key)
         const auto input = inputs.at(record);
         const auto plain = input ? decoder.decrypt(*input) : std::nullopt;
         if (!plain)
-            return {std::nullopt, QStringLiteral("record %1 does not decode").arg(record / recordSize + 1)};
+            return {std::nullopt, u"record %1 does not decode"_s.arg(record / recordSize + 1)};
         const auto piece = textOf(*plain);
         if (!piece)
-            return {std::nullopt, QStringLiteral("record %1 holds no UTF-8").arg(record / recordSize + 1)};
+            return {std::nullopt, u"record %1 holds no UTF-8"_s.arg(record / recordSize + 1)};
         text += *piece;
     }
     return {std::move(text), {}};
@@ -113,7 +115,7 @@ ProfileText readProfile(const QString &path, const ProfileKey &key)
 ProfileText readProfile(const QString &path)
 {
     const auto &key = builtInProfileKey();
-    return key ? readProfile(path, *key) : ProfileText{std::nullopt, QStringLiteral("no key to decode it is built in")};
+    return key ? readProfile(path, *key) : ProfileText{std::nullopt, u"no key to decode it is built in"_s};
 }
 
 } // namespace tarvo

@@ -7,6 +7,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -24,7 +26,7 @@ public:
     void list(const QString &folder, int depth)
     {
         if (depth > maximumDepth)
-            return skip(folder, QStringLiteral("it lies too deep"));
+            return skip(folder, u"it lies too deep"_s);
         std::error_code error;
         const auto path = fs::path(QFile::encodeName(folder).toStdString());
         for (fs::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error)) {
@@ -45,11 +47,11 @@ private:
         const QString path = folder + QFile::decodeName(entry.path().filename().c_str());
         const bool isProfile = path.endsWith(u".xml");
         if (isProfile && entry.is_directory(error))
-            skip(path, QStringLiteral("it is a folder"));
+            skip(path, u"it is a folder"_s);
         else if (isProfile)
             m_listing.profiles.append(path);
         else if (entry.is_directory(error) && entry.is_symlink(error))
-            skip(path, QStringLiteral("it is a link to a folder"));
+            skip(path, u"it is a link to a folder"_s);
         if (entry.is_directory(error) && !entry.is_symlink(error))
             list(path + u'/', depth + 1);
     }
@@ -64,7 +66,7 @@ private:
 
 QString skippedLine(const QString &path, const QString &problem)
 {
-    return QStringLiteral("%1 is skipped: %2").arg(path, problem);
+    return u"%1 is skipped: %2"_s.arg(path, problem);
 }
 
 ProfileListing listProfiles(const QString &root, const std::stop_token &stop)

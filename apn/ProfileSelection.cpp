@@ -14,6 +14,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 const char *APN_ROOT = defaultProfileFolder;
 const char *APN_TOTAL_PROFILE = defaultTotalProfile;
 
@@ -43,7 +45,7 @@ std::optional<QString> getParsedApnContentFromTotalProfile(SystemLog &systemLog)
 {
     const QString path = QString::fromUtf8(APN_TOTAL_PROFILE);
     if (!QFile::exists(path)) {
-        systemLog.write(QStringLiteral("can not find profile.xml"));
+        systemLog.write(u"can not find profile.xml"_s);
         return std::nullopt;
     }
     return readOrSkip(path, systemLog);
@@ -56,7 +58,7 @@ QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, Sy
     const QSet<QString> allowed(names.begin(), names.end());
     const QStringList paths = candidates(systemLog, stop);
     if (paths.isEmpty())
-        systemLog.write(QStringLiteral("can not find *.xml files!"));
+        systemLog.write(u"can not find *.xml files!"_s);
 
     QStringList result;
     for (const QString &path : paths) {
@@ -64,7 +66,7 @@ QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, Sy
             break;
         const auto base = getFileNameFromAbsolutePath(path);
         if (!base)
-            systemLog.write(skippedLine(path, QStringLiteral("its name cannot be cut before the extension")));
+            systemLog.write(skippedLine(path, u"its name cannot be cut before the extension"_s));
         else if (allowed.contains(*base)) {
             if (auto text = readOrSkip(path, systemLog))
                 result.append(*std::move(text));

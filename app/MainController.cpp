@@ -1,16 +1,13 @@
 #include "app/MainController.h"
 
 #include "RouterObserver/ConfigManager.h"
-#include "RouterObserver/UsbIdentity.h"
+#include "RouterObserver/SettingsProblem.h"
 #include "modemapi/ModemClient.h"
 #include "platform/Notifications.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
-#include "ui/AboutDialog.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
-#include <QMessageBox>
 
 #include <array>
 #include <functional>
@@ -22,19 +19,21 @@ using namespace Qt::StringLiterals;
 
 MainController::MainController(Services services)
     : m_services(std::move(services))
+    , m_device(m_services)
     , m_monitor({.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
                  .changed =
                      [this](const Work &work, const StatusSnapshot &snapshot) {
-                         work.post(m_mainThread, [this, snapshot] { m_display.setSnapshot(snapshot, sincePlugIn()); });
+                         work.post(m_mainThread,
+                                   [this, snapshot] { m_display.setSnapshot(snapshot, m_device.sinceReport()); });
                      }})
-    , m_pages(m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
-              [this](const QString &page) { couldNotOpen(page); })
+    , m_pages(
+          m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
+          [this](const QString &page) { couldNotOpen(page); })
     , m_menu(menuActions())
     , m_icon(m_services.statusBar, m_services.systemLog, m_menu.menu(),
              {.click = [this] { iconClicked(); },
-              .pointerEntered =
-                  [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
-    , m_display({m_icon, m_menu, m_pages, [this] { return deviceDetails(); }})
+              .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
+    , m_display({m_icon, m_menu, m_pages, [this] { return m_device.details(m_provisioner.accessPointsSent()); }})
     , m_balloon({.notifications = m_services.notifications,
                  .isScreenComposited = m_services.isScreenComposited,
                  .iconFrame = [this] { return m_icon.frame(); },
@@ -67,7 +66,7 @@ IconMenu::Actions MainController::menuActions()
             .openMessages = hasMessages ? [this] { m_pages.openWebUISmsPage(); } : std::function<void()>(),
             .openPage = [this](Page page) { m_pages.open(page); },
             .openSettings = m_services.openSettings,
-            .about = [this] { showAbout(); },
+            .about = [this] { m_aboutDialog.present(); },
             .quit = [this] { windowShouldClose(); }};
 }
 
@@ -84,24 +83,14 @@ void MainController::showStatus()
     m_display.showWindow();
 }
 
-void MainController::showAbout()
-{
-    if (!m_aboutDialog)
-        m_aboutDialog = makeAboutDialog();
-    m_aboutDialog->show();
-    m_aboutDialog->raise();
-    m_aboutDialog->activateWindow();
-}
-
 void MainController::couldNotOpen(const QString &page)
 {
     log(u"cannot open "_s + page);
     if (m_services.notifications && m_services.notifications->available())
-        m_services.notifications->show(
-            {.title = qtTrId("CannotOpenTitle"),
-             .text = qtTrId("CannotOpenText").arg(page),
-             .iconName = u"io.github.tarvo.Tarvo"_s},
-            {});
+        m_services.notifications->show({.title = qtTrId("CannotOpenTitle"),
+                                        .text = qtTrId("CannotOpenText").arg(page),
+                                        .iconName = u"io.github.tarvo.Tarvo"_s},
+                                       {});
 }
 
 void MainController::awakeFromNib()
@@ -120,6 +109,10 @@ void MainController::applicationDidFinishLaunching()
                       [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }, [this] { detect(); }}));
     m_unknownModems = std::make_unique<UnknownModems>(m_services.dynamicStore, m_services.deviceRegistry,
                                                       *routerObserver_, [this] { detect(); });
+    const SettingsProblem problem = settingsProblem(ConfigManager::sharedConfigManager());
+    if (problem != SettingsProblem::None)
+        log(logLine(problem));
+    m_display.setSettingsProblem(problem);
     detect();
 }
 
@@ -176,7 +169,8 @@ void MainController::procECMReady(const ReadyDictionary &ready)
         waitingIPv4Ready();
         return;
     }
-    keepDevice(ready);
+    m_device.keep(ready);
+    m_hasNoGateway = false;
     if (m_asleep)
         return; // wake starts with it
     m_attachment.reset(); // what still runs for an earlier device must not see this one's flags
@@ -185,24 +179,6 @@ void MainController::procECMReady(const ReadyDictionary &ready)
     log(u"ECMReady"_s);
     log(*ready.router);
     log(ready.kOmbraBSDName.value_or(u"(null)"_s));
-}
-
-/// Remembers where the modem is, and what it is.
-void MainController::keepDevice(const ReadyDictionary &ready)
-{
-    const auto &binderFor = m_services.socketBinderFor;
-    m_location = {*ready.router, ready.kOmbraBSDName,
-                  binderFor && ready.kOmbraBSDName ? binderFor(*ready.kOmbraBSDName) : SocketBinder()};
-    const auto identity = usbIdentity(m_services.deviceRegistry, ready.kOmbraIOService);
-    m_device = {.usbIdentity = identity ? identity->text() : QString(),
-                .interfaceName = ready.kOmbraBSDName.value_or(QString()),
-                .address = ready.addresses.value(0).section(u'/', 0, 0),
-                .gateway = *ready.router};
-    if (m_services.deviceName && ready.kOmbraBSDName)
-        m_device.name = m_services.deviceName(*ready.kOmbraBSDName);
-    m_pluggedIn = m_services.clock.now();
-    m_lastAnswer = 0;
-    m_hasNoGateway = false;
 }
 
 void MainController::resetForReadyDevice()
@@ -235,9 +211,9 @@ void MainController::startGetModemStatus()
 {
     m_attachment.reset();
     m_icon.showPolling();
-    if (!m_location)
+    if (!m_device.location())
         return;
-    m_attachment = std::make_unique<Attachment>(*m_location, m_threads);
+    m_attachment = std::make_unique<Attachment>(*m_device.location(), m_threads);
     m_poller.start(m_attachment->work());
     detect();
 }
@@ -294,7 +270,7 @@ void MainController::pass(ModemClient &client, const QString &page)
 void MainController::modemAnswered(const Work &work, bool answered)
 {
     if (answered)
-        m_lastAnswer = QDateTime::currentMSecsSinceEpoch();
+        m_device.noteAnswer();
     m_monitor.noteAnswer(work, answered);
 }
 
@@ -304,20 +280,6 @@ void MainController::snapshotEvaluated(const Work &work)
     if (!snapshot.haveNewVersionFlag_ && !snapshot.haveDataLimitFlag_)
         m_news.showNormalState(work);
     m_news.startDisPlayUIStatusThread(work);
-}
-
-std::chrono::seconds MainController::sincePlugIn() const
-{
-    return std::chrono::duration_cast<std::chrono::seconds>(m_services.clock.now() - m_pluggedIn);
-}
-
-DeviceDetails MainController::deviceDetails() const
-{
-    DeviceDetails device = m_device;
-    device.accessPointsSent = m_provisioner.accessPointsSent();
-    if (m_lastAnswer != 0)
-        device.lastAnswer = QDateTime::fromMSecsSinceEpoch(m_lastAnswer);
-    return device;
 }
 
 std::optional<QString> MainController::router() const

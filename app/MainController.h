@@ -3,6 +3,7 @@
 #include "RouterObserver/RouterObserver.h"
 #include "RouterObserver/UnknownModems.h"
 #include "apn/ApnProvisioner.h"
+#include "app/KnownDevice.h"
 #include "app/Services.h"
 #include "attachment/Attachment.h"
 #include "attachment/ThreadGroup.h"
@@ -10,6 +11,7 @@
 #include "monitor/Poller.h"
 #include "monitor/StatusMonitor.h"
 #include "platform/StepQueue.h"
+#include "ui/AboutDialog.h"
 #include "ui/BalloonPresenter.h"
 #include "ui/IconMenu.h"
 #include "ui/NewsSequence.h"
@@ -20,12 +22,8 @@
 
 #include <QString>
 
-#include <atomic>
-#include <chrono>
 #include <memory>
 #include <optional>
-
-class QMessageBox;
 
 namespace tarvo {
 
@@ -84,18 +82,14 @@ private:
     void log(const QString &line) const;
     IconMenu::Actions menuActions();
     void iconClicked();
-    void showAbout();
     void couldNotOpen(const QString &page);
     std::optional<QString> router() const;
-    DeviceDetails deviceDetails() const;
-    std::chrono::seconds sincePlugIn() const;
     /// Tells the display what is detected.
     void detect();
     /// The steps that follow each status page that came (polling worker).
     void pass(ModemClient &client, const QString &page);
     void modemAnswered(const Work &work, bool answered);
     void snapshotEvaluated(const Work &work);
-    void keepDevice(const ReadyDictionary &ready);
     void resetForReadyDevice();
     void resetForStop();
 
@@ -103,8 +97,9 @@ private:
     StepQueue m_mainThread; ///< receives the steps that other threads post
     std::unique_ptr<RouterObserver> routerObserver_;
     std::unique_ptr<UnknownModems> m_unknownModems;
-    std::unique_ptr<QMessageBox> m_aboutDialog;
+    AboutDialog m_aboutDialog;
 
+    KnownDevice m_device;
     StatusMonitor m_monitor;
     WebPages m_pages;
     IconMenu m_menu;
@@ -117,10 +112,6 @@ private:
     FirmwareCheck m_firmwareCheck;
     Poller m_poller;
 
-    std::optional<ModemLocation> m_location; ///< of the last modem that was reported ready
-    DeviceDetails m_device; ///< of the same
-    Clock::TimePoint m_pluggedIn{}; ///< when it was reported
-    std::atomic<qint64> m_lastAnswer{0}; ///< milliseconds since the epoch; 0 before the first answer
     bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps
     ThreadGroup m_threads; ///< its destructor waits for the threads that use all of the above

@@ -35,10 +35,11 @@
 #include <optional>
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString applicationId = QStringLiteral("io.github.tarvo.Tarvo");
+const QString applicationId = u"io.github.tarvo.Tarvo"_s;
 constexpr int startOver = 75; // what the event loop returns when the program shall begin anew
 
 /// Begins anew, as only a new process can show its icon in a host of a session bus that came late; not at once, lest a bus
@@ -51,7 +52,7 @@ void startOverLater(QApplication &application)
 /// @return the program that makes the settings, beside this one or in the PATH; empty when it is not installed
 QString findSetupProgram()
 {
-    const QString name = QStringLiteral("tarvo-setup");
+    const QString name = u"tarvo-setup"_s;
     const QString beside = QStandardPaths::findExecutable(name, {QApplication::applicationDirPath()});
     return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
 }
@@ -60,7 +61,7 @@ QString deviceName(UsbNetworkDevices &devices, const QString &interfaceName)
 {
     for (const UsbNetworkDevice &device : devices.devices()) {
         if (device.interfaceName == interfaceName)
-            return QStringLiteral("%1 %2").arg(device.vendorName, device.productName).trimmed();
+            return u"%1 %2"_s.arg(device.vendorName, device.productName).trimmed();
     }
     return {};
 }
@@ -100,8 +101,7 @@ int showRunningInstance()
 int run(QApplication &application, SystemLog &systemLog)
 {
     const ConfigManager &settings = ConfigManager::sharedConfigManager();
-    systemLog.write(QStringLiteral("settings: ")
-                    + settings.settingPath().value_or(QStringLiteral("no tarvo/Config.plist was found")));
+    systemLog.write(u"settings: "_s + settings.settingPath().value_or(u"no tarvo/Config.plist was found"_s));
     if (const auto &problem = settings.loadProblem())
         systemLog.write(*problem);
 
@@ -130,18 +130,18 @@ int run(QApplication &application, SystemLog &systemLog)
     UdevUsbNetworkDevices usbDevices;
     const QString setupProgram = findSetupProgram();
 
-    Services services{.dynamicStore = dynamicStore,
-                      .deviceRegistry = deviceRegistry,
-                      .workspace = workspace,
-                      .statusBar = statusBar,
-                      .clock = clock,
-                      .systemLog = systemLog,
-                      .socketBinderFor =
-                          [&](const QString &name) { return socketBinder(dynamicStore.interfaceIndex(name)); },
-                      .terminate = [] { QApplication::quit(); },
-                      .notifications = &notifications,
-                      .deviceName = [&](const QString &name) { return deviceName(usbDevices, name); },
-                      .isScreenComposited = isScreenComposited};
+    Services services{
+        .dynamicStore = dynamicStore,
+        .deviceRegistry = deviceRegistry,
+        .workspace = workspace,
+        .statusBar = statusBar,
+        .clock = clock,
+        .systemLog = systemLog,
+        .socketBinderFor = [&](const QString &name) { return socketBinder(dynamicStore.interfaceIndex(name)); },
+        .terminate = [] { QApplication::quit(); },
+        .notifications = &notifications,
+        .deviceName = [&](const QString &name) { return deviceName(usbDevices, name); },
+        .isScreenComposited = isScreenComposited};
     if (!setupProgram.isEmpty())
         services.openSettings = [&] { workspace.launchApplication(setupProgram); };
     MainController controller(services);
@@ -166,7 +166,7 @@ int start(int argc, char **argv, SystemLog &systemLog)
     QApplication application(argc, argv);
     sessionBusForQt.reset();
     const TerminationSignals signals(&QApplication::quit);
-    QApplication::setApplicationName(QStringLiteral("tarvo"));
+    QApplication::setApplicationName(u"tarvo"_s);
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(applicationId);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -174,7 +174,7 @@ int start(int argc, char **argv, SystemLog &systemLog)
     installTranslations(application, QLocale());
     QApplication::setWindowIcon(applicationImage());
 
-    const SingleInstance instance(QStringLiteral("tarvo"));
+    const SingleInstance instance(u"tarvo"_s);
     if (!instance.isOnly())
         return showRunningInstance();
     return run(application, systemLog);

@@ -17,6 +17,7 @@
 namespace {
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 
 QByteArray privateKeyPem()
 {
@@ -97,8 +98,8 @@ void selectFromAFolder(benchmark::State &state)
     const QByteArray profile = fileOf(3);
     QStringList names;
     for (int i = 0; i < state.range(0); ++i) {
-        names.append(QStringLiteral("profile%1").arg(i));
-        QFile file(folder.filePath(names.last() + QStringLiteral(".xml")));
+        names.append(u"profile%1"_s.arg(i));
+        QFile file(folder.filePath(names.last() + u".xml"_s));
         if (!file.open(QIODevice::WriteOnly) || file.write(profile) != profile.size())
             state.SkipWithError("no room for the files");
     }

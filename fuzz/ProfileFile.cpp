@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,7 +41,7 @@ void useText(const ProfileText &profile)
     if (!profile.text)
         return;
     recordProblems(*profile.text);
-    chooseDefaultApn(QStringLiteral("A"), {QStringLiteral("A")}, profile.text->split(u'*'));
+    chooseDefaultApn(u"A"_s, {u"A"_s}, profile.text->split(u'*'));
 }
 
 } // namespace

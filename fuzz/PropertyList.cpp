@@ -1,6 +1,5 @@
 #include "RouterObserver/PropertyList.h"
 
-
 #include <algorithm>
 #include <cstdlib>
 

@@ -10,6 +10,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int maximumRedirects = 5;
@@ -126,7 +128,7 @@ public:
             if (answer.error || request.body || !target)
                 return answer;
             if (!sameServer(*target, url) || redirects == maximumRedirects)
-                return {{}, QStringLiteral("redirected to %1").arg(target->toString())};
+                return {{}, u"redirected to %1"_s.arg(target->toString())};
             url = *target;
         }
     }
@@ -138,7 +140,7 @@ private:
         using std::chrono::milliseconds;
         const auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now()).count();
         if (stop.stop_requested() || left <= 0)
-            return {{}, QStringLiteral("stopped")};
+            return {{}, u"stopped"_s};
 
         Receipt receipt;
         const HeaderList headers = headerList(request.headers);

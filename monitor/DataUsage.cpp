@@ -14,6 +14,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double step = 1024; // one unit to the next, bytes to gigabytes in three
@@ -22,15 +24,15 @@ constexpr double inverseStep = 1 / step;
 using Field = std::optional<QString> StatusFields::*;
 
 const std::array<std::pair<QString, Field>, 9> fieldNames{{
-    {QStringLiteral("flow_reminder_switch"), &StatusFields::reminderSwitch},
-    {QStringLiteral("max_usage_set_for_month"), &StatusFields::monthlyLimit},
-    {QStringLiteral("reminder_threshold_for_data_usage"), &StatusFields::monthlyThreshold},
-    {QStringLiteral("max_usage_set_for_three_days"), &StatusFields::threeDayLimit},
-    {QStringLiteral("monthly_velta_tx"), &StatusFields::monthlySent},
-    {QStringLiteral("monthly_velta_rx"), &StatusFields::monthlyReceived},
-    {QStringLiteral("last_three_days_tx_bytes"), &StatusFields::threeDaySent},
-    {QStringLiteral("last_three_days_rx_bytes"), &StatusFields::threeDayReceived},
-    {QStringLiteral("international_roaming_setting"), &StatusFields::roamingSetting},
+    {u"flow_reminder_switch"_s, &StatusFields::reminderSwitch},
+    {u"max_usage_set_for_month"_s, &StatusFields::monthlyLimit},
+    {u"reminder_threshold_for_data_usage"_s, &StatusFields::monthlyThreshold},
+    {u"max_usage_set_for_three_days"_s, &StatusFields::threeDayLimit},
+    {u"monthly_velta_tx"_s, &StatusFields::monthlySent},
+    {u"monthly_velta_rx"_s, &StatusFields::monthlyReceived},
+    {u"last_three_days_tx_bytes"_s, &StatusFields::threeDaySent},
+    {u"last_three_days_rx_bytes"_s, &StatusFields::threeDayReceived},
+    {u"international_roaming_setting"_s, &StatusFields::roamingSetting},
 }};
 
 float number(const std::optional<QString> &text)
@@ -53,7 +55,7 @@ float gigabytesOfBytes(float bytes)
 float leadingNumber(const QString &text)
 {
     static const QRegularExpression pattern(
-        QStringLiteral(R"(^\s*(?:\+(?!-))?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
+        uR"(^\s*(?:\+(?!-))?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"_s);
     const QRegularExpressionMatch match = pattern.match(text);
     if (!match.hasMatch())
         return 0;
@@ -70,22 +72,22 @@ StatusFields readStatusFields(const QString &content)
 {
     StatusFields fields;
     for (const auto &[name, field] : fieldNames)
-        fields.*field = getModemInfoFromKey(name + QStringLiteral(": "), content);
+        fields.*field = getModemInfoFromKey(name + u": "_s, content);
     for (const auto &[name, field] : fieldNames) {
         if (!(fields.*field) || (fields.*field)->isEmpty())
-            fields.*field = getModemInfoFromKeyForWeb5(name + QStringLiteral("\":"), content);
+            fields.*field = getModemInfoFromKeyForWeb5(name + u"\":"_s, content);
     }
     return fields;
 }
 
 bool isRoaming(const StatusFields &fields)
 {
-    return fields.roamingSetting == QStringLiteral("on");
+    return fields.roamingSetting == u"on"_s;
 }
 
 std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields)
 {
-    if (fields.reminderSwitch != QStringLiteral("on"))
+    if (fields.reminderSwitch != u"on"_s)
         return std::nullopt;
     const float limit = number(fields.monthlyLimit);
     const float limitBytes = bytesOfGigabytes(limit);

@@ -15,26 +15,29 @@ namespace tarvo {
 ///
 /// The state domain says what the network is like now; the setup domain says what is configured and in which order.
 namespace store {
+
+using Qt::StringLiterals::operator""_s;
+
 /// Value holds `kSCDynamicStorePropNetInterfaces`.
-inline const QString interfaceListKey = QStringLiteral("State:/Network/Interface");
+inline const QString interfaceListKey = u"State:/Network/Interface"_s;
 /// Matches the keys that `serviceIPv4Key` gives.
-inline const QString anyServiceIPv4Pattern = QStringLiteral("State:/Network/Service/[^/]+/IPv4");
+inline const QString anyServiceIPv4Pattern = u"State:/Network/Service/[^/]+/IPv4"_s;
 /// Value holds `kSCPropNetServiceOrder`.
-inline const QString globalIPv4SetupKey = QStringLiteral("Setup:/Network/Global/IPv4");
+inline const QString globalIPv4SetupKey = u"Setup:/Network/Global/IPv4"_s;
 
 /// In the interface list: the names of all interfaces (`QStringList`).
-inline const QString kSCDynamicStorePropNetInterfaces = QStringLiteral("Interfaces");
+inline const QString kSCDynamicStorePropNetInterfaces = u"Interfaces"_s;
 /// In a service's IPv4 state: the name of the interface that carries the service.
-inline const QString kSCPropInterfaceName = QStringLiteral("InterfaceName");
+inline const QString kSCPropInterfaceName = u"InterfaceName"_s;
 /// In a service's IPv4 state: the interface's addresses with their prefix lengths, such as 192.168.8.100/24
 /// (`QStringList`).
-inline const QString kSCPropNetIPv4Addresses = QStringLiteral("Addresses");
+inline const QString kSCPropNetIPv4Addresses = u"Addresses"_s;
 /// In a service's IPv4 state: the address of its default gateway; absent when it has none.
-inline const QString kSCPropNetIPv4Router = QStringLiteral("Router");
+inline const QString kSCPropNetIPv4Router = u"Router"_s;
 /// In the global setup: the service identifiers, the preferred one first (`QStringList`).
-inline const QString kSCPropNetServiceOrder = QStringLiteral("ServiceOrder");
+inline const QString kSCPropNetServiceOrder = u"ServiceOrder"_s;
 /// In a service's interface setup: the name of the interface.
-inline const QString kSCPropNetInterfaceDeviceName = QStringLiteral("DeviceName");
+inline const QString kSCPropNetInterfaceDeviceName = u"DeviceName"_s;
 
 /// The key of one service's IPv4 state.
 QString serviceIPv4Key(const QString &serviceID);

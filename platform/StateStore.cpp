@@ -9,16 +9,18 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 QString serviceIPv4Key(const QString &serviceID)
 {
-    return QStringLiteral("State:/Network/Service/%1/IPv4").arg(serviceID);
+    return u"State:/Network/Service/%1/IPv4"_s.arg(serviceID);
 }
 
 QString serviceInterfaceSetupKey(const QString &serviceID)
 {
-    return QStringLiteral("Setup:/Network/Service/%1/Interface").arg(serviceID);
+    return u"Setup:/Network/Service/%1/Interface"_s.arg(serviceID);
 }
 
 } // namespace store
@@ -28,12 +30,12 @@ namespace {
 /// @return text with which every key that matches @p pattern whole begins
 QStringView literalStart(const QString &pattern)
 {
-    static const QString special = QStringLiteral("\\^$.|?*+()[]{}");
+    static const QString special = u"\\^$.|?*+()[]{}"_s;
     if (pattern.contains(u'|'))
         return {};
     const auto end = std::ranges::find_if(pattern, [](QChar c) { return special.contains(c); });
     const qsizetype length = std::distance(pattern.begin(), end);
-    const bool mayBeAbsent = end != pattern.end() && QStringLiteral("?*{").contains(*end);
+    const bool mayBeAbsent = end != pattern.end() && u"?*{"_s.contains(*end);
     return QStringView(pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
 }
 

@@ -6,9 +6,11 @@
 
 namespace tarvo {
 
+using Qt::StringLiterals::operator""_s;
+
 /// How new lines of an XML property list are written.
 struct PropertyListLayout {
-    inline static const QString indentStep = QStringLiteral("  ");
+    inline static const QString indentStep = u"  "_s;
 
     QString lineEnd;
 

@@ -8,6 +8,8 @@
 
 namespace tarvo {
 
+using Qt::StringLiterals::operator""_s;
+
 /// What a setting's value is.
 enum class SettingKind {
     Flag, ///< a truth value; numbers and texts can be read as one
@@ -39,11 +41,11 @@ QVariant settingAt(const QVariantMap &settings, const QStringList &path);
 /// @return the texts of the list at @p path; what is no text is left out
 QStringList identifiersAt(const QVariantMap &settings, const QStringList &path);
 
-inline const QStringList vendorsPath{QStringLiteral("device_info"), QStringLiteral("vendor_ids")};
-inline const QStringList exclusionsPath{QStringLiteral("device_info"), QStringLiteral("eliminate_product_ids")};
+inline const QStringList vendorsPath{u"device_info"_s, u"vendor_ids"_s};
+inline const QStringList exclusionsPath{u"device_info"_s, u"eliminate_product_ids"_s};
 
 /// The vendor that the shipped settings name as an example.
-inline const QString exampleVendor = QStringLiteral("4660");
+inline const QString exampleVendor = u"4660"_s;
 
 /// The settings that the companion is shipped with, as bytes of an XML property list.
 QByteArray shippedSettingsFile();

@@ -47,7 +47,8 @@ QList<Device> Survey::devices(const QVariantMap &settings) const
 
 ModemQuestion Survey::questionFor(const Device &device, const QVariantMap &settings) const
 {
-    return {device.network.gateway, m_services.socketBinderFor(device.usb), settings.isEmpty() ? shippedSettings() : settings};
+    return {device.network.gateway, m_services.socketBinderFor(device.usb),
+            settings.isEmpty() ? shippedSettings() : settings};
 }
 
 void Survey::askWhetherModem(const Device &device, const QVariantMap &settings,

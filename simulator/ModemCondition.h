@@ -11,6 +11,8 @@
 
 namespace tarvo {
 
+using Qt::StringLiterals::operator""_s;
+
 /// How a modem writes its status page.
 enum class PageStyle {
     Json, ///< {"key":"value",...}
@@ -20,17 +22,17 @@ enum class PageStyle {
 /// All that a simulated modem is and knows. Field names in the comments are those of its answers.
 struct ModemCondition {
     PageStyle pageStyle = PageStyle::Json; ///< of the status page
-    QString statusPagePath = QStringLiteral("logo_data.asp"); ///< where the status page is, without a leading slash
+    QString statusPagePath = u"logo_data.asp"_s; ///< where the status page is, without a leading slash
 
-    QString crVersion = QStringLiteral("CR_1.0.7"); ///< `cr_version`
-    QString waInnerVersion = QStringLiteral("WA_2.3.1"); ///< `wa_inner_version`
+    QString crVersion = u"CR_1.0.7"_s; ///< `cr_version`
+    QString waInnerVersion = u"WA_2.3.1"_s; ///< `wa_inner_version`
     bool grantsSessions = true; ///< whether `RD` has a value
 
-    QString mainState = QStringLiteral("modem_init_complete"); ///< `modem_main_state`
-    QString pppStatus = QStringLiteral("ppp_connected"); ///< `ppp_status`
-    QString dialMode = QStringLiteral("auto_dial"); ///< `dial_mode`
+    QString mainState = u"modem_init_complete"_s; ///< `modem_main_state`
+    QString pppStatus = u"ppp_connected"_s; ///< `ppp_status`
+    QString dialMode = u"auto_dial"_s; ///< `dial_mode`
     bool roamingAllowed = false; ///< `international_roaming_setting`
-    QString firmwarePackage = QStringLiteral("version_idle"); ///< `dm_find_package`
+    QString firmwarePackage = u"version_idle"_s; ///< `dm_find_package`
 
     bool reminderOn = true; ///< `flow_reminder_switch`
     double monthlyLimit = 10; ///< GiB
@@ -44,13 +46,13 @@ struct ModemCondition {
 
     bool startsWebUI = false; ///< `webui_auto_start`
     bool needsConnectionPassword = false; ///< `connection_password_require`
-    QString passwordConfirm = QStringLiteral("0"); ///< `apn_id_password_confirm`
-    QString passwordSave = QStringLiteral("1"); ///< `apn_id_password_save`
-    QString defaultApnUser = QStringLiteral("user"); ///< "username" of the default access point
+    QString passwordConfirm = u"0"_s; ///< `apn_id_password_confirm`
+    QString passwordSave = u"1"_s; ///< `apn_id_password_save`
+    QString defaultApnUser = u"user"_s; ///< "username" of the default access point
     int defaultApnPasswordStatus = 1; ///< "password_status" of it
 
     bool isPCProfileType = true; ///< `profile_type`
-    QStringList webProfiles{QStringLiteral("Internet")}; ///< the modem's own access points, by index
+    QStringList webProfiles{u"Internet"_s}; ///< the modem's own access points, by index
     /// The access points that a computer has added; one takes the place of another of its index.
     QList<QJsonObject> pcApns;
     QString defaultProfileName; ///< `pc_default_profilename`

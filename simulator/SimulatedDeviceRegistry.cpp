@@ -2,8 +2,10 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
-const QString bsdNameKey = QStringLiteral("BSD Name");
+const QString bsdNameKey = u"BSD Name"_s;
 }
 
 IOServiceHandle SimulatedDeviceRegistry::addDevice(const Device &device)
@@ -23,10 +25,9 @@ void SimulatedDeviceRegistry::removeDevice(IOServiceHandle service)
 IOServiceHandle SimulatedDeviceRegistry::addModem(const QString &bsdName, int vendorID, int productID,
                                                   const QByteArray &interfaceClass)
 {
-    const auto device =
-        addDevice({.parent = 0,
-                   .className = "IOUSBDevice",
-                   .properties = {{QStringLiteral("idVendor"), vendorID}, {QStringLiteral("idProduct"), productID}}});
+    const auto device = addDevice({.parent = 0,
+                                   .className = "IOUSBDevice",
+                                   .properties = {{u"idVendor"_s, vendorID}, {u"idProduct"_s, productID}}});
     const auto usbInterface = addDevice({.parent = device, .className = interfaceClass, .properties = {}});
     addDevice({.parent = usbInterface, .className = "IOEthernetInterface", .properties = {{bsdNameKey, bsdName}}});
     return device;

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString path = QStringLiteral("/org/freedesktop/login1");
+const QString path = u"/org/freedesktop/login1"_s;
 
 QDBusConnection newConnection(const QString &busAddress)
 {

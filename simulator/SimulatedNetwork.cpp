@@ -4,6 +4,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 SimulatedNetwork::SimulatedNetwork(StateStore &store)
     : m_store(store)
 {
@@ -12,7 +14,7 @@ SimulatedNetwork::SimulatedNetwork(StateStore &store)
 
 QString SimulatedNetwork::serviceOf(const QString &interfaceName)
 {
-    return QStringLiteral("service-") + interfaceName;
+    return u"service-"_s + interfaceName;
 }
 
 void SimulatedNetwork::addInterface(const QString &interfaceName)

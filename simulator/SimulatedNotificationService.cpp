@@ -23,7 +23,8 @@ QString serviceName()
 SimulatedNotificationService::SimulatedNotificationService()
     : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName()))
 {
-    m_bus.registerObject(u"/org/freedesktop/Notifications"_s, this, QDBusConnection::ExportAllSlots);
+    m_bus.registerObject(u"/org/freedesktop/Notifications"_s, this,
+                         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
 }
 
 SimulatedNotificationService::~SimulatedNotificationService()
@@ -42,9 +43,11 @@ void SimulatedNotificationService::stop()
 }
 
 uint SimulatedNotificationService::Notify(const QString &, uint replaces, const QString &, const QString &,
-                                          const QString &body, const QStringList &, const QVariantMap &, int)
+                                          const QString &body, const QStringList &actions, const QVariantMap &, int)
 {
     m_replaced << replaces;
+    m_actions = actions;
+    setDelayedReply(m_silent);
     if (m_refuses) {
         sendErrorReply(QDBusError::Failed, u"refused"_s);
         return 0;

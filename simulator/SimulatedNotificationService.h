@@ -27,11 +27,20 @@ public:
     void stop();
     /// From now on every notification is turned down.
     void refuse() { m_refuses = true; }
+    /// From now on no notification is answered.
+    void fallSilent() { m_silent = true; }
+    /// The user chooses the action @p key of the last notification.
+    void choose(const QString &key) { Q_EMIT ActionInvoked(m_last, key); }
+    /// @return the actions of the last notification: keys and labels in turn
+    const QStringList &actions() const { return m_actions; }
 
     /// @return the texts that are shown
     QStringList shown() const { return m_shown.values(); }
     /// @return the identifier that each notification asked to replace, the oldest first; 0 for none
     const QList<uint> &replaced() const { return m_replaced; }
+
+Q_SIGNALS:
+    void ActionInvoked(uint identifier, const QString &key);
 
 public Q_SLOTS:
     // The names are the interface's.
@@ -45,6 +54,8 @@ private:
     QList<uint> m_replaced;
     uint m_last = 40;
     bool m_refuses = false;
+    bool m_silent = false;
+    QStringList m_actions;
 };
 
 } // namespace tarvo

@@ -8,6 +8,10 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
 std::unique_ptr<QMessageBox> makeAboutDialog()
 {
     auto dialog = std::make_unique<QMessageBox>();
@@ -16,11 +20,25 @@ std::unique_ptr<QMessageBox> makeAboutDialog()
     dialog->setWindowIcon(applicationImage());
     dialog->setIconPixmap(applicationImage().pixmap(64));
     dialog->setTextFormat(Qt::RichText);
-    dialog->setText(
-        QStringLiteral("<b>Tarvo %1</b><p>%2</p>")
-            .arg(QCoreApplication::applicationVersion().toHtmlEscaped(), qtTrId("AboutText").toHtmlEscaped()));
+    dialog->setText(u"<b>Tarvo %1</b><p>%2</p>"_s.arg(QCoreApplication::applicationVersion().toHtmlEscaped(),
+                                                      qtTrId("AboutText").toHtmlEscaped()));
     dialog->addButton(qtTrId("AboutClose"), QMessageBox::RejectRole);
     return dialog;
+}
+
+} // namespace
+
+AboutDialog::AboutDialog() = default;
+
+AboutDialog::~AboutDialog() = default;
+
+void AboutDialog::present()
+{
+    if (!m_window)
+        m_window = makeAboutDialog();
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
 }
 
 } // namespace tarvo

@@ -9,6 +9,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Whoever was typing when the panel appeared did not mean it.
@@ -16,7 +18,7 @@ constexpr std::chrono::milliseconds quietTime{1000};
 
 std::weak_ptr<AlertPanelController> sharedPanel;
 
-}
+} // namespace
 
 std::shared_ptr<AlertPanelController> AlertPanelController::shareAlertPanel()
 {
@@ -36,11 +38,11 @@ AlertPanelController::AlertPanelController()
     labelMsg_ = interface.labelMsg_;
     btnOK_ = interface.btnOK_;
     btnCancel_ = interface.btnCancel_;
-    interface.labelIcon_->setPixmap(imageNamed(QStringLiteral("newVersion")).pixmap(48));
+    interface.labelIcon_->setPixmap(imageNamed(u"newVersion"_s).pixmap(48));
     wndAlert_->setWindowIcon(applicationImage());
     wndAlert_->setAttribute(Qt::WA_ShowWithoutActivating);
-    for (QObject *target : {static_cast<QObject *>(wndAlert_.get()), static_cast<QObject *>(btnOK_),
-                            static_cast<QObject *>(btnCancel_)})
+    for (QObject *target :
+         {static_cast<QObject *>(wndAlert_.get()), static_cast<QObject *>(btnOK_), static_cast<QObject *>(btnCancel_)})
         target->installEventFilter(this);
     awakeFromNib();
 }
@@ -84,7 +86,7 @@ bool AlertPanelController::eventFilter(QObject *, QEvent *event)
 void AlertPanelController::btnOKAction()
 {
     wndAlert_->done(QDialog::Accepted);
-    if (const auto page = configurationText(QStringLiteral("FotaNewVersionHomePage")))
+    if (const auto page = configurationText(u"FotaNewVersionHomePage"_s))
         Q_EMIT pageWanted(*page);
 }
 

@@ -83,11 +83,11 @@ std::unique_ptr<OvAttachedWindow> balloonInCorner(QWidget *view)
 {
     const BalloonShape shape{.arrowHeight = 0, .hasArrow = false};
     const QScreen *screen = QGuiApplication::primaryScreen();
-    auto window =
-        balloonAt(view,
-                  placeBalloonInCorner(shape, view->size(), flipped(screen->geometry()),
-                                       flipped(screen->availableGeometry()), edgeMargin, QGuiApplication::isRightToLeft()),
-                  0);
+    auto window = balloonAt(view,
+                            placeBalloonInCorner(shape, view->size(), flipped(screen->geometry()),
+                                                 flipped(screen->availableGeometry()), edgeMargin,
+                                                 QGuiApplication::isRightToLeft()),
+                            0);
     window->setHasArrow(false);
     window->setArrowHeight(0);
     return window;

@@ -33,6 +33,23 @@ QString connectionText(const ModemDetails &details)
     return *details.connected ? qtTrId("StatusConnected") : qtTrId("StatusNotConnected");
 }
 
+QString withoutModem(SettingsProblem problem)
+{
+    switch (problem) {
+    case SettingsProblem::NoFile:
+        return qtTrId("ProblemNoSettings");
+    case SettingsProblem::Unreadable:
+        return qtTrId("ProblemUnreadable");
+    case SettingsProblem::NoVendor:
+        return qtTrId("ProblemNoVendor");
+    case SettingsProblem::VendorIsNumber:
+        return qtTrId("ProblemVendorType");
+    case SettingsProblem::None:
+        break;
+    }
+    return qtTrId("StatusNoModem");
+}
+
 QString attachedSummary(const StatusSnapshot &snapshot)
 {
     if (!snapshot.answering)
@@ -58,7 +75,7 @@ QString summaryOf(const CompanionStatus &status)
 {
     switch (status.detection) {
     case Detection::NoModem:
-        return status.settingsProblem.isEmpty() ? qtTrId("StatusNoModem") : status.settingsProblem;
+        return withoutModem(status.settingsProblem);
     case Detection::NotSetUp:
         return qtTrId("StatusNotSetUp").arg(status.unknownDevice);
     case Detection::WaitingForAddress:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RouterObserver/SettingsProblem.h"
 #include "modemapi/StatusSnapshot.h"
 
 #include <QList>
@@ -21,7 +22,7 @@ struct CompanionStatus {
     Detection detection = Detection::NoModem;
     QString unknownDevice{}; ///< of `NotSetUp`: vendor and product in hexadecimal, such as 1234:5678
     StatusSnapshot snapshot{}; ///< of the modem that is attached
-    QString settingsProblem{}; ///< why no modem can be found, a sentence; empty when the settings are in order
+    SettingsProblem settingsProblem = SettingsProblem::None; ///< why no modem can be found
 
     bool operator==(const CompanionStatus &) const = default;
 };

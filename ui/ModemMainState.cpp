@@ -4,12 +4,13 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 StartUpAction startUpAction(const std::optional<QString> &mainState, int counter)
 {
     static const QStringList needUser{
-        QStringLiteral("modem_sim_undetected"), QStringLiteral("modem_sim_destroy"),
-        QStringLiteral("modem_waitpin"),        QStringLiteral("modem_waitpuk"),
-        QStringLiteral("modem_imsi_lock"),      QStringLiteral("modem_imsi_waitnck"),
+        u"modem_sim_undetected"_s, u"modem_sim_destroy"_s, u"modem_waitpin"_s,
+        u"modem_waitpuk"_s,        u"modem_imsi_lock"_s,   u"modem_imsi_waitnck"_s,
     };
     if (!mainState)
         return {};

@@ -25,10 +25,10 @@ void StatusDisplay::setDetection(Detection detection, const QString &unknownDevi
     setStatus(status);
 }
 
-void StatusDisplay::setSettingsProblem(const QString &settingsProblem)
+void StatusDisplay::setSettingsProblem(SettingsProblem problem)
 {
     CompanionStatus status = m_status;
-    status.settingsProblem = settingsProblem;
+    status.settingsProblem = problem;
     setStatus(status);
 }
 
@@ -58,12 +58,12 @@ void StatusDisplay::setStatus(const CompanionStatus &status)
 void StatusDisplay::refresh()
 {
     m_with.icon.setStatusToolTip(tipOf(m_status));
-    m_with.menu.setContent({.summary = summaryOf(m_status),
-                            .clickPage = m_with.pages.clickPage(),
-                            .hasModem = m_status.detection == Detection::Attached,
-                            .offersSetup = m_status.detection == Detection::NotSetUp
-                                || !m_status.settingsProblem.isEmpty(),
-                            .news = m_news.news()});
+    m_with.menu.setContent(
+        {.summary = summaryOf(m_status),
+         .clickPage = m_with.pages.clickPage(),
+         .hasModem = m_status.detection == Detection::Attached,
+         .offersSetup = m_status.detection == Detection::NotSetUp || m_status.settingsProblem != SettingsProblem::None,
+         .news = m_news.news()});
 }
 
 void StatusDisplay::showWindow()

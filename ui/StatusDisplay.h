@@ -36,8 +36,7 @@ public:
 
     /// @param unknownDevice  vendor and product of the device that is not set up; empty for none
     void setDetection(Detection detection, const QString &unknownDevice = {});
-    /// @param settingsProblem  why no modem can be found, a sentence; empty for none
-    void setSettingsProblem(const QString &settingsProblem);
+    void setSettingsProblem(SettingsProblem problem);
     /// @param sincePlugIn  the modem's age
     void setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn);
     /// Keeps @p news among the recent ones.

@@ -26,6 +26,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int iconSize = 48;
+constexpr int leastWidth = 420;
+constexpr int gap = 16; // around and between the groups
 
 QLabel *valueLabel()
 {
@@ -45,13 +47,18 @@ StatusWindow::StatusWindow(std::function<StatusWindowContent()> content)
 {
     setWindowTitle(u"Tarvo"_s);
     setAttribute(Qt::WA_QuitOnClose, false);
+    setMinimumWidth(leastWidth);
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(gap, gap, gap, gap);
     addHead(*layout);
+    layout->addSpacing(gap / 2);
     m_month = addAmount(*layout, qtTrId("StatusMonth"));
     m_threeDays = addAmount(*layout, qtTrId("StatusThreeDays"));
     layout->addWidget(new QLabel(qtTrId("StatusPlot")));
     layout->addWidget(m_plot, 1);
+    layout->addSpacing(gap / 2);
     addRows(*layout);
+    layout->addSpacing(gap / 2);
     addButtons(*layout);
     connect(&m_refreshing, &QTimer::timeout, this, &StatusWindow::refresh);
 }
@@ -67,6 +74,7 @@ void StatusWindow::addHead(QVBoxLayout &layout)
     m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_summary->setMinimumHeight(iconSize);
     auto *head = new QHBoxLayout;
+    head->setSpacing(gap);
     head->addWidget(m_icon, 0, Qt::AlignTop);
     head->addWidget(m_summary, 1);
     layout.addLayout(head);
@@ -88,6 +96,7 @@ void StatusWindow::addRows(QVBoxLayout &layout)
 {
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setHorizontalSpacing(gap);
     for (const StatusRow &row : statusRows({}, {})) {
         QLabel *value = m_values.emplace_back(valueLabel());
         value->setAccessibleName(row.label);
@@ -168,7 +177,8 @@ void StatusWindow::showAmounts(const CompanionStatus &status)
           static_cast<double>(snapshot.m_totalMonthData)},
          attached && snapshot.details.countsMonth);
     fill(m_threeDays,
-         {static_cast<double>(snapshot.details.threeDayUse), 0, static_cast<double>(snapshot.m_totalThreeData)}, attached);
+         {static_cast<double>(snapshot.details.threeDayUse), 0, static_cast<double>(snapshot.m_totalThreeData)},
+         attached);
 }
 
 void StatusWindow::copyDetails() const

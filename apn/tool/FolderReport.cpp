@@ -11,6 +11,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Reporter {
@@ -28,12 +30,12 @@ public:
         for (const QString &problem : listing.problems)
             addProblem(problem);
         for (const QString &path : listing.profiles) {
-            if (path != m_folder + QStringLiteral("profile.xml"))
+            if (path != m_folder + u"profile.xml"_s)
                 reportFile(path, names);
         }
         for (const QString &name : names) {
             if (!name.isEmpty() && !m_found.contains(name))
-                addProblem(QStringLiteral("%1: listed, and there is no such file").arg(name));
+                addProblem(u"%1: listed, and there is no such file"_s.arg(name));
         }
         return m_report;
     }
@@ -42,13 +44,13 @@ private:
     /// @return the names in the list
     QStringList reportList()
     {
-        const ProfileText list = readProfile(m_folder + QStringLiteral("profile.xml"), m_key);
+        const ProfileText list = readProfile(m_folder + u"profile.xml"_s, m_key);
         if (!list.text) {
-            addProblem(QStringLiteral("profile.xml: ") + list.problem);
+            addProblem(u"profile.xml: "_s + list.problem);
             return {};
         }
         const QStringList names = list.text->split(u'*');
-        m_report.lines.append(QStringLiteral("profile.xml: lists %1").arg(names.join(u", ")));
+        m_report.lines.append(u"profile.xml: lists %1"_s.arg(names.join(u", ")));
         return names;
     }
 
@@ -57,15 +59,15 @@ private:
         const auto base = getFileNameFromAbsolutePath(path);
         const QString shown = path.sliced(m_folder.size());
         if (!base)
-            return addProblem(QStringLiteral("%1: its name cannot be cut before the extension").arg(shown));
+            return addProblem(u"%1: its name cannot be cut before the extension"_s.arg(shown));
         m_found.insert(*base);
-        const QString listed = names.contains(*base) ? QStringLiteral("listed") : QStringLiteral("not listed");
+        const QString listed = names.contains(*base) ? u"listed"_s : u"not listed"_s;
         const ProfileText profile = readProfile(path, m_key);
         const QStringList problems = profile.text ? recordProblems(*profile.text) : QStringList(profile.problem);
         if (problems.isEmpty())
-            m_report.lines.append(QStringLiteral("%1: %2, in order").arg(shown, listed));
+            m_report.lines.append(u"%1: %2, in order"_s.arg(shown, listed));
         else
-            addProblem(QStringLiteral("%1: %2, %3").arg(shown, listed, problems.join(u"; ")));
+            addProblem(u"%1: %2, %3"_s.arg(shown, listed, problems.join(u"; ")));
     }
 
     void addProblem(const QString &line)
@@ -90,8 +92,7 @@ FolderReport reportFolder(const QString &folder, const ProfileKey &key)
 FolderReport reportFolder(const QString &folder)
 {
     const auto &key = builtInProfileKey();
-    return key ? reportFolder(folder, *key)
-               : FolderReport{{QStringLiteral("no key to decode profiles is built in")}, false};
+    return key ? reportFolder(folder, *key) : FolderReport{{u"no key to decode profiles is built in"_s}, false};
 }
 
 } // namespace tarvo

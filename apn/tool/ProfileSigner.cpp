@@ -12,6 +12,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Bio = std::unique_ptr<BIO, decltype(&BIO_free)>;
@@ -54,9 +56,9 @@ PrivateKeyReading ProfileSigner::fromPem(QByteArrayView pem)
 {
     const Key key(PEM_read_bio_PrivateKey(reader(pem).get(), nullptr, nullptr, nullptr), EVP_PKEY_free);
     if (!key && pem.contains("ENCRYPTED"))
-        return {std::nullopt, QStringLiteral("its pass phrase is missing or wrong")};
+        return {std::nullopt, u"its pass phrase is missing or wrong"_s};
     if (!key || !ProfileKey::fromDer(publicDer(key.get())))
-        return {std::nullopt, QStringLiteral("it holds no RSA private key of 1024 bits in PEM form")};
+        return {std::nullopt, u"it holds no RSA private key of 1024 bits in PEM form"_s};
     return {ProfileSigner(key), {}};
 }
 

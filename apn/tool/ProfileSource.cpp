@@ -13,6 +13,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class Kind { Integer, Text };
@@ -34,7 +36,7 @@ constexpr std::array recordKeys = {
 
 bool isInteger(const QJsonValue &value)
 {
-    static const QRegularExpression integer(QStringLiteral("^-?[0-9]+$"));
+    static const QRegularExpression integer(u"^-?[0-9]+$"_s);
     if (value.isString())
         return integer.match(value.toString()).hasMatch();
     return value.isDouble() && value.toInteger(0) == value.toInteger(1);
@@ -44,11 +46,11 @@ QString keyProblem(const QJsonObject &record, const RecordKey &key)
 {
     const QJsonValue value = record.value(key.name);
     if (value.isUndefined())
-        return QStringLiteral("key \"%1\" is missing").arg(key.name);
+        return u"key \"%1\" is missing"_s.arg(key.name);
     if (key.kind == Kind::Integer && !isInteger(value))
-        return QStringLiteral("\"%1\" is no integer").arg(key.name);
+        return u"\"%1\" is no integer"_s.arg(key.name);
     if (key.kind == Kind::Text && !value.isString())
-        return QStringLiteral("\"%1\" is no text").arg(key.name);
+        return u"\"%1\" is no text"_s.arg(key.name);
     return {};
 }
 
@@ -64,10 +66,10 @@ QStringList keyProblems(const QJsonObject &record)
         problems.append(keyProblem(record, key));
     for (const QString &name : record.keys()) {
         if (!isKnown(name))
-            problems.append(QStringLiteral("key \"%1\" is unknown").arg(name));
+            problems.append(u"key \"%1\" is unknown"_s.arg(name));
     }
-    if (record.value(u"profile").toString(QStringLiteral("-")).isEmpty())
-        problems.append(QStringLiteral("\"profile\" is empty"));
+    if (record.value(u"profile").toString(u"-"_s).isEmpty())
+        problems.append(u"\"profile\" is empty"_s);
     problems.removeAll(QString());
     return problems;
 }
@@ -78,9 +80,8 @@ QStringList formProblems(const QString &record)
     QStringList problems;
     for (const QChar reserved : QStringView(u"&+%")) {
         if (record.contains(reserved))
-            problems.append(QStringLiteral("'%1' does not reach the modem; write it as \\u%2")
-                                .arg(reserved)
-                                .arg(reserved.unicode(), 4, 16, QLatin1Char('0')));
+            problems.append(u"'%1' does not reach the modem; write it as \\u%2"_s.arg(reserved).arg(
+                reserved.unicode(), 4, 16, QLatin1Char('0')));
     }
     return problems;
 }
@@ -99,14 +100,14 @@ ProfileSource nameList(const QJsonArray &values)
     QStringList names;
     for (const QJsonValue &value : values) {
         if (!value.isString())
-            source.problems.append(QStringLiteral("the list holds something that is no text"));
+            source.problems.append(u"the list holds something that is no text"_s);
         names.append(value.toString());
         source.problems.append(nameProblems(names.last()));
     }
     if (names.isEmpty())
-        source.problems.append(QStringLiteral("the list is empty"));
+        source.problems.append(u"the list is empty"_s);
     if (names.removeDuplicates() > 0)
-        source.problems.append(QStringLiteral("a name is there twice"));
+        source.problems.append(u"a name is there twice"_s);
     source.text = names.join(u'*');
     return source;
 }
@@ -117,20 +118,20 @@ QStringList recordProblems(const QString &record)
 {
     const ParsedJson parsed = parseJson(record);
     if (!parsed.document)
-        return {QStringLiteral("it is no JSON: ") + parsed.error};
+        return {u"it is no JSON: "_s + parsed.error};
     if (!parsed.document->isObject())
-        return {QStringLiteral("it is no JSON object")};
+        return {u"it is no JSON object"_s};
     return keyProblems(parsed.document->object()) + formProblems(record);
 }
 
 QStringList nameProblems(const QString &name)
 {
     if (name.isEmpty())
-        return {QStringLiteral("a name is empty")};
+        return {u"a name is empty"_s};
     if (name.contains(u'*') || name.contains(u'/'))
-        return {QStringLiteral("name \"%1\" holds '*' or '/'").arg(name)};
-    if (getFileNameFromAbsolutePath(name + QStringLiteral(".xml")) != name)
-        return {QStringLiteral("name \"%1\" holds \"xml\", where the companion cuts it").arg(name)};
+        return {u"name \"%1\" holds '*' or '/'"_s.arg(name)};
+    if (getFileNameFromAbsolutePath(name + u".xml"_s) != name)
+        return {u"name \"%1\" holds \"xml\", where the companion cuts it"_s.arg(name)};
     return {};
 }
 

@@ -18,13 +18,14 @@
 namespace {
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 
 /// Exit codes.
 enum : int { inOrder = 0, failed = 1, wrongUse = 2 };
 
-const QString keyOption = QStringLiteral("key");
-const QString publicKeyOption = QStringLiteral("public-key");
-const QString outputOption = QStringLiteral("output");
+const QString keyOption = u"key"_s;
+const QString publicKeyOption = u"public-key"_s;
+const QString outputOption = u"output"_s;
 
 void print(std::FILE *stream, const QString &line)
 {
@@ -33,7 +34,7 @@ void print(std::FILE *stream, const QString &line)
 
 int fail(const QString &subject, const QString &problem, int code = failed)
 {
-    print(stderr, QStringLiteral("tarvo-profile: %1: %2").arg(subject, problem));
+    print(stderr, u"tarvo-profile: %1: %2"_s.arg(subject, problem));
     return code;
 }
 
@@ -59,9 +60,9 @@ QString placeProblem(const QString &path, const ProfileSource &source)
 {
     const QString name = QFileInfo(path).fileName();
     if (source.isNameList != (name == u"profile.xml"))
-        return QStringLiteral("a list of names, and nothing else, is called profile.xml");
+        return u"a list of names, and nothing else, is called profile.xml"_s;
     if (!name.endsWith(u".xml"))
-        return QStringLiteral("the companion reads only names that end in .xml");
+        return u"the companion reads only names that end in .xml"_s;
     return nameProblems(name.chopped(4)).join(u"; ");
 }
 
@@ -70,7 +71,7 @@ int pack(const QCommandLineParser &arguments, const QString &path)
     const QString keyPath = arguments.value(keyOption);
     const QString output = arguments.value(outputOption);
     if (keyPath.isEmpty() || output.isEmpty())
-        return fail(QStringLiteral("pack"), QStringLiteral("needs --key and --output"), wrongUse);
+        return fail(u"pack"_s, u"needs --key and --output"_s, wrongUse);
     const auto pem = readFile(keyPath);
     const auto json = readFile(path);
     if (!pem || !json)
@@ -80,7 +81,7 @@ int pack(const QCommandLineParser &arguments, const QString &path)
         return fail(keyPath, keyProblem);
 
     if (!json->isValidUtf8())
-        return fail(path, QStringLiteral("it is no UTF-8"));
+        return fail(path, u"it is no UTF-8"_s);
     const ProfileSource source = readSource(QString::fromUtf8(*json));
     for (const QString &problem : source.problems)
         fail(path, problem);
@@ -89,15 +90,14 @@ int pack(const QCommandLineParser &arguments, const QString &path)
     if (const QString problem = placeProblem(output, source); !problem.isEmpty())
         return fail(output, problem);
     const auto profile = signer->pack(source.text);
-    return profile ? writeFile(output, *profile)
-                   : fail(path, QStringLiteral("it would not be read back; is it too long?"));
+    return profile ? writeFile(output, *profile) : fail(path, u"it would not be read back; is it too long?"_s);
 }
 
 std::optional<ProfileKey> publicKey(const QCommandLineParser &arguments)
 {
     const QString path = arguments.value(publicKeyOption);
     if (path.isEmpty() && !builtInProfileKey())
-        fail(QStringLiteral("key"), QStringLiteral("none is built in; name one by --public-key"));
+        fail(u"key"_s, u"none is built in; name one by --public-key"_s);
     if (path.isEmpty())
         return builtInProfileKey();
     const auto pem = readFile(path);
@@ -105,7 +105,7 @@ std::optional<ProfileKey> publicKey(const QCommandLineParser &arguments)
         return std::nullopt;
     auto key = profileKeyFromPem(*pem);
     if (!key)
-        fail(path, QStringLiteral("it holds no RSA public key of 1024 bits in PEM form"));
+        fail(path, u"it holds no RSA public key of 1024 bits in PEM form"_s);
     return key;
 }
 
@@ -130,7 +130,7 @@ int check(const QCommandLineParser &arguments, const QString &path)
     if (!key)
         return failed;
     if (!QFileInfo(path).isDir())
-        return fail(path, QStringLiteral("it is no folder"));
+        return fail(path, u"it is no folder"_s);
     const FolderReport report = reportFolder(path, *key);
     for (const QString &line : report.lines)
         print(stdout, line);
@@ -140,29 +140,28 @@ int check(const QCommandLineParser &arguments, const QString &path)
 int about()
 {
     const auto &key = builtInProfileKey();
-    print(stdout, QStringLiteral("folder: %1").arg(QString::fromUtf8(APN_ROOT)));
+    print(stdout, u"folder: %1"_s.arg(QString::fromUtf8(APN_ROOT)));
     print(stdout,
-          key ? QStringLiteral("key: SHA-256 %1").arg(QString::fromLatin1(key->fingerprint().toHex()))
-              : QStringLiteral("key: none, so that no access points are sent"));
+          key ? u"key: SHA-256 %1"_s.arg(QString::fromLatin1(key->fingerprint().toHex()))
+              : u"key: none, so that no access points are sent"_s);
     return inOrder;
 }
 
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(QStringLiteral("Makes and reads access-point profiles.\n\n"
-                                                    "  pack FILE     makes a profile of a JSON file\n"
-                                                    "  unpack FILE   shows a profile's text\n"
-                                                    "  check DIR     says what the companion makes of a folder\n"
-                                                    "  about         tells the companion's folder and key"));
+    parser.setApplicationDescription(u"Makes and reads access-point profiles.\n\n"
+                                     "  pack FILE     makes a profile of a JSON file\n"
+                                     "  unpack FILE   shows a profile's text\n"
+                                     "  check DIR     says what the companion makes of a folder\n"
+                                     "  about         tells the companion's folder and key"_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({keyOption, QStringLiteral("Private key to pack with, PEM."), QStringLiteral("file")});
-    parser.addOption({publicKeyOption,
-                      QStringLiteral("Public key to read with, PEM; the companion's own when not given."),
-                      QStringLiteral("file")});
-    parser.addOption({{QStringLiteral("o"), outputOption}, QStringLiteral("File to write."), QStringLiteral("file")});
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("pack, unpack, check or about"));
-    parser.addPositionalArgument(QStringLiteral("path"), QStringLiteral("What to work on."));
+    parser.addOption({keyOption, u"Private key to pack with, PEM."_s, u"file"_s});
+    parser.addOption(
+        {publicKeyOption, u"Public key to read with, PEM; the companion's own when not given."_s, u"file"_s});
+    parser.addOption({{u"o"_s, outputOption}, u"File to write."_s, u"file"_s});
+    parser.addPositionalArgument(u"command"_s, u"pack, unpack, check or about"_s);
+    parser.addPositionalArgument(u"path"_s, u"What to work on."_s);
 }
 
 } // namespace
@@ -174,10 +173,10 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     describe(parser);
     if (!parser.parse(QCoreApplication::arguments()))
-        return fail(QStringLiteral("arguments"), parser.errorText(), wrongUse);
-    if (parser.isSet(QStringLiteral("help")))
+        return fail(u"arguments"_s, parser.errorText(), wrongUse);
+    if (parser.isSet(u"help"_s))
         parser.showHelp(inOrder);
-    if (parser.isSet(QStringLiteral("version")))
+    if (parser.isSet(u"version"_s))
         parser.showVersion();
 
     const QStringList words = parser.positionalArguments();
@@ -187,7 +186,7 @@ int main(int argc, char **argv)
         return unpack(parser, words[1]);
     if (words.size() == 2 && words[0] == u"check")
         return check(parser, words[1]);
-    if (words == QStringList(QStringLiteral("about")))
+    if (words == QStringList(u"about"_s))
         return about();
-    return fail(QStringLiteral("arguments"), QStringLiteral("see tarvo-profile --help"), wrongUse);
+    return fail(u"arguments"_s, u"see tarvo-profile --help"_s, wrongUse);
 }

@@ -76,8 +76,8 @@ bool activateRunningApplication(const QString &busAddress, const QString &applic
     BusConnection bus(busAddress);
     QEventLoop loop;
     const auto activate = [&] {
-        auto message = QDBusMessage::createMethodCall(applicationId, pathOf(applicationId), applicationInterface,
-                                                      u"Activate"_s);
+        auto message =
+            QDBusMessage::createMethodCall(applicationId, pathOf(applicationId), applicationInterface, u"Activate"_s);
         message.setAutoStartService(false);
         message << QVariantMap();
         bus.call(message, &loop,

@@ -21,8 +21,8 @@ constexpr std::chrono::milliseconds patience{500}; // with the first answer, bef
 constexpr int maxAttempts = 5;
 constexpr std::chrono::seconds firstPause{1};
 
-const QString busService = QStringLiteral("org.freedesktop.DBus");
-const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+const QString busService = u"org.freedesktop.DBus"_s;
+const QString busPath = u"/org/freedesktop/DBus"_s;
 
 QString unusedName()
 {

@@ -6,11 +6,13 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isKnownForwarder(quint32 process)
 {
-    QFile name(QStringLiteral("/proc/%1/comm").arg(process));
+    QFile name(u"/proc/%1/comm"_s.arg(process));
     return name.open(QIODevice::ReadOnly) && name.read(64).trimmed() == "xembedsniproxy";
 }
 

@@ -11,6 +11,8 @@
 
 namespace tarvo {
 
+using Qt::StringLiterals::operator""_s;
+
 /// An IPv4 lease. Addresses are in host byte order.
 struct Lease {
     quint32 address = 0;
@@ -30,7 +32,7 @@ Lease parseLease(const QByteArray &contents);
 class LeaseFiles final : public LeaseFacts {
 public:
     /// @param root  where the two programs' folders are
-    explicit LeaseFiles(const QString &root = QStringLiteral("/run"));
+    explicit LeaseFiles(const QString &root = u"/run"_s);
 
     quint32 gateway(int interfaceIndex, const HasAddress &hasAddress) const override;
     void watch(std::function<void()> changed) override;

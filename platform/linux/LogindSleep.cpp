@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.login1");
-const QString path = QStringLiteral("/org/freedesktop/login1");
-const QString managerInterface = QStringLiteral("org.freedesktop.login1.Manager");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString service = u"org.freedesktop.login1"_s;
+const QString path = u"/org/freedesktop/login1"_s;
+const QString managerInterface = u"org.freedesktop.login1.Manager"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 
 } // namespace
 

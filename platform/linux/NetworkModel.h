@@ -104,6 +104,7 @@ public:
 
     /// @return what is known of the link @p index
     InterfaceState interfaceState(int index) const;
+
 private:
     std::vector<DefaultRoute>::iterator onlyRouteLike(const DefaultRoute &route);
     void dropRoutesOf(int index);

@@ -7,17 +7,19 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
+const QString watcherService = u"org.kde.StatusNotifierWatcher"_s;
+const QString watcherPath = u"/StatusNotifierWatcher"_s;
 constexpr int answerTimeout = 2000; // milliseconds
 constexpr qsizetype mostItems = 256;
 
 QDBusMessage propertyQuestion(const QString &property)
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        watcherService, watcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(watcherService, watcherPath, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question.setArguments({watcherService, property});
     question.setAutoStartService(false);
     return question;
@@ -44,7 +46,7 @@ void NotifierHosts::busFound()
 {
     for (const char *const signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.subscribe(watcherPath, watcherService, QLatin1String(signal), this, SLOT(askForHost()));
-    m_bus.subscribe(watcherPath, watcherService, QStringLiteral("StatusNotifierItemRegistered"), this,
+    m_bus.subscribe(watcherPath, watcherService, u"StatusNotifierItemRegistered"_s, this,
                     SLOT(itemRegistered(QString)));
 }
 
@@ -62,7 +64,7 @@ void NotifierHosts::askForHost()
 {
     const quint64 question = ++m_hostQuestion;
     m_bus.call(
-        propertyQuestion(QStringLiteral("IsStatusNotifierHostRegistered")), this,
+        propertyQuestion(u"IsStatusNotifierHostRegistered"_s), this,
         [this, question](const QDBusMessage &answer) {
             if (question == m_hostQuestion)
                 hostAnswered(answer);
@@ -89,7 +91,7 @@ void NotifierHosts::setHosted(bool hosted)
 void NotifierHosts::askForItems()
 {
     m_bus.call(
-        propertyQuestion(QStringLiteral("RegisteredStatusNotifierItems")), this,
+        propertyQuestion(u"RegisteredStatusNotifierItems"_s), this,
         [this](const QDBusMessage &answer) {
             const QStringList items = propertyIn(answer).toStringList().mid(0, mostItems);
             for (const QString &item : items)
@@ -107,7 +109,7 @@ void NotifierHosts::askForProcess(const QString &item)
 {
     // An item is named by its bus name, which may be followed by an object path.
     const QString service = item.section(QLatin1Char('/'), 0, 0);
-    m_bus.callBus(QStringLiteral("GetConnectionUnixProcessID"), {service}, this, [this](const QDBusMessage &answer) {
+    m_bus.callBus(u"GetConnectionUnixProcessID"_s, {service}, this, [this](const QDBusMessage &answer) {
         const quint32 process = answer.arguments().value(0).toUInt();
         if (answer.type() != QDBusMessage::ReplyMessage || m_itemProcesses.contains(process))
             return;

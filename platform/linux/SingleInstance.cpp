@@ -4,12 +4,13 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString lockPath(const QString &program)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QLatin1Char('/') + program
-        + QStringLiteral(".lock");
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QLatin1Char('/') + program + u".lock"_s;
 }
 
 } // namespace

@@ -3,20 +3,17 @@
 #include "simulator/demo/DemoWindow.h"
 #include "simulator/demo/DemoWorld.h"
 #include "simulator/demo/Pictures.h"
+#include "simulator/demo/ShownWindows.h"
 #include "ui/CustomView.h"
 #include "ui/StatusWindow.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QImage>
-#include <QLabel>
 #include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 
 #include <algorithm>
 #include <iostream>
@@ -34,30 +31,6 @@ const QByteArray statusPagePart = "logo_data.asp";
 void say(const QString &text)
 {
     std::cout << text.toStdString() << std::endl;
-}
-
-/// The text of the balloon that is on the screen; empty when there is none.
-QString balloonText()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    for (const QWidget *window : windows) {
-        const auto *label = window->isVisible() ? window->findChild<QLabel *>(u"ballooonTextField_"_s) : nullptr;
-        if (label)
-            return label->text();
-    }
-    return {};
-}
-
-/// The window of that kind that is on the screen; null when there is none.
-template <typename Kind>
-Kind *visibleWindow()
-{
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *found = qobject_cast<Kind *>(window); found && found->isVisible())
-            return found;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -236,7 +209,8 @@ void DemoTour::seeFirmware()
     if (auto *button = panel ? panel->findChild<QPushButton *>(u"btnOK_"_s) : nullptr)
         button->click();
     check(u"its button closes it and opens the firmware's page"_s,
-          eventually([&] { return !visibleWindow<QDialog>() && m_world.workspace().openedURLs().size() == before + 1; }, 2s));
+          eventually([&] { return !visibleWindow<QDialog>() && m_world.workspace().openedURLs().size() == before + 1; },
+                     2s));
     check(u"a modem's pages are opened by themselves only once"_s,
           std::ranges::count(m_world.workspace().openedURLs(), QUrl(u"http://%1/"_s.arg(m_world.server().authority())))
               == 1);
@@ -280,20 +254,6 @@ void DemoTour::check(const QString &what, bool passed)
 {
     ++(passed ? m_passed : m_failed);
     say((passed ? u"  ok      "_s : u"  FAILED  "_s) + what);
-}
-
-bool DemoTour::eventually(const std::function<bool()> &condition, std::chrono::milliseconds limit) const
-{
-    QElapsedTimer elapsed;
-    elapsed.start();
-    while (!condition()) {
-        if (elapsed.hasExpired(limit.count()))
-            return false;
-        QEventLoop loop;
-        QTimer::singleShot(20ms, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-    return true;
 }
 
 void DemoTour::takePicture(const QString &name)

@@ -44,9 +44,6 @@ private:
     /// Says what the modem was asked since `begin`.
     void end();
     void check(const QString &what, bool passed);
-    /// Lets events be handled until @p condition holds. @return whether it did within @p limit
-    bool eventually(const std::function<bool()> &condition,
-                    std::chrono::milliseconds limit = std::chrono::seconds(25)) const;
     /// Saves what the window, and the screen where there is one, show. It counts as a failure when that is blank.
     void takePicture(const QString &name);
 

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString interfaceName = u"enx001122334455"_s;
-constexpr int vendorID = 4660;
+constexpr int vendorID = 4661;
 constexpr int productID = 1;
 constexpr auto addressDelay = 600ms; // about what DHCP takes
 } // namespace

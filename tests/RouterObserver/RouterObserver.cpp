@@ -1,6 +1,8 @@
 #include "RouterObserver/RouterObserver.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/SettingsProblem.h"
+#include "RouterObserver/UnknownModems.h"
 #include "platform/StateStore.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedDeviceRegistry.h"
@@ -208,4 +210,39 @@ TEST_F(RouterObserverTest, NeedsAnInterfaceName)
     EXPECT_DEATH(observer_.isSupportedEnthernetBSDName(std::nullopt),
                  "\\(bsdNameRef != NULL\\).*-\\[RouterObserver isSupportedEnthernetBSDName:\\].*"
                  "RouterObserver/RouterObserver.*144");
+}
+
+TEST_F(RouterObserverTest, UnknownModemsAreThoseWithAGatewayThatTheSettingsNeitherNameNorExclude)
+{
+    const auto plug = [&](const QString &name, int vendorID, int productID, const std::optional<QString> &router) {
+        registry_.addModem(name, vendorID, productID);
+        network_.addInterface(name);
+        network_.setIPv4(name, router);
+    };
+    int changes = 0;
+    const UnknownModems unknown(store_, registry_, observer_, [&] { ++changes; });
+    plug(u"en1"_s, vendor, product, u"10.0.0.1"_s);
+    plug(u"en2"_s, vendor + 1, excludedProduct, u"10.0.0.1"_s);
+    plug(u"en3"_s, 0x00ab, 1, std::nullopt);
+    EXPECT_EQ(unknown.first(), std::nullopt);
+    network_.setIPv4(u"en3"_s, u"10.0.0.3"_s);
+    EXPECT_EQ(unknown.first(), u"00ab:0001"_s);
+    network_.removeInterface(u"en3"_s);
+    EXPECT_EQ(unknown.first(), std::nullopt);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(SettingsProblem, IsWhyNoModemCanBeFound)
+{
+    const std::pair<QVariantList, SettingsProblem> cases[] = {
+        {{}, SettingsProblem::NoVendor},
+        {{u"4660"_s}, SettingsProblem::NoVendor},
+        {{qlonglong(17)}, SettingsProblem::VendorIsNumber},
+        {{qlonglong(17), u"18"_s}, SettingsProblem::None},
+    };
+    for (const auto &[vendors, problem] : cases) {
+        settings()[u"device_info"_s] = QVariantMap{{u"vendor_ids"_s, vendors}};
+        EXPECT_EQ(settingsProblem(ConfigManager::sharedConfigManager()), problem);
+    }
+    EXPECT_EQ(settingsProblem(ConfigManager(u"/nonexistent"_s)), SettingsProblem::Unreadable);
 }

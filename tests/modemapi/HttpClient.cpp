@@ -13,19 +13,20 @@
 #include <thread>
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
 class Http : public testing::Test {
 protected:
-    QUrl url(const QString &path = QStringLiteral("logo_data.asp")) const
+    QUrl url(const QString &path = u"logo_data.asp"_s) const
     {
-        return {QStringLiteral("http://%1/%2").arg(server.authority(), path)};
+        return {u"http://%1/%2"_s.arg(server.authority(), path)};
     }
 
     HttpAnswer get(const QUrl &from) { return client.exchange({from, {}, {}, {}}, {}); }
-    HttpAnswer post(const QByteArray &body) { return client.exchange({url(QStringLiteral("set")), {}, body, {}}, {}); }
+    HttpAnswer post(const QByteArray &body) { return client.exchange({url(u"set"_s), {}, body, {}}, {}); }
 
     SimulatedModem modem;
     ModemServer server{modem};
@@ -48,7 +49,7 @@ TEST_F(Http, KeepsItsConnectionBetweenReadsButNeverPostsOnAnOldOne)
     EXPECT_EQ(requests[2].body, "a=b");
     EXPECT_EQ(requests[2].header("Expect"), std::nullopt);
 
-    const auto openDescriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
+    const auto openDescriptors = [] { return QDir(u"/proc/self/fd"_s).count(); };
     const auto before = openDescriptors();
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(post("a=b").error, std::nullopt);
@@ -58,7 +59,7 @@ TEST_F(Http, KeepsItsConnectionBetweenReadsButNeverPostsOnAnOldOne)
 TEST_F(Http, SendsTheAddressAsItIs)
 {
     for (const char *target : {"/", "/set?", "/get?cmd=a,b&c=%20", "/logo_data.asp"}) {
-        EXPECT_FALSE(get(QUrl(QStringLiteral("http://") + server.authority() + QString::fromLatin1(target))).error);
+        EXPECT_FALSE(get(QUrl(u"http://"_s + server.authority() + QString::fromLatin1(target))).error);
         EXPECT_EQ(modem.requests().last().target, target);
     }
 }
@@ -111,7 +112,7 @@ TEST_F(Http, FollowsRedirectsOfReadsOnTheSameServerOnly)
     modem.setFixedAnswer("logo", "page");
 
     server.setFault({FaultKind::Redirect, "old", 0ms, url().toEncoded()});
-    EXPECT_EQ(get(url(QStringLiteral("old"))).data, "page");
+    EXPECT_EQ(get(url(u"old"_s)).data, "page");
     server.setFault({FaultKind::Redirect, {}, 0ms, url().toEncoded()});
     EXPECT_TRUE(get(url()).error) << "a redirect in a circle ends";
 
@@ -123,8 +124,8 @@ TEST_F(Http, FollowsRedirectsOfReadsOnTheSameServerOnly)
 
 TEST_F(Http, OnlySpeaksHttp)
 {
-    EXPECT_TRUE(get(QUrl(QStringLiteral("file:///etc/hostname"))).error);
-    EXPECT_TRUE(get(QUrl(QStringLiteral("ftp://127.0.0.1/"))).error);
+    EXPECT_TRUE(get(QUrl(u"file:///etc/hostname"_s)).error);
+    EXPECT_TRUE(get(QUrl(u"ftp://127.0.0.1/"_s)).error);
     EXPECT_TRUE(get(QUrl()).error);
 }
 
@@ -145,7 +146,7 @@ TEST_F(Http, AStopEndsATransferThatWouldNeverEnd)
         stop.request_stop();
     });
     const auto begun = std::chrono::steady_clock::now();
-    EXPECT_EQ(client.exchange({url(), {}, {}, {}}, stop.get_token()).error, QStringLiteral("stopped"));
+    EXPECT_EQ(client.exchange({url(), {}, {}, {}}, stop.get_token()).error, u"stopped"_s);
     EXPECT_LT(std::chrono::steady_clock::now() - begun, HttpClient::timeout) << "not by the time-out";
     stopper.join();
 

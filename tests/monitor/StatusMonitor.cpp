@@ -43,8 +43,8 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 {
     StatusMonitor monitor({});
-    const std::pair<bool, std::optional<bool>> cases[] = {
-        {false, std::nullopt}, {true, true}, {false, true}, {false, false}, {false, false}, {true, true}};
+    const std::pair<bool, std::optional<bool>> cases[] = {{false, std::nullopt}, {true, true},   {false, true},
+                                                          {false, false},        {false, false}, {true, true}};
     for (const auto &[answered, answering] : cases) {
         monitor.noteAnswer(client.work(), answered);
         EXPECT_EQ(monitor.snapshot().get().answering, answering);
@@ -54,9 +54,10 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 TEST(ModemDetails, AreWhatThePageTells)
 {
     EXPECT_EQ(readModemDetails({}, {}), ModemDetails());
-    const QString page = uR"("modem_main_state":"modem_waitpuk","ppp_status":"ppp_connected","dial_mode":"manual_dial",)"
-                         uR"("international_roaming_setting":"on","flow_reminder_switch":"on",)"
-                         uR"("reminder_threshold_for_data_usage":"8","last_three_days_rx_bytes":"1073741824")"_s;
+    const QString page =
+        uR"("modem_main_state":"modem_waitpuk","ppp_status":"ppp_connected","dial_mode":"manual_dial",)"
+        uR"("international_roaming_setting":"on","flow_reminder_switch":"on",)"
+        uR"("reminder_threshold_for_data_usage":"8","last_three_days_rx_bytes":"1073741824")"_s;
     EXPECT_EQ(readModemDetails(page, readStatusFields(page)),
               (ModemDetails{true, SimState::NeedsPuk, false, true, true, 8, 1}));
 }

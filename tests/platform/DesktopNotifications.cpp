@@ -1,5 +1,6 @@
 #include "platform/linux/DesktopNotifications.h"
 
+#include "platform/linux/ApplicationService.h"
 #include "platform/linux/BusAddress.h"
 #include "platform/linux/BusConnection.h"
 #include "simulator/RecordingLog.h"
@@ -92,4 +93,43 @@ TEST_F(NotificationService, TellsWhenItIsTurnedDown)
     show(u"text"_s);
     EXPECT_TRUE(waitFor([&] { return failures == 1; }));
     EXPECT_TRUE(systemLog.contains(u"notification failed: refused"_s));
+}
+
+TEST_F(NotificationService, OffersAnActionAndIsGivenUpWhenItDoesNotAnswer)
+{
+    startService();
+    int opened = 0;
+    notifications.show(
+        {.title = u"T"_s, .text = u"news"_s, .iconName = {}, .openLabel = u"Open"_s, .opened = [&] { ++opened; }}, {});
+    EXPECT_TRUE(shows({u"news"_s}));
+    awaitReplies();
+    EXPECT_EQ(service.actions(), (QStringList{u"default"_s, u"Open"_s, u"open"_s, u"Open"_s}));
+    service.choose(u"open"_s);
+    EXPECT_TRUE(waitFor([&] { return opened == 1; }));
+
+    service.fallSilent();
+    show(u"unanswered"_s);
+    EXPECT_TRUE(waitFor([&] { return failures == 1; }));
+}
+
+TEST(ApplicationService, LetsASecondStartShowTheFirstAndOthersRestartIt)
+{
+    const QString name = u"org.example.Tests"_s;
+    BusConnection bus(sessionBusAddress());
+    EXPECT_FALSE(activateRunningApplication(sessionBusAddress(), name)) << "nobody is there";
+    int shown = 0;
+    int restarted = 0;
+    const ApplicationService service(bus, name, {.activate = [&] { ++shown; }, .restart = [&] { ++restarted; }});
+    EXPECT_TRUE(waitFor([&] { return activateRunningApplication(sessionBusAddress(), name); }));
+    EXPECT_TRUE(waitFor([&] { return shown == 1; }));
+
+    bool refused = false;
+    for (const QString &action : {u"restart"_s, u"explode"_s}) {
+        auto call = QDBusMessage::createMethodCall(name, u"/org/example/Tests"_s, u"org.freedesktop.Application"_s,
+                                                   u"ActivateAction"_s);
+        call << action << QVariantList() << QVariantMap();
+        bus.call(call, &bus,
+                 [&](const QDBusMessage &answer) { refused = answer.type() == QDBusMessage::ErrorMessage; });
+    }
+    EXPECT_TRUE(waitFor([&] { return refused && restarted == 1; }));
 }

@@ -21,6 +21,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::EndsWith;
@@ -90,16 +92,15 @@ std::unique_ptr<Program> startTrayer(int height, const std::vector<std::string> 
 /// A panel that hosts StatusNotifierItems, and whose XEmbed tray was taken from it.
 std::unique_ptr<Program> startNotifierPanel()
 {
-    const QString folder =
-        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/xfce4/xfconf/xfce-perchannel-xml");
+    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + u"/xfce4/xfconf/xfce-perchannel-xml"_s;
     QDir().mkpath(folder);
-    QFile settings(folder + QStringLiteral("/xfce4-panel.xml"));
+    QFile settings(folder + u"/xfce4-panel.xml"_s);
     EXPECT_TRUE(settings.open(QIODevice::WriteOnly) && settings.write(panelSettings) > 0);
     settings.close();
 
     static const Program settingsService({TARVO_XFCONFD});
     const auto *const bus = QDBusConnection::sessionBus().interface();
-    EXPECT_TRUE(waitFor([&] { return bus->isServiceRegistered(QStringLiteral("org.xfce.Xfconf")).value(); }));
+    EXPECT_TRUE(waitFor([&] { return bus->isServiceRegistered(u"org.xfce.Xfconf"_s).value(); }));
     auto panel = std::make_unique<Program>(std::vector<std::string>{"env", "XDG_DATA_DIRS=/usr/share", "NO_AT_BRIDGE=1",
                                                                     "xfce4-panel", "--disable-wm-check"});
     EXPECT_TRUE(waitFor([screen = *XScreen::ofApplication()] { return trayIsOwned(screen); }));
@@ -149,7 +150,7 @@ protected:
 
 TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 {
-    menu.addAction(QStringLiteral("Quit"));
+    menu.addAction(u"Quit"_s);
     auto tray = startTrayer(24);
     ASSERT_TRUE(waitFor([&] { return item->frame() && !areaOf(magenta).isEmpty(); }));
     EXPECT_EQ(item->frame()->size(), QSize(22, 22)); // the tray's frame takes a pixel on each side
@@ -176,7 +177,7 @@ TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
 {
     const auto tray = startTrayer(24);
-    BusConnection noBus(QStringLiteral("no such bus"));
+    BusConnection noBus(u"no such bus"_s);
     DesktopStatusBar busless(noBus);
     EXPECT_TRUE(waitFor([&] { return busless.kind() == BarKind::Tray; }));
 }
@@ -226,7 +227,7 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
     paint(green);
     item->viewChanged();
     EXPECT_TRUE(waitFor([&] { return !areaOf(green).isEmpty(); }));
-    button.setToolTip(QStringLiteral("another"));
+    button.setToolTip(u"another"_s);
     item->viewChanged();
     EXPECT_THAT(monitor.readLine(), EndsWith("NewIcon"));
     EXPECT_THAT(monitor.readLine(), EndsWith("NewToolTip"));
@@ -240,9 +241,9 @@ TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)
     QWindow tray;
     takeTraySelection(tray);
     ASSERT_TRUE(becomes(BarKind::Tray));
-    const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
-    auto offer = QDBusMessage::createMethodCall(watcher, QStringLiteral("/StatusNotifierWatcher"), watcher,
-                                                QStringLiteral("RegisterStatusNotifierItem"));
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    auto offer =
+        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
     offer << QDBusConnection::sessionBus().baseService();
     QDBusConnection::sessionBus().send(offer);
     EXPECT_TRUE(becomes(BarKind::Notifier));

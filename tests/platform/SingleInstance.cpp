@@ -6,11 +6,13 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(SingleInstance, IsRefusedToTheSecondButNotAfterACrash)
 {
-    const QString name = QStringLiteral("tarvo-test");
+    const QString name = u"tarvo-test"_s;
     const pid_t crashing = fork();
     if (crashing == 0) {
         const SingleInstance instance(name);
@@ -22,7 +24,7 @@ TEST(SingleInstance, IsRefusedToTheSecondButNotAfterACrash)
     const SingleInstance first(name);
     EXPECT_TRUE(first.isOnly());
     EXPECT_FALSE(SingleInstance(name).isOnly());
-    EXPECT_TRUE(SingleInstance(QStringLiteral("another")).isOnly());
+    EXPECT_TRUE(SingleInstance(u"another"_s).isOnly());
 }
 
 } // namespace

@@ -11,6 +11,9 @@
 #include <string>
 
 namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray formType = "application/x-www-form-urlencoded; charset=utf-8";
@@ -89,7 +92,7 @@ TEST_F(ModemServerTest, TakesTheRightTokenOnce)
     EXPECT_TRUE(post(body, headers).contains("success"));
     EXPECT_TRUE(modem.condition().apnReady);
     EXPECT_TRUE(post(body, headers).contains("failure"));
-    EXPECT_EQ(modem.refusals(), QStringList{QStringLiteral("no session")});
+    EXPECT_EQ(modem.refusals(), QStringList{u"no session"_s});
     EXPECT_EQ(modem.requests().back().connection, 1U) << "the connection is kept open";
 }
 
@@ -99,9 +102,7 @@ TEST_F(ModemServerTest, RefusesWhatIsNotExactlyRight)
     EXPECT_TRUE(post(form(session() + '0'), ownReferer(setTarget) + type).contains("failure"));
     EXPECT_TRUE(post(form(session()), ownReferer("/") + type).contains("failure"));
     EXPECT_TRUE(post(form(session()), ownReferer(setTarget) + "Content-Type: text/plain\r\n").contains("failure"));
-    EXPECT_EQ(modem.refusals(),
-              (QStringList{QStringLiteral("wrong token"), QStringLiteral("wrong Referer"),
-                           QStringLiteral("wrong content type")}));
+    EXPECT_EQ(modem.refusals(), (QStringList{u"wrong token"_s, u"wrong Referer"_s, u"wrong content type"_s}));
     EXPECT_TRUE(get(sessionTarget).contains("\"RD\":\"\"")) << "no session without a Referer";
     EXPECT_FALSE(modem.condition().apnReady);
 }
@@ -113,7 +114,7 @@ TEST_F(ModemServerTest, KeepsWhatStandsUnescapedInARecord)
     post("goformId=ADD_APN&apn=" + record + "&AD=" + md5(md5("WA_2.3.1CR_1.0.7") + rd),
          ownReferer(setTarget) + "Content-Type: " + formType + "\r\n");
     ASSERT_EQ(modem.condition().pcApns.size(), 1);
-    EXPECT_EQ(modem.condition().pcApns[0].value(QStringLiteral("profile")), QStringLiteral("A&AD=B+C%20"));
+    EXPECT_EQ(modem.condition().pcApns[0].value(u"profile"_s), u"A&AD=B+C%20"_s);
 }
 
 } // namespace

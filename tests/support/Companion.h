@@ -23,6 +23,8 @@
 
 namespace tarvo {
 
+using Qt::StringLiterals::operator""_s;
+
 /// Lets the event loop run until @p condition holds. @return false when it did not within ten seconds
 bool eventually(const std::function<bool()> &condition);
 
@@ -55,8 +57,8 @@ struct Companion : testing::Test {
     Companion();
 
     /// Plugs @p which in as the interface @p name; its report has been made when this returns.
-    void plugIn(const Modem &which, const QString &name = QStringLiteral("en5"));
-    void unplug(const QString &name = QStringLiteral("en5"));
+    void plugIn(const Modem &which, const QString &name = u"en5"_s);
+    void unplug(const QString &name = u"en5"_s);
 
     /// Lets one second pass, once the worker waits for it, and waits until @p which has been asked for its status page
     /// @p times in all.

@@ -41,7 +41,7 @@ TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
     const InLanguage english(QLocale::English);
     const std::pair<CompanionStatus, QString> cases[] = {
         {{}, u"No modem"_s},
-        {{.settingsProblem = u"No settings"_s}, u"No settings"_s},
+        {{.settingsProblem = SettingsProblem::NoVendor}, u"No modem is set up"_s},
         {{.detection = Detection::NotSetUp, .unknownDevice = u"1234:5678"_s},
          u"USB network device 1234:5678 is not set up"_s},
         {{.detection = Detection::WaitingForAddress}, u"Modem found, waiting for an address"_s},
@@ -66,8 +66,9 @@ TEST(CompanionStatus, TheTipHoldsEachStandingNewsInALine)
     CompanionStatus status = attached(true, {.connected = true});
     EXPECT_EQ(tipOf(status), u"Connected"_s);
     status.snapshot.isHaveNewVersion_ = status.snapshot.isHaveDataLimitExceedForOneMonth_ = true;
-    EXPECT_EQ(tipOf(status), u"Connected\nNew firmware is available for your modem.\n"
-                             "You have used more than your monthly limit of 10.0 GB."_s);
+    EXPECT_EQ(tipOf(status),
+              u"Connected\nNew firmware is available for your modem.\n"
+              "You have used more than your monthly limit of 10.0 GB."_s);
     status.detection = Detection::NoModem;
     EXPECT_EQ(tipOf(status), u"No modem"_s);
 }
@@ -85,8 +86,7 @@ TEST(StatusRows, AreAlwaysTheSameAndSayWhatIsKnown)
         EXPECT_EQ(unknown[i].value, u"–"_s) << known[i].label.toStdString();
         values << known[i].value;
     }
-    EXPECT_EQ(values.join(u','),
-              u"Connected,automatic,–,no new version offered,Stick (1234:5678),–,–,–,2 sent,–"_s);
+    EXPECT_EQ(values.join(u','), u"Connected,automatic,–,no new version offered,Stick (1234:5678),–,–,–,2 sent,–"_s);
     EXPECT_TRUE(supportText({}, device).contains(u"\nNo modem\n"));
 }
 

@@ -27,11 +27,21 @@ TEST(IconMenu, HasTheSameEntriesAtAllTimesAndStandsStillWhileItIsOpen)
 {
     QStringList done;
     const auto note = [&](const QString &what) { return [&done, what] { done += what; }; };
-    IconMenu menu({note(u"status"_s), note(u"click"_s), note(u"modem"_s), {},
-                   [&](Page page) { done += u"page %1"_s.arg(int(page)); }, note(u"settings"_s), note(u"about"_s),
+    IconMenu menu({note(u"status"_s),
+                   note(u"click"_s),
+                   note(u"modem"_s),
+                   {},
+                   [&](Page page) { done += u"page %1"_s.arg(int(page)); },
+                   note(u"settings"_s),
+                   note(u"about"_s),
                    note(u"quit"_s)});
-    const QStringList before{u""_s,          u"(MenuOpenHomePage)"_s, u"(MenuOpenModemPage)"_s, u"(MenuRecentNews)"_s,
-                             u"MenuSettings"_s, u"MenuAbout"_s,          u"MenuQuit"_s};
+    const QStringList before{u""_s,
+                             u"(MenuOpenHomePage)"_s,
+                             u"(MenuOpenModemPage)"_s,
+                             u"(MenuRecentNews)"_s,
+                             u"MenuSettings"_s,
+                             u"MenuAbout"_s,
+                             u"MenuQuit"_s};
     EXPECT_EQ(texts(menu.menu()), before);
 
     menu.menu().popup({});

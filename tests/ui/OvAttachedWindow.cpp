@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace tarvo;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,7 +19,7 @@ const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnviron
 struct BalloonWindow : testing::Test {
     BalloonWindow()
     {
-        ground.setStyleSheet(QStringLiteral("background: white"));
+        ground.setStyleSheet(u"background: white"_s);
         ground.setGeometry(200, 50, 880, 400);
         ground.show();
         view.resize(200, 40);

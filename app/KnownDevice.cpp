@@ -1,0 +1,48 @@
+#include "app/KnownDevice.h"
+
+#include "RouterObserver/UsbIdentity.h"
+
+#include <QDateTime>
+
+namespace tarvo {
+
+KnownDevice::KnownDevice(const Services &services)
+    : m_services(services)
+{
+}
+
+void KnownDevice::keep(const ReadyDictionary &ready)
+{
+    const auto &name = ready.kOmbraBSDName;
+    const auto &binderFor = m_services.socketBinderFor;
+    m_location = {*ready.router, name, binderFor && name ? binderFor(*name) : SocketBinder()};
+    const auto identity = usbIdentity(m_services.deviceRegistry, ready.kOmbraIOService);
+    m_details = {.name = m_services.deviceName && name ? m_services.deviceName(*name) : QString(),
+                 .usbIdentity = identity ? identity->text() : QString(),
+                 .interfaceName = name.value_or(QString()),
+                 .address = ready.addresses.value(0).section(u'/', 0, 0),
+                 .gateway = *ready.router};
+    m_reported = m_services.clock.now();
+    m_lastAnswer = 0;
+}
+
+void KnownDevice::noteAnswer()
+{
+    m_lastAnswer = QDateTime::currentMSecsSinceEpoch();
+}
+
+DeviceDetails KnownDevice::details(int accessPointsSent) const
+{
+    DeviceDetails details = m_details;
+    details.accessPointsSent = accessPointsSent;
+    if (m_lastAnswer != 0)
+        details.lastAnswer = QDateTime::fromMSecsSinceEpoch(m_lastAnswer);
+    return details;
+}
+
+std::chrono::seconds KnownDevice::sinceReport() const
+{
+    return std::chrono::duration_cast<std::chrono::seconds>(m_services.clock.now() - m_reported);
+}
+
+} // namespace tarvo
