@@ -98,55 +98,92 @@ int showRunningInstance()
     return EXIT_FAILURE;
 }
 
-int run(QApplication &application, SystemLog &systemLog)
+/// The operating system and the desktop, as the controller sees them.
+class Surroundings {
+public:
+    Surroundings(QApplication &application, SystemLog &systemLog);
+
+    Services services();
+    BusConnection &sessionBus() { return m_sessionBus; }
+    /// A modem that slept along says nothing by itself, so that its state is told again after the machine woke.
+    void announceServicesAfterWake();
+
+private:
+    void lookAgain();
+
+    SystemLog &m_systemLog;
+    LeaseFiles m_leases;
+    NetlinkDynamicStore m_dynamicStore{m_systemLog, m_leases};
+    QTimer m_lookAgain; ///< fires when what waits for a device shall hear of it once more
+    UdevDeviceRegistry m_deviceRegistry{[this](const QString &name) { return m_dynamicStore.interfaceIndex(name); },
+                                        [this] { lookAgain(); }};
+    BusConnection m_systemBus{systemBusAddress()};
+    BusConnection m_sessionBus{sessionBusAddress()};
+    LogindWorkspace m_workspace{m_systemBus, m_systemLog};
+    DesktopStatusBar m_statusBar;
+    DesktopNotifications m_notifications{m_sessionBus, m_systemLog};
+    SteadyClock m_clock;
+    UdevUsbNetworkDevices m_usbDevices;
+};
+
+Surroundings::Surroundings(QApplication &application, SystemLog &systemLog)
+    : m_systemLog(systemLog)
+    , m_statusBar(m_sessionBus, [&application] { startOverLater(application); })
+{
+    m_lookAgain.setSingleShot(true);
+    QObject::connect(&m_lookAgain, &QTimer::timeout, &m_lookAgain, [this] {
+        m_dynamicStore.announce(store::interfaceListKey);
+        m_dynamicStore.announce(store::anyServiceIPv4Pattern);
+    });
+    m_dynamicStore.setLinkRemovedHandler([this](int index) { m_deviceRegistry.forgetInterface(index); });
+}
+
+void Surroundings::lookAgain()
+{
+    if (!m_lookAgain.isActive())
+        m_lookAgain.start(std::chrono::seconds(1));
+}
+
+void Surroundings::announceServicesAfterWake()
+{
+    m_workspace.addSleepObserver([] {}, [this] { m_dynamicStore.announceServices(); });
+}
+
+Services Surroundings::services()
+{
+    Services services{
+        .dynamicStore = m_dynamicStore,
+        .deviceRegistry = m_deviceRegistry,
+        .workspace = m_workspace,
+        .statusBar = m_statusBar,
+        .clock = m_clock,
+        .systemLog = m_systemLog,
+        .socketBinderFor = [this](const QString &name) { return socketBinder(m_dynamicStore.interfaceIndex(name)); },
+        .terminate = [] { QApplication::quit(); },
+        .notifications = &m_notifications,
+        .deviceName = [this](const QString &name) { return deviceName(m_usbDevices, name); },
+        .isScreenComposited = isScreenComposited};
+    const QString setupProgram = findSetupProgram();
+    if (!setupProgram.isEmpty())
+        services.openSettings = [this, setupProgram] { m_workspace.launchApplication(setupProgram); };
+    return services;
+}
+
+void logSettings(SystemLog &systemLog)
 {
     const ConfigManager &settings = ConfigManager::sharedConfigManager();
     systemLog.write(u"settings: "_s + settings.settingPath().value_or(u"no tarvo/Config.plist was found"_s));
     if (const auto &problem = settings.loadProblem())
         systemLog.write(*problem);
+}
 
-    LeaseFiles leases;
-    NetlinkDynamicStore dynamicStore(systemLog, leases);
-    // What waits for a device that could not be looked at hears of the same state once more, and asks again.
-    QTimer lookAgain;
-    lookAgain.setSingleShot(true);
-    lookAgain.setInterval(std::chrono::seconds(1));
-    QObject::connect(&lookAgain, &QTimer::timeout, &lookAgain, [&] {
-        dynamicStore.announce(store::interfaceListKey);
-        dynamicStore.announce(store::anyServiceIPv4Pattern);
-    });
-    UdevDeviceRegistry deviceRegistry([&](const QString &name) { return dynamicStore.interfaceIndex(name); },
-                                      [&] {
-                                          if (!lookAgain.isActive())
-                                              lookAgain.start();
-                                      });
-    dynamicStore.setLinkRemovedHandler([&](int interfaceIndex) { deviceRegistry.forgetInterface(interfaceIndex); });
-    BusConnection systemBus(systemBusAddress());
-    BusConnection sessionBus(sessionBusAddress());
-    LogindWorkspace workspace(systemBus, systemLog);
-    DesktopStatusBar statusBar(sessionBus, [&] { startOverLater(application); });
-    DesktopNotifications notifications(sessionBus, systemLog);
-    SteadyClock clock;
-    UdevUsbNetworkDevices usbDevices;
-    const QString setupProgram = findSetupProgram();
-
-    Services services{
-        .dynamicStore = dynamicStore,
-        .deviceRegistry = deviceRegistry,
-        .workspace = workspace,
-        .statusBar = statusBar,
-        .clock = clock,
-        .systemLog = systemLog,
-        .socketBinderFor = [&](const QString &name) { return socketBinder(dynamicStore.interfaceIndex(name)); },
-        .terminate = [] { QApplication::quit(); },
-        .notifications = &notifications,
-        .deviceName = [&](const QString &name) { return deviceName(usbDevices, name); },
-        .isScreenComposited = isScreenComposited};
-    if (!setupProgram.isEmpty())
-        services.openSettings = [&] { workspace.launchApplication(setupProgram); };
-    MainController controller(services);
+int run(QApplication &application, SystemLog &systemLog)
+{
+    logSettings(systemLog);
+    Surroundings surroundings(application, systemLog);
+    MainController controller(surroundings.services());
     const ApplicationService service(
-        sessionBus, applicationId,
+        surroundings.sessionBus(), applicationId,
         {.activate = [&] { controller.showStatus(); }, .restart = [] { QApplication::exit(startOver); }});
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
@@ -154,8 +191,7 @@ int run(QApplication &application, SystemLog &systemLog)
     });
 
     controller.awakeFromNib();
-    // A modem that slept along says nothing by itself, so that its state is told again, after the controller woke.
-    workspace.addSleepObserver([] {}, [&] { dynamicStore.announceServices(); });
+    surroundings.announceServicesAfterWake(); // after the controller woke
     controller.applicationDidFinishLaunching();
     return QApplication::exec();
 }
@@ -166,7 +202,7 @@ int start(int argc, char **argv, SystemLog &systemLog)
     QApplication application(argc, argv);
     sessionBusForQt.reset();
     const TerminationSignals signals(&QApplication::quit);
-    QApplication::setApplicationName(u"tarvo"_s);
+    QApplication::setApplicationName(u"Tarvo"_s); // the icon's title, too, in bars that show one
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     QApplication::setDesktopFileName(applicationId);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -79,19 +79,14 @@ private:
         case FaultKind::SlowAnswer:
             QTimer::singleShot(fault.delay, this, [this, reply] { m_socket->write(wholeAnswer(reply)); });
             return;
-        case FaultKind::HalfAnswer: {
-            const QByteArray answer = wholeAnswer(reply);
-            m_socket->write(answer.left(answer.size() - (reply.body.size() + 1) / 2));
-            m_socket->disconnectFromHost();
+        case FaultKind::HalfAnswer:
+            sendHalf(wholeAnswer(reply), reply.body.size());
             return;
-        }
         case FaultKind::EndlessAnswer:
-            m_endless = QByteArray(endlessChunk, 'x');
-            m_socket->write(headOf(reply, "Connection: close\r\n"));
+            sendEndlessly(headOf(reply, "Connection: close\r\n"), QByteArray(endlessChunk, 'x'));
             return;
         case FaultKind::EndlessHead:
-            m_endless = "X: " + QByteArray(endlessLine, 'x') + "\r\n";
-            m_socket->write("HTTP/1.1 200 OK\r\n");
+            sendEndlessly("HTTP/1.1 200 OK\r\n", "X: " + QByteArray(endlessLine, 'x') + "\r\n");
             return;
         case FaultKind::WrongBytes:
             reply.body = notUtf8;
@@ -101,16 +96,25 @@ private:
             m_socket->disconnectFromHost();
             return;
         case FaultKind::CloseKeptAlive:
-            if (m_requests > 1)
-                m_socket->disconnectFromHost();
-            else
-                m_socket->write(wholeAnswer(reply));
+            m_requests > 1 ? m_socket->disconnectFromHost() : void(m_socket->write(wholeAnswer(reply)));
             return;
         case FaultKind::Redirect:
             reply = {.status = 302, .body = {}};
             m_socket->write(wholeAnswer(reply, "Location: " + fault.location + "\r\n"));
             return;
         }
+    }
+
+    void sendHalf(const QByteArray &answer, qsizetype bodySize)
+    {
+        m_socket->write(answer.left(answer.size() - (bodySize + 1) / 2));
+        m_socket->disconnectFromHost();
+    }
+
+    void sendEndlessly(const QByteArray &start, const QByteArray &piece)
+    {
+        m_endless = piece;
+        m_socket->write(start);
     }
 
     void writeOn()

@@ -9,9 +9,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QImage>
 #include <QMenu>
-#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 
