@@ -9,7 +9,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
 #include <QMenu>
+#include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 
