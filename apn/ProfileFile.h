@@ -11,7 +11,7 @@
 namespace tarvo {
 
 /// A profile is a few records; a file of more bytes than this is none.
-inline constexpr qsizetype maximumProfileSize = 256 * 1024;
+inline constexpr qsizetype maximumProfileSize{256 << 10};
 
 /// What reading a file gave.
 struct ProfileBytes {

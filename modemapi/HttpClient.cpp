@@ -63,10 +63,11 @@ struct Receipt {
 size_t receiveBody(char *bytes, size_t size, size_t count, void *context)
 {
     auto &receipt = *static_cast<Receipt *>(context);
-    if (!receipt.count(size * count))
+    const size_t length = size * count;
+    if (!receipt.count(length))
         return CURL_WRITEFUNC_ERROR;
-    receipt.body.append(bytes, static_cast<qsizetype>(size * count));
-    return size * count;
+    receipt.body.append(bytes, static_cast<qsizetype>(length));
+    return length;
 }
 
 size_t receiveHeaderLine(char *, size_t size, size_t count, void *context)

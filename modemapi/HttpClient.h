@@ -36,7 +36,7 @@ struct HttpAnswer {
 class HttpClient {
 public:
     static constexpr std::chrono::milliseconds timeout{5000}; ///< of one exchange, redirects included
-    static constexpr qsizetype maximumAnswerSize = 4 * 1024 * 1024; ///< in bytes, heads and bodies together
+    static constexpr qsizetype maximumAnswerSize{4 << 20}; ///< in bytes, heads and bodies together
 
     /// Connects to nothing yet.
     HttpClient();

@@ -206,6 +206,7 @@ class CompanionTest(unittest.TestCase):
     def test_a_link_that_went_down_is_ready_again_when_it_has_a_router(self):
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
+        self.until(lambda: any(line.startswith("default_apn: ") for line in self.log))
         ip("link set enx1 down")
         self.until(lambda: "data is nil" in self.log)
         self.modem.bring_up("enx1")

@@ -44,7 +44,8 @@ class SetupTest(unittest.TestCase):
         environment = nowhere | {
             "PATH": os.environ["PATH"], "HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.folder / "config"),
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root),
-            "ASAN_OPTIONS": "verify_asan_link_order=0", "DBUS_SESSION_BUS_ADDRESS": bus}
+            "ASAN_OPTIONS": "verify_asan_link_order=0", "TSAN_OPTIONS": os.environ.get("TSAN_OPTIONS", ""),
+            "DBUS_SESSION_BUS_ADDRESS": bus}
         run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
                              check=False)
         self.assertEqual(run.returncode, status, run.stdout)
