@@ -190,6 +190,14 @@ class CompanionTest(unittest.TestCase):
         self.until(lambda: len(modem.polls()) > seen)
         self.assertIn(name, self.log)
 
+    def descriptors(self):
+        return len(os.listdir(f"/proc/{self.program.pid}/fd"))
+
+    def memory(self):
+        """What is resident, in KiB."""
+        status = pathlib.Path(f"/proc/{self.program.pid}/status").read_text()
+        return int(status.split("VmRSS:")[1].split()[0])
+
     def test_polls_once_a_second_until_unplugged_and_again_when_plugged_in(self):
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
@@ -262,6 +270,32 @@ class CompanionTest(unittest.TestCase):
         ip("link del group 9")
         self.modem.unplug("enx1")
         self.until(lambda: "DeviceRemoved,stopGetModemStatus" in self.log)
+
+    def test_a_hundred_quick_plugs_leave_nothing_behind(self):
+        self.modem.plug("enx1")
+        self.until_ready(self.modem, "enx1")
+        before = self.descriptors()
+        for _ in range(100):
+            self.modem.unplug("enx1")
+            self.modem.plug("enx1")
+        seen = len(self.modem.polls())
+        self.until(lambda: len(self.modem.polls()) > seen + 2)
+        self.modem.unplug("enx1")
+        self.until(lambda: self.log[-1] == "DeviceRemoved,stopGetModemStatus")
+        self.until(lambda: self.descriptors() <= before)
+
+    def test_a_modem_that_answers_nonsense_costs_little_and_is_heard_again(self):
+        self.modem.plug("enx1")
+        self.until_ready(self.modem, "enx1")
+        before = self.memory()
+        for fault in ("half", "endless", "endless-head", "bytes", "close", "close-kept", "refuse"):
+            with self.subTest(fault):
+                self.modem.tell(f"fault {fault}")
+                time.sleep(2.5)  # a pass or two
+                self.assertLess(self.memory(), before + 32 * 1024)
+                self.modem.tell("fault none")
+                seen = len(self.modem.polls())
+                self.until(lambda: len(self.modem.polls()) > seen + 2)
 
     def test_says_that_there_is_no_display(self):
         program = subprocess.run([sys.argv[1]], env=self.environment | {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ""},

@@ -3,7 +3,6 @@
 #include "platform/StateStore.h"
 #include "setup/Autostart.h"
 #include "setup/SettingKeys.h"
-#include "setup/window/TitledItems.h"
 #include "simulator/ModemServer.h"
 #include "simulator/SimulatedModem.h"
 #include "tests/support/DesktopEnvironment.h"
@@ -13,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
@@ -48,13 +48,13 @@ struct SetupWindowTest : testing::Test {
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         tabs = window->findChild<QTabWidget *>();
-        list = tabs->widget(0)->findChild<TitledList *>();
+        list = tabs->widget(0)->findChild<QListWidget *>();
     }
 
     /// @return the accessible text of a row, which is all that it shows
     QString row(int index, int tab = 0) const
     {
-        const auto *const item = tabs->widget(tab)->findChild<TitledList *>()->item(index);
+        const auto *const item = tabs->widget(tab)->findChild<QListWidget *>()->item(index);
         return item ? item->data(Qt::AccessibleTextRole).toString() : QString();
     }
 
@@ -97,7 +97,7 @@ struct SetupWindowTest : testing::Test {
     Survey survey{services};
     std::unique_ptr<SetupWindow> window;
     QTabWidget *tabs = nullptr;
-    TitledList *list = nullptr;
+    QListWidget *list = nullptr;
 };
 
 } // namespace
