@@ -226,7 +226,7 @@ QByteArrayView BinaryFile::bytesOf(const Object &object) const
 /// @param seconds  since the beginning of 2001, UTC
 std::optional<QVariant> date(double seconds)
 {
-    static const QDateTime epoch(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    static const QDateTime epoch = QDateTime::fromString(QStringLiteral("2001-01-01T00:00:00Z"), Qt::ISODate);
     constexpr double tenThousandYears = 3.2e11;
     return std::abs(seconds) < tenThousandYears ? std::optional(QVariant(epoch.addSecs(static_cast<qint64>(seconds))))
                                                 : std::nullopt; // NaN too
