@@ -81,10 +81,10 @@ curl_socket_t openSocket(void *, curlsocktype, curl_sockaddr *address)
     return ::socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol);
 }
 
-int prepare(void *context, curl_socket_t socket, curlsocktype)
+int prepareSocket(void *context, curl_socket_t socket, curlsocktype)
 {
-    const auto &prepareSocket = *static_cast<const std::function<bool(int)> *>(context);
-    return !prepareSocket || prepareSocket(socket) ? CURL_SOCKOPT_OK : CURL_SOCKOPT_ERROR;
+    const auto &prepare = *static_cast<const std::function<bool(int)> *>(context);
+    return !prepare || prepare(socket) ? CURL_SOCKOPT_OK : CURL_SOCKOPT_ERROR;
 }
 
 int portOf(const QUrl &url)
@@ -135,6 +135,14 @@ public:
     }
 
 private:
+    /// What the next transfer of a read finds prepared: the usual one asks for the same page as the last.
+    struct Prepared {
+        QUrl url;
+        QList<QByteArray> headers;
+
+        bool operator==(const Prepared &) const = default;
+    };
+
     HttpAnswer fetch(const QUrl &url, const HttpRequest &request, std::chrono::steady_clock::time_point deadline,
                      const std::stop_token &stop)
     {
@@ -144,45 +152,49 @@ private:
             return {{}, u"stopped"_s};
 
         Receipt receipt;
-        const HeaderList headers = headerList(request.headers);
-        prepareHandle(url, request, left, headers.get());
-        prepareReceipt(receipt);
+        if (request.body || m_prepared != Prepared{url, request.headers})
+            prepare(url, request);
+        curl_easy_setopt(m_easy.get(), CURLOPT_TIMEOUT_MS, static_cast<long>(left));
+        curl_easy_setopt(m_easy.get(), CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(left));
+        curl_easy_setopt(m_easy.get(), CURLOPT_SOCKOPTDATA, &request.prepareSocket);
+        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEDATA, &receipt);
+        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERDATA, &receipt);
         const CURLcode result = perform(stop);
         if (result != CURLE_OK)
             return {{}, QString::fromUtf8(stop.stop_requested() ? "stopped" : curl_easy_strerror(result))};
         return {std::move(receipt.body), std::nullopt};
     }
 
-    void prepareHandle(const QUrl &url, const HttpRequest &request, long long milliseconds, curl_slist *headers)
+    void prepare(const QUrl &url, const HttpRequest &request)
     {
         CURL *easy = m_easy.get();
         curl_easy_reset(easy); // keeps the open connections
+        m_headers = headerList(request.headers);
         curl_easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
         curl_easy_setopt(easy, CURLOPT_REQUEST_TARGET, requestTarget(url).constData());
         curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
         curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
         curl_easy_setopt(easy, CURLOPT_PROXY, "");
         curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
-        curl_easy_setopt(easy, CURLOPT_TIMEOUT_MS, static_cast<long>(milliseconds));
-        curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(milliseconds));
-        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, headers);
+        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
         curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, openSocket);
-        curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepare);
-        curl_easy_setopt(easy, CURLOPT_SOCKOPTDATA, &request.prepareSocket);
-        if (request.body) {
-            curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body->size()));
-            curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, request.body->constData());
-            curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
-            curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
-        }
+        curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepareSocket);
+        curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, receiveBody);
+        curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, receiveHeaderLine);
+        m_prepared.reset();
+        if (request.body)
+            preparePost(*request.body);
+        else
+            m_prepared = {url, request.headers};
     }
 
-    void prepareReceipt(Receipt &receipt)
+    void preparePost(const QByteArray &body)
     {
-        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEFUNCTION, receiveBody);
-        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEDATA, &receipt);
-        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERFUNCTION, receiveHeaderLine);
-        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERDATA, &receipt);
+        CURL *easy = m_easy.get();
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
+        curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, body.constData());
+        curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
+        curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
     }
 
     CURLcode perform(const std::stop_token &stop)
@@ -213,6 +225,8 @@ private:
         return target ? std::optional(QUrl::fromEncoded(target)) : std::nullopt;
     }
 
+    HeaderList m_headers; ///< used by the handle
+    std::optional<Prepared> m_prepared; ///< nil when the handle is prepared for nothing, or for a post
     std::unique_ptr<CURL, EasyDeleter> m_easy;
     std::unique_ptr<CURLM, MultiDeleter> m_multi;
 };

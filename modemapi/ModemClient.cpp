@@ -7,9 +7,6 @@
 #include "platform/SystemLog.h"
 
 #include <QDateTime>
-#include <QUrl>
-
-#include <utility>
 
 namespace tarvo {
 
@@ -56,10 +53,18 @@ QString ModemClient::modemUrl(const QString &path) const
     return u"http://%1/%2"_s.arg(m_work.router(), path);
 }
 
+/// @return @p text taken apart, which the status page needs each second and always in the same way
+const QUrl &ModemClient::parsed(const QString &text)
+{
+    if (m_parsed.first != text)
+        m_parsed = {text, QUrl(text)};
+    return m_parsed.second;
+}
+
 HttpAnswer ModemClient::exchange(const QString &url, const QList<QByteArray> &headers,
                                  const std::optional<QByteArray> &body)
 {
-    return m_http.exchange({QUrl(url), headers, body, m_work.bindSocket()}, m_work.stopToken());
+    return m_http.exchange({parsed(url), headers, body, m_work.bindSocket()}, m_work.stopToken());
 }
 
 std::optional<QString> ModemClient::getContentFormRefererRequest(const QString &url, std::optional<QString> *)
@@ -90,7 +95,7 @@ ModemClient::WebContent ModemClient::content(const QString &url)
 std::optional<QString> ModemClient::statusPage()
 {
     const QString url = modemUrl(getNetInfoAddress());
-    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !QUrl(url).isValid())
+    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !parsed(url).isValid())
         return std::nullopt;
     WebContent page = content(url);
     if (page.error)

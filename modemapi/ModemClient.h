@@ -4,8 +4,10 @@
 #include "modemapi/HttpClient.h"
 
 #include <QString>
+#include <QUrl>
 
 #include <optional>
+#include <utility>
 
 namespace tarvo {
 
@@ -61,6 +63,7 @@ private:
     };
 
     QString modemUrl(const QString &path) const;
+    const QUrl &parsed(const QString &text);
     HttpAnswer exchange(const QString &url, const QList<QByteArray> &headers,
                         const std::optional<QByteArray> &body = std::nullopt);
     WebContent plainContent(const QString &url);
@@ -70,6 +73,7 @@ private:
     const Work m_work;
     SystemLog &m_systemLog;
     HttpClient m_http;
+    std::pair<QString, QUrl> m_parsed; ///< a URL's text, and the URL
 };
 
 } // namespace tarvo

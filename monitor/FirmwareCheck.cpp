@@ -45,11 +45,9 @@ bool FirmwareCheck::checkFotaUpdateWhenConnected(ModemClient &client)
 void FirmwareCheck::checkFotaUpdateWhenDue(ModemClient &client, const QString &content)
 {
     const std::stop_token attachment = client.work().stopToken();
-    if (!isConnectedWithStautusContent(getConnectionStatusWithWebContent(content)))
-        return;
     bool due = false;
     client.work().whileAttached([&] { due = m_schedule.isDue(attachment, m_clock.now()); });
-    if (!due)
+    if (!due || !isConnectedWithStautusContent(getConnectionStatusWithWebContent(content)))
         return;
     const auto pause = checkFotaUpdateWhenConnected(client) ? 10min : 1min;
     client.work().whileAttached([&] { m_schedule = {attachment, m_clock.now() + pause}; });

@@ -54,15 +54,25 @@ void StatusMonitor::publish(const Work &work, const std::function<void(StatusSna
 
 void StatusMonitor::setAllStatusByUrlContents(const Work &work, const QString &content)
 {
+    bool known = false; // nearly always: the same page makes nothing else of the snapshot that it made
+    work.whileAttached([&] { known = content == m_content && m_snapshot.get() == m_evaluated; });
+    if (!known)
+        evaluate(work, content);
+    if (m_listeners.evaluated && !work.isOver())
+        m_listeners.evaluated(work);
+}
+
+void StatusMonitor::evaluate(const Work &work, const QString &content)
+{
     const StatusFields fields = readStatusFields(content);
     publish(work, [&](StatusSnapshot &snapshot) {
         snapshot.isRoamOn_ = isRoaming(fields);
         applyUsage(snapshot, monthlyUsage(fields), threeDayUsage(fields));
         raiseNotices(snapshot);
         snapshot.details = readModemDetails(content, fields);
+        m_content = content;
+        m_evaluated = snapshot;
     });
-    if (m_listeners.evaluated && !work.isOver())
-        m_listeners.evaluated(work);
 }
 
 void StatusMonitor::noteAnswer(const Work &work, bool answered)

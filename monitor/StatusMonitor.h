@@ -47,12 +47,15 @@ public:
     void resetForStop();
 
 private:
+    void evaluate(const Work &work, const QString &content);
     void publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change);
 
     const Listeners m_listeners;
     SharedSnapshot m_snapshot;
     StatusSnapshot m_told; ///< the last one that listeners were told; touched on behalf of the present attachment only
-    int m_failures = 0; ///< in a row; touched as the last
+    int m_failures = 0; ///< in a row; touched as the last, like the next two
+    QString m_content; ///< the page that was evaluated last
+    StatusSnapshot m_evaluated; ///< what it made
     std::int32_t currentNetWorkStatus_ = 0;
     std::int32_t netWorkTransferType_ = 1;
 };
