@@ -16,15 +16,17 @@ import time
 import unittest
 
 import companion_test
-from companion_test import Modem, UsbDevices
+import plugged_modem
+from plugged_modem import Modem, UsbDevices
 
-companion_test.VENDOR = 0x19D3  # not the example that the shipped settings name
+plugged_modem.VENDOR = 0x19D3  # not the example that the shipped settings name
 DEVICE = "19d3:5678"
 
 
 class SetupTest(unittest.TestCase):
     """Has what starts, awaits and ends the companion in common with the companion's own tests."""
 
+    simulator = companion_test.CompanionTest.simulator
     start_program = companion_test.CompanionTest.start_program
     read_lines = companion_test.CompanionTest.read_lines
     until = companion_test.CompanionTest.until
@@ -105,7 +107,6 @@ class SetupTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if companion_test.INSIDE not in os.environ:
-        companion_test.in_namespace()
+    plugged_modem.enter_namespace()
     sys.argv[1:], options = sys.argv[-3:], sys.argv[1:-3]
     unittest.main(argv=[sys.argv[0], *options])

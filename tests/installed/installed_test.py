@@ -71,6 +71,5 @@ class InstalledTest(companion_test.CompanionTest):
 
 
 if __name__ == "__main__":
-    if companion_test.INSIDE not in os.environ:
-        companion_test.in_namespace()
+    companion_test.enter_namespace()
     unittest.main(argv=[sys.argv[0], "-v", "InstalledTest.test_shows_the_modem_and_sends_it_a_command"])
