@@ -121,34 +121,45 @@ class Modem:
     def bring_up(self, name, metric=100):
         ip(f"link set {name} up", f"route add default via {self.subnet}.1 dev {name} metric {metric}")
 
+    def requests(self):
+        *lines, _ = self.record.read_text().split("\n")  # the last one is empty, or still being written
+        return [json.loads(line) for line in lines]
+
     def polls(self):
         """The times, in seconds, at which the status page was asked for."""
-        *lines, _ = self.record.read_text().split("\n")  # the last one is empty, or still being written
-        return [r["time"] / 1000 for r in map(json.loads, lines) if r["target"].startswith("/logo_data.asp")]
+        return [r["time"] / 1000 for r in self.requests() if r["target"].startswith("/logo_data.asp")]
 
 
-class CompanionTest(unittest.TestCase):
+class Companion(unittest.TestCase):
+    """Starts, awaits and ends the program; has no tests of its own."""
+
+    settings = CONFIG
+
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
         self.usb = UsbDevices(self.folder / "devices")
-        write(self.folder / "config/tarvo/Config.plist", plistlib.dumps(CONFIG).decode())
+        write(self.folder / "config/tarvo/Config.plist", plistlib.dumps(self.settings).decode())
         self.modem = Modem(self, "192.168.8")
         self.start_program()
 
+    def open_bus(self):
+        """A bus that says nothing. @return its address"""
+        mute_bus = socket.socket(socket.AF_UNIX)
+        self.addCleanup(mute_bus.close)
+        mute_bus.bind(str(self.folder / "bus"))
+        mute_bus.listen()
+        return f"unix:path={self.folder}/bus"
+
     def start_program(self):
-        mute = f"unix:path={self.folder}/bus"
-        self.mute_bus = socket.socket(socket.AF_UNIX)
-        self.addCleanup(self.mute_bus.close)
-        self.mute_bus.bind(str(self.folder / "bus"))
-        self.mute_bus.listen()
+        bus = self.open_bus()
         self.environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
-            "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
+            "ASAN_OPTIONS": "verify_asan_link_order=0:quarantine_size_mb=8", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
+            "DBUS_SESSION_BUS_ADDRESS": bus, "DBUS_SYSTEM_BUS_ADDRESS": bus}
         self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
@@ -194,10 +205,12 @@ class CompanionTest(unittest.TestCase):
         return len(os.listdir(f"/proc/{self.program.pid}/fd"))
 
     def memory(self):
-        """What is resident, in KiB."""
+        """What was resident at most, in KiB."""
         status = pathlib.Path(f"/proc/{self.program.pid}/status").read_text()
-        return int(status.split("VmRSS:")[1].split()[0])
+        return int(status.split("VmHWM:")[1].split()[0])
 
+
+class CompanionTest(Companion):
     def test_polls_once_a_second_until_unplugged_and_again_when_plugged_in(self):
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
