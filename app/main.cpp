@@ -199,7 +199,9 @@ int run(QApplication &application, SystemLog &systemLog)
 int start(int argc, char **argv, SystemLog &systemLog)
 {
     std::optional<SessionBusForQt> sessionBusForQt(std::in_place);
-    QApplication application(argc, argv);
+    // Goes with the process: its destructor waits for the display, and loads all fonts only to let go of them when
+    // nothing has needed one.
+    QApplication &application = *new QApplication(argc, argv);
     sessionBusForQt.reset();
     const TerminationSignals signals(&QApplication::quit);
     QApplication::setApplicationName(u"Tarvo"_s); // the icon's title, too, in bars that show one

@@ -5,6 +5,7 @@
 
 #include <QMap>
 
+#include <chrono>
 #include <functional>
 
 namespace tarvo {
@@ -73,10 +74,17 @@ const QMap<QString, Setter> &setters()
 
 QString setFault(ModemServer &server, const QString &words)
 {
-    const auto kind = faultKind(words.section(u' ', 0, 0));
+    const QString name = words.section(u' ', 0, 0);
+    const QString detail = name.section(u'=', 1);
+    const auto kind = faultKind(name.section(u'=', 0, 0));
     if (!kind)
         return u"unknown fault"_s;
-    server.setFault({.kind = *kind, .part = words.section(u' ', 1).toUtf8(), .location = "/redirected"});
+    ModemFault fault{.kind = *kind, .part = words.section(u' ', 1).toUtf8(), .location = "/redirected"};
+    if (fault.kind == FaultKind::SlowAnswer && !detail.isEmpty())
+        fault.delay = std::chrono::milliseconds(detail.toInt());
+    if (fault.kind == FaultKind::Redirect && !detail.isEmpty())
+        fault.location = detail.toUtf8();
+    server.setFault(fault);
     return u"ok"_s;
 }
 

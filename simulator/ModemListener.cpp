@@ -5,6 +5,10 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <sys/socket.h>
+
+#include <chrono>
+
 namespace tarvo {
 
 namespace {
@@ -12,6 +16,7 @@ namespace {
 const QByteArray notUtf8 = "{\"ppp_status\":\"\xff\xfe\xc3\x28\"}";
 constexpr qint64 endlessChunk = 64 * 1024;
 constexpr qsizetype endlessLine = 1000;
+constexpr std::chrono::milliseconds betweenDrops{200};
 
 QByteArray headOf(const ModemReply &reply, const QByteArray &furtherLines)
 {
@@ -88,6 +93,9 @@ private:
         case FaultKind::EndlessHead:
             sendEndlessly("HTTP/1.1 200 OK\r\n", "X: " + QByteArray(endlessLine, 'x') + "\r\n");
             return;
+        case FaultKind::DrippingAnswer:
+            drip(headOf(reply, "Connection: close\r\n"));
+            return;
         case FaultKind::WrongBytes:
             reply.body = notUtf8;
             m_socket->write(wholeAnswer(reply));
@@ -95,11 +103,14 @@ private:
         case FaultKind::CloseAtOnce:
             m_socket->disconnectFromHost();
             return;
+        case FaultKind::ResetAtOnce:
+            reset();
+            return;
         case FaultKind::CloseKeptAlive:
             m_requests > 1 ? m_socket->disconnectFromHost() : void(m_socket->write(wholeAnswer(reply)));
             return;
         case FaultKind::Redirect:
-            reply = {.status = 302, .body = {}};
+            reply = {.status = 307, .body = {}};
             m_socket->write(wholeAnswer(reply, "Location: " + fault.location + "\r\n"));
             return;
         }
@@ -115,6 +126,21 @@ private:
     {
         m_endless = piece;
         m_socket->write(start);
+    }
+
+    void drip(const QByteArray &start)
+    {
+        m_socket->write(start);
+        auto *const drops = new QTimer(this);
+        connect(drops, &QTimer::timeout, this, [this] { m_socket->write("x"); });
+        drops->start(betweenDrops);
+    }
+
+    void reset()
+    {
+        const linger atOnce{.l_onoff = 1, .l_linger = 0};
+        setsockopt(static_cast<int>(m_socket->socketDescriptor()), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        m_socket->abort();
     }
 
     void writeOn()

@@ -25,11 +25,13 @@ enum class FaultKind {
     SlowAnswer, ///< answers after a delay
     HalfAnswer, ///< breaks off in the middle of the body
     EndlessAnswer, ///< never stops sending
+    DrippingAnswer, ///< sends a byte of the body now and then, without end
     EndlessHead, ///< never stops sending header lines
     WrongBytes, ///< a body that is no UTF-8
     CloseAtOnce, ///< closes instead of answering
+    ResetAtOnce, ///< resets the connection instead of answering
     CloseKeptAlive, ///< answers a connection's first request and closes at the next
-    Redirect, ///< sends the client to another address
+    Redirect, ///< sends the client to another address, as the same request
     Refuse, ///< closes all connections and takes no new ones
 };
 

@@ -31,8 +31,9 @@ QByteArray recordLine(const tarvo::ReceivedRequest &request)
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(u"Serves a simulated modem over HTTP until its standard input ends.\n"
-                                     "Lines that it reads there: set NAME=VALUE, fault KIND [PART], requests."_s);
+    parser.setApplicationDescription(
+        u"Serves a simulated modem over HTTP until its standard input ends.\n"
+        "Lines that it reads there: set NAME=VALUE, fault KIND[=DETAIL] [PART], requests."_s);
     parser.addHelpOption();
     parser.addOption({u"address"_s, u"Listen on ADDRESS."_s, u"ADDRESS"_s, u"127.0.0.1"_s});
     parser.addOption({u"port"_s, u"Listen on PORT; 0 takes any."_s, u"PORT"_s, u"0"_s});

@@ -23,16 +23,7 @@ plugged_modem.VENDOR = 0x19D3  # not the example that the shipped settings name
 DEVICE = "19d3:5678"
 
 
-class SetupTest(unittest.TestCase):
-    """Has what starts, awaits and ends the companion in common with the companion's own tests."""
-
-    simulator = companion_test.CompanionTest.simulator
-    start_program = companion_test.CompanionTest.start_program
-    read_lines = companion_test.CompanionTest.read_lines
-    until = companion_test.CompanionTest.until
-    until_ready = companion_test.CompanionTest.until_ready
-    quit = companion_test.CompanionTest.quit
-
+class SetupTest(companion_test.Companion):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -40,6 +31,9 @@ class SetupTest(unittest.TestCase):
         self.config = self.folder / "config/tarvo/Config.plist"
         self.usb = UsbDevices(self.folder / "devices")
         self.modem = Modem(self, "192.168.8")
+
+    def tearDown(self):
+        pass  # not every test starts the companion
 
     def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent"):
         nowhere = {name: str(self.folder / "nowhere") for name in ("XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS")}
