@@ -57,7 +57,7 @@ bool contains(const QVariantList &list, const QVariant &value)
 
 bool textAsFlag(const QString &text)
 {
-    const auto first = std::ranges::find_if_not(text, [](QChar c) { return c.isSpace(); });
+    const auto *const first = std::ranges::find_if_not(text, [](QChar c) { return c.isSpace(); });
     return first != text.end() && u"YyTt123456789"_s.contains(*first);
 }
 

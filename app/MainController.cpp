@@ -129,7 +129,7 @@ void MainController::detect()
         m_display.setDetection(Detection::NoModem);
 }
 
-bool MainController::windowShouldClose()
+bool MainController::windowShouldClose() const
 {
     if (m_services.terminate)
         m_services.terminate();

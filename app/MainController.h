@@ -45,7 +45,7 @@ public:
     /// Creates the watcher and the icon, then starts to watch the network.
     void applicationDidFinishLaunching();
     /// Asks the application to end. @return false: the window itself stays
-    bool windowShouldClose();
+    bool windowShouldClose() const;
     /// Lets go of the watcher. @return 1, terminate now
     int applicationShouldTerminate();
     /// Does nothing: all is done by then.

@@ -33,7 +33,7 @@ QStringView literalStart(const QString &pattern)
     static const QString special = u"\\^$.|?*+()[]{}"_s;
     if (pattern.contains(u'|'))
         return {};
-    const auto end = std::ranges::find_if(pattern, [](QChar c) { return special.contains(c); });
+    const auto *const end = std::ranges::find_if(pattern, [](QChar c) { return special.contains(c); });
     const qsizetype length = std::distance(pattern.begin(), end);
     const bool mayBeAbsent = end != pattern.end() && u"?*{"_s.contains(*end);
     return QStringView(pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);

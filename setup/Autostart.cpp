@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostBytes = 64 * 1024;
+constexpr qsizetype mostBytes = 64 << 10;
 
 /// One line of an entry's main group that says whether it is started.
 struct Line {

@@ -32,8 +32,8 @@ struct Survey::Gathering {
     std::function<void(const QList<Check> &)> deliver;
 };
 
-Survey::Survey(const SetupServices &services)
-    : m_services(services)
+Survey::Survey(SetupServices services)
+    : m_services(std::move(services))
 {
 }
 

@@ -19,7 +19,7 @@ namespace tarvo {
 /// answers are delivered from the event loop, and not any more when this object is gone.
 class Survey {
 public:
-    explicit Survey(const SetupServices &services);
+    explicit Survey(SetupServices services);
 
     /// @return the USB network devices that are there now
     QList<Device> devices(const QVariantMap &settings) const;

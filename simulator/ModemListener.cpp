@@ -14,7 +14,7 @@ namespace tarvo {
 namespace {
 
 const QByteArray notUtf8 = "{\"ppp_status\":\"\xff\xfe\xc3\x28\"}";
-constexpr qint64 endlessChunk = 64 * 1024;
+constexpr qint64 endlessChunk = 64 << 10;
 constexpr qsizetype endlessLine = 1000;
 constexpr std::chrono::milliseconds betweenDrops{200};
 

@@ -5,8 +5,8 @@
 namespace tarvo {
 
 namespace {
-constexpr qsizetype maximumHeadSize = 64 * 1024;
-constexpr qsizetype maximumBodySize = 4 * 1024 * 1024;
+constexpr qsizetype maximumHeadSize = 64 << 10;
+constexpr qsizetype maximumBodySize = 4 << 20;
 
 /// @return the body's announced length; nil when it is no acceptable number
 std::optional<qsizetype> bodySize(const ReceivedRequest &request)

@@ -23,8 +23,8 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-NewsSequence::NewsSequence(const Surroundings &surroundings)
-    : m_with(surroundings)
+NewsSequence::NewsSequence(Surroundings surroundings)
+    : m_with(std::move(surroundings))
 {
 }
 

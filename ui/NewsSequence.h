@@ -48,7 +48,7 @@ public:
     };
 
     /// Nothing has been shown, and there is no device yet.
-    explicit NewsSequence(const Surroundings &surroundings);
+    explicit NewsSequence(Surroundings surroundings);
     /// No sequence may run any more, nor be waited for.
     ~NewsSequence();
     NewsSequence(const NewsSequence &) = delete;

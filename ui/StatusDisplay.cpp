@@ -3,10 +3,12 @@
 #include "ui/StatusIcon.h"
 #include "ui/WebPages.h"
 
+#include <utility>
+
 namespace tarvo {
 
-StatusDisplay::StatusDisplay(const Surroundings &surroundings)
-    : m_with(surroundings)
+StatusDisplay::StatusDisplay(Surroundings surroundings)
+    : m_with(std::move(surroundings))
 {
     refresh();
 }

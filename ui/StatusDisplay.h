@@ -29,7 +29,7 @@ public:
         std::function<DeviceDetails()> device; ///< of the modem that is attached
     };
 
-    explicit StatusDisplay(const Surroundings &surroundings);
+    explicit StatusDisplay(Surroundings surroundings);
     ~StatusDisplay();
 
     const CompanionStatus &status() const { return m_status; }

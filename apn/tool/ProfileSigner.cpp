@@ -22,7 +22,7 @@ using Context = std::unique_ptr<EVP_PKEY_CTX, decltype(&EVP_PKEY_CTX_free)>;
 
 Bio reader(QByteArrayView bytes)
 {
-    return Bio(BIO_new_mem_buf(bytes.data(), static_cast<int>(bytes.size())), BIO_free);
+    return {BIO_new_mem_buf(bytes.data(), static_cast<int>(bytes.size())), BIO_free};
 }
 
 QByteArray publicDer(const EVP_PKEY *key)

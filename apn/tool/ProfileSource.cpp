@@ -98,7 +98,7 @@ ProfileSource nameList(const QJsonArray &values)
 {
     ProfileSource source{{}, true};
     QStringList names;
-    for (const QJsonValue &value : values) {
+    for (const QJsonValue value : values) {
         if (!value.isString())
             source.problems.append(u"the list holds something that is no text"_s);
         names.append(value.toString());

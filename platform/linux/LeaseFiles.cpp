@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = 64 * 1024; // both programs write less than a thousand
+constexpr qint64 mostBytes = 64 << 10; // both programs write less than a thousand
 
 /// @return the address in host byte order; 0 when @p text is no address that a host can have
 quint32 hostAddress(const QByteArray &text)

@@ -170,7 +170,7 @@ QImage TrayDock::panelBackground() const
     const int expected = width * height * 4;
     if (!reply || reply->depth != 24 || xcb_get_image_data_length(reply.get()) < expected)
         return {};
-    return QImage(xcb_get_image_data(reply.get()), width, height, width * 4, QImage::Format_RGB32).copy();
+    return QImage(xcb_get_image_data(reply.get()), width, height, qsizetype(width) * 4, QImage::Format_RGB32).copy();
 }
 
 void TrayDock::contextMenuEvent(QContextMenuEvent *event)

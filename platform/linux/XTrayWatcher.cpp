@@ -74,10 +74,10 @@ void XTrayWatcher::windowDestroyed(xcb_window_t window)
 
 void XTrayWatcher::lookForTray()
 {
-    std::optional<XTray> tray = findTray();
+    const std::optional<XTray> tray = findTray();
     if (tray == m_tray)
         return;
-    m_tray = std::move(tray);
+    m_tray = tray;
     m_changed();
 }
 

@@ -53,7 +53,7 @@ QVariantList identifiersFrom(const QString &text)
 
 } // namespace
 
-SettingField::SettingField(const SettingKey &key, std::function<void()> edited)
+SettingField::SettingField(const SettingKey &key, const std::function<void()> &edited)
     : m_key(key)
     , m_fault(wrappedLabel())
 {

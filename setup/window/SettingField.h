@@ -17,7 +17,7 @@ namespace tarvo {
 class SettingField final : public QWidget {
 public:
     /// @param edited  called when the user changed the value
-    SettingField(const SettingKey &key, std::function<void()> edited);
+    SettingField(const SettingKey &key, const std::function<void()> &edited);
 
     const SettingKey &key() const { return m_key; }
 

@@ -204,7 +204,7 @@ void DemoTour::seeFirmware()
     seeLimit(u"firmware"_s, u"newVersion"_s, u"firmware"_s);
     clickIcon(u"with new firmware"_s, u"/firmware"_s);
     const qsizetype before = m_world.workspace().openedURLs().size();
-    QDialog *panel = visibleWindow<QDialog>();
+    auto *panel = visibleWindow<QDialog>();
     check(u"the update panel is open"_s, panel != nullptr);
     if (auto *button = panel ? panel->findChild<QPushButton *>(u"btnOK_"_s) : nullptr)
         button->click();

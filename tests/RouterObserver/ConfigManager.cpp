@@ -24,7 +24,7 @@ protected:
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\"?><plist version=\"1.0\">" + content + "</plist>");
+        file.write(R"(<?xml version="1.0"?><plist version="1.0">)" + content + "</plist>");
         return path;
     }
     QString writeModules() const

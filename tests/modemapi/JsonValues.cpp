@@ -25,7 +25,7 @@ TEST(JsonValues, IntegersComeAsNumbersAndTexts)
     const QList<qint64> expected{1,      -7, 2, -2, 1, -12, 3, 0, 0, 1, 0, 0, largest, -largest - 1, 9007199254740993,
                                  largest};
     QList<qint64> integers;
-    for (const QJsonValue &value : parsed.document->array())
+    for (const QJsonValue value : parsed.document->array())
         integers.append(integerValue(value));
     EXPECT_EQ(integers, expected);
     EXPECT_EQ(integerValue(QJsonValue(QJsonValue::Undefined)), 0);

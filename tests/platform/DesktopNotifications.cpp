@@ -45,7 +45,7 @@ struct NotificationService : testing::Test {
         notifications.show({u"T"_s, text, {}}, [this] { ++failures; });
     }
 
-    bool shows(const QStringList &texts)
+    bool shows(const QStringList &texts) const
     {
         return waitFor([&] { return service.shown() == texts; });
     }

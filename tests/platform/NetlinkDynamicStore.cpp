@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 #include <net/if.h>
 #include <sched.h>
-#include <stdio.h>
+#include <cstdio>
 #include <unistd.h>
 
 #include <optional>

@@ -63,7 +63,7 @@ protected:
     QByteArray session()
     {
         const QByteArray answer = get(sessionTarget, ownReferer(sessionTarget));
-        const QByteArray key = "\"RD\":\"";
+        const QByteArray key = R"("RD":")";
         const qsizetype start = answer.indexOf(key) + key.size();
         return answer.mid(start, answer.indexOf('"', start) - start);
     }

@@ -26,7 +26,7 @@ public:
         home.mkpath(u"tarvo"_s);
         QFile file(home.filePath(u"tarvo/Config.plist"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<?xml version=\"1.0\"?><plist version=\"1.0\"><dict/></plist>");
+        file.write(R"(<?xml version="1.0"?><plist version="1.0"><dict/></plist>)");
         file.close();
         m_application = std::make_unique<QApplication>(m_argc, m_argv);
     }

@@ -5,7 +5,7 @@
 #include <QTest>
 
 /// Qt keeps a few bytes of each D-Bus interface that it introspects; the leak check shall see our own.
-extern "C" const char *__lsan_default_suppressions()
+extern "C" const char *__lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier): the library's name
 {
     return "leak:libQt6DBus.so";
 }
