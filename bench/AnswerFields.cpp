@@ -10,15 +10,10 @@ namespace {
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
-const QStringList names{u"flow_reminder_switch"_s,
-                        u"max_usage_set_for_month"_s,
-                        u"reminder_threshold_for_data_usage"_s,
-                        u"max_usage_set_for_three_days"_s,
-                        u"monthly_velta_tx"_s,
-                        u"monthly_velta_rx"_s,
-                        u"last_three_days_tx_bytes"_s,
-                        u"last_three_days_rx_bytes"_s,
-                        u"international_roaming_setting"_s};
+const QStringList names{
+    u"flow_reminder_switch"_s,         u"max_usage_set_for_month"_s,  u"reminder_threshold_for_data_usage"_s,
+    u"max_usage_set_for_three_days"_s, u"monthly_velta_tx"_s,         u"monthly_velta_rx"_s,
+    u"last_three_days_tx_bytes"_s,     u"last_three_days_rx_bytes"_s, u"international_roaming_setting"_s};
 
 /// @return a page of @p size characters and a few more, in which the fields that count come last
 QString pageOf(qsizetype size)

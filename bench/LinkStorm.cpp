@@ -1,8 +1,8 @@
 // Storms of 2,000 pairs of links beside a modem's, in the network namespace that it is started in: what following them
 // costs the product, and a listener that only parses the same messages; and how late the modem's own change is told.
+#include "platform/SystemLog.h"
 #include "platform/linux/LeaseFiles.h"
 #include "platform/linux/NetlinkDynamicStore.h"
-#include "platform/SystemLog.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -10,14 +10,13 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <linux/if_addr.h>
+#include <linux/rtnetlink.h>
 #include <netlink/attr.h>
 #include <netlink/errno.h>
 #include <netlink/msg.h>
 #include <netlink/netlink.h>
 #include <netlink/socket.h>
-
-#include <linux/if_addr.h>
-#include <linux/rtnetlink.h>
 #include <poll.h>
 #include <pthread.h>
 #include <sys/socket.h>

@@ -25,9 +25,9 @@ class LogindWorkspaceTest : public testing::Test {
 protected:
     void startBus()
     {
-        bus_ = std::make_unique<Program>(std::vector<std::string>{"dbus-daemon", std::string("--config-file=") + TARVO_SESSION_BUS,
-                                                                  "--nofork", "--print-address=1",
-                                                                  "--address=" + address_.toStdString()});
+        bus_ = std::make_unique<Program>(
+            std::vector<std::string>{"dbus-daemon", std::string("--config-file=") + TARVO_SESSION_BUS, "--nofork",
+                                     "--print-address=1", "--address=" + address_.toStdString()});
         ASSERT_FALSE(bus_->readLine().empty());
     }
     std::unique_ptr<LogindWorkspace> startWorkspace()

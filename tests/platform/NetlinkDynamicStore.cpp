@@ -13,9 +13,9 @@
 #include <gtest/gtest.h>
 #include <net/if.h>
 #include <sched.h>
-#include <cstdio>
 #include <unistd.h>
 
+#include <cstdio>
 #include <optional>
 
 namespace tarvo {
