@@ -13,7 +13,7 @@ find_package(CURL 7.88 REQUIRED)
 find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
 
 # Links, addresses and routes from the kernel.
-pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>=3.7)
+pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7)
 
 # The USB device behind a network interface.
 pkg_check_modules(LIBUDEV REQUIRED IMPORTED_TARGET libudev)
