@@ -1,7 +1,7 @@
 # Every dependency comes from the distribution. The floor is Debian 12.
 
 # Text, event loop, timers, files in the user's folders; windows and widgets; D-Bus (logind, notifications,
-# tray hosts).
+# tray hosts). Drawings: the companion's are turned into pictures while it is built, tarvo-setup draws its marks itself.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Svg LinguistTools)
 
 find_package(PkgConfig REQUIRED)
