@@ -1,4 +1,6 @@
-// Draws an SVG file in the sizes that are given. Runs while the program is built.
+// Draws an SVG file in the sizes that are given, as bare pixels (QImage::Format_RGBA8888_Premultiplied). Runs while the
+// program is built.
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QString>
@@ -9,14 +11,18 @@
 
 namespace {
 
-bool draw(QSvgRenderer &drawing, int size, const QString &file)
+bool draw(QSvgRenderer &drawing, int size, const QString &fileName)
 {
     QImage picture(size, size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     drawing.render(&painter);
     painter.end();
-    return picture.save(file, "PNG");
+    picture.convertTo(QImage::Format_RGBA8888_Premultiplied);
+    QFile file(fileName);
+    return file.open(QIODevice::WriteOnly)
+        && file.write(reinterpret_cast<const char *>(picture.constBits()), picture.sizeInBytes())
+        == picture.sizeInBytes();
 }
 
 } // namespace
@@ -32,8 +38,8 @@ int main(int argc, char **argv)
     bool drawn = drawing.isValid();
     for (int i = 3; i < argc; ++i) {
         const int size = std::atoi(argv[i]);
-        const QString file = QString::fromLocal8Bit(argv[2]) + QString::number(size) + QStringLiteral(".png");
-        drawn = drawn && size > 0 && draw(drawing, size, file);
+        const QString name = QString::fromLocal8Bit(argv[2]) + QString::number(size) + QStringLiteral(".rgba");
+        drawn = drawn && size > 0 && draw(drawing, size, name);
     }
     return drawn ? EXIT_SUCCESS : EXIT_FAILURE;
 }

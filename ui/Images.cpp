@@ -20,7 +20,7 @@ constexpr int drawnSizes[]{TARVO_IMAGE_SIZES}; // pixels, ascending
 
 QString pictureFile(const QString &name, int size)
 {
-    return u":/tarvo/images/%1-%2.png"_s.arg(name).arg(size);
+    return u":/tarvo/images/%1-%2.rgba"_s.arg(name).arg(size);
 }
 
 /// @return the picture for @p side pixels: the one drawn for them, or else a larger one, made smaller
@@ -28,7 +28,12 @@ QImage picture(const QString &name, int side)
 {
     const auto *const larger = std::ranges::lower_bound(drawnSizes, side);
     const int drawn = larger == std::end(drawnSizes) ? *std::rbegin(drawnSizes) : *larger;
-    const QImage image(pictureFile(name, drawn), "PNG");
+    QFile file(pictureFile(name, drawn));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray pixels = file.readAll();
+    const auto *const bytes = reinterpret_cast<const uchar *>(pixels.constData());
+    const QImage image = QImage(bytes, drawn, drawn, QImage::Format_RGBA8888_Premultiplied).copy();
     return drawn == side ? image : image.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
