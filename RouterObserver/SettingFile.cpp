@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
@@ -39,7 +41,7 @@ SettingFileReading readSettingFile(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {{}, {std::nullopt, file.errorString()}};
-    const QByteArray bytes = file.read(maxPropertyListSize + 1);
+    const QByteArray bytes = file.read(std::min<qint64>(file.size(), maxPropertyListSize) + 1);
     const PropertyListReading reading = readPropertyList(bytes);
     if (reading.root && reading.root->typeId() != QMetaType::QVariantMap)
         return {bytes, {std::nullopt, u"its root is no dictionary"_s}};

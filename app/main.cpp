@@ -19,7 +19,6 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/UdevDeviceRegistry.h"
 #include "platform/linux/UdevUsbNetworkDevices.h"
-#include "ui/Images.h"
 #include "ui/Translations.h"
 
 #include <QApplication>
@@ -210,7 +209,6 @@ int start(int argc, char **argv, SystemLog &systemLog)
     QApplication::setQuitOnLastWindowClosed(false);
 
     installTranslations(application, QLocale());
-    QApplication::setWindowIcon(applicationImage());
 
     const SingleInstance instance(u"tarvo"_s);
     if (!instance.isOnly())

@@ -1,7 +1,7 @@
 # Every dependency comes from the distribution. The floor is Debian 12.
 
 # Text, event loop, timers, files in the user's folders; windows and widgets; D-Bus (logind, notifications,
-# tray hosts).
+# tray hosts). Drawings: the companion's are turned into pictures while it is built, tarvo-setup draws its marks itself.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Svg LinguistTools)
 
 find_package(PkgConfig REQUIRED)
@@ -13,7 +13,7 @@ find_package(CURL 7.88 REQUIRED)
 find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto)
 
 # Links, addresses and routes from the kernel.
-pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7 libnl-route-3.0>=3.7)
+pkg_check_modules(LIBNL REQUIRED IMPORTED_TARGET libnl-3.0>=3.7)
 
 # The USB device behind a network interface.
 pkg_check_modules(LIBUDEV REQUIRED IMPORTED_TARGET libudev)

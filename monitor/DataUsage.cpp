@@ -3,9 +3,10 @@
 #include "modemapi/AnswerFields.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QLocale>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -50,21 +51,33 @@ float gigabytesOfBytes(float bytes)
     return static_cast<float>(static_cast<double>(bytes) * inverseStep * inverseStep * inverseStep);
 }
 
+bool isSpace(char character)
+{
+    return QByteArrayView(" \t\n\v\f\r").contains(character);
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
 } // namespace
 
 float leadingNumber(const QString &text)
 {
-    static const QRegularExpression pattern(
-        uR"(^\s*(?:\+(?!-))?(-?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"_s);
-    const QRegularExpressionMatch match = pattern.match(text);
-    if (!match.hasMatch())
-        return 0;
-    const QByteArray digits = match.captured(1).toLatin1();
+    const QByteArray bytes = text.toLatin1(); // what is not in it ends a number, as a question mark does
+    const char *start = std::ranges::find_if_not(bytes, isSpace);
+    if (*start == '+' && start[1] != '-')
+        ++start;
+    const char first = *start == '-' ? start[1] : *start;
+    if (first != '.' && !isDigit(first))
+        return 0; // nor is it a name of a number
     float value = 0;
-    const auto result = std::from_chars(digits.cbegin(), digits.cend(), value);
+    const auto result = std::from_chars(start, bytes.cend(), value);
     if (result.ec != std::errc::result_out_of_range)
         return value;
-    const double wide = QLocale::c().toDouble(match.capturedView(1)); // infinite when it overflows
+    const auto digits = QString::fromLatin1(QByteArrayView(start, result.ptr));
+    const double wide = QLocale::c().toDouble(digits); // infinite when it overflows
     return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F) : 0.0F;
 }
 

@@ -12,7 +12,7 @@ const QByteArray cutMark = QByteArrayLiteral("…");
 
 QString withoutPassword(const QString &text)
 {
-    if (!text.startsWith(u"default_apn: "))
+    if (!text.startsWith(u"default_apn: ") || !text.contains(u"\"password\""))
         return text;
     // A value may also be cut off, or be no text.
     static const QRegularExpression field(uR"re(("password"\s*:\s*)("(?:[^"\\]|\\.)*+"?|[^\s,}]*+))re"_s,

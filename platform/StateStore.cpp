@@ -27,51 +27,82 @@ QString serviceInterfaceSetupKey(const QString &serviceID)
 
 namespace {
 
-/// @return text with which every key that matches @p pattern whole begins
-QStringView literalStart(const QString &pattern)
+constexpr QStringView anyName = u"[^/]+";
+
+bool isSpecial(QChar character)
 {
-    static const QString special = u"\\^$.|?*+()[]{}"_s;
-    if (pattern.contains(u'|'))
-        return {};
-    const auto *const end = std::ranges::find_if(pattern, [](QChar c) { return special.contains(c); });
-    const qsizetype length = std::distance(pattern.begin(), end);
-    const bool mayBeAbsent = end != pattern.end() && u"?*{"_s.contains(*end);
-    return QStringView(pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
+    return QStringView(u"\\^$.|?*+()[]{}").contains(character);
 }
 
-QRegularExpression wholeKey(const QString &pattern)
+bool isPlain(QStringView text)
 {
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
+    return std::ranges::none_of(text, isSpecial);
 }
 
-bool matches(const QRegularExpression &expression, const QString &key)
-{
-    return expression.isValid() && expression.match(key).hasMatch();
-}
+/// Keys that a regular expression matches whole. A key matches itself, whatever its characters would mean in a pattern.
+///
+/// Nearly every pattern is a key, or one with any name at a place: an expression is compiled for the others only.
+class KeyPattern {
+public:
+    explicit KeyPattern(const QString &pattern)
+        : m_pattern(pattern)
+        , m_before(m_pattern.left(m_pattern.indexOf(anyName)))
+        , m_after(m_pattern.mid(m_before.size() + anyName.size()))
+        , m_isPlain(isPlain(m_before) && isPlain(m_after))
+        , m_expression(QRegularExpression::anchoredPattern(pattern))
+    {
+    }
 
-bool matchesAny(const QList<QRegularExpression> &expressions, const QString &key)
-{
-    return std::ranges::any_of(expressions, [&](const auto &expression) { return matches(expression, key); });
-}
+    /// @return text with which every key that matches begins
+    QStringView start() const
+    {
+        if (m_pattern.contains(u'|'))
+            return {};
+        const auto end = std::ranges::find_if(m_pattern, isSpecial);
+        const qsizetype length = std::distance(m_pattern.begin(), end);
+        const bool mayBeAbsent = end != m_pattern.end() && QStringView(u"?*{").contains(*end);
+        return QStringView(m_pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
+    }
 
-QList<QRegularExpression> wholeKeys(const QStringList &patterns)
+    bool matches(const QString &key) const
+    {
+        if (key == m_pattern)
+            return true;
+        if (m_isPlain)
+            return hasName(key);
+        return m_expression.isValid() && m_expression.match(key).hasMatch();
+    }
+
+private:
+    /// @return whether @p key has one name, and nothing else, where the pattern has any
+    bool hasName(QStringView key) const
+    {
+        const qsizetype length = key.size() - m_before.size() - m_after.size();
+        return m_before != m_pattern && length > 0 && key.startsWith(m_before) && key.endsWith(m_after)
+            && !key.sliced(m_before.size(), length).contains(u'/');
+    }
+
+    QString m_pattern;
+    QString m_before; ///< what comes before any name, the whole pattern when it has none
+    QString m_after;
+    bool m_isPlain;
+    QRegularExpression m_expression; ///< compiled by its first use
+};
+
+bool matchesAny(const QList<KeyPattern> &patterns, const QString &key)
 {
-    QList<QRegularExpression> expressions;
-    std::ranges::transform(patterns, std::back_inserter(expressions), wholeKey);
-    return expressions;
+    return std::ranges::any_of(patterns, [&](const auto &pattern) { return pattern.matches(key); });
 }
 
 /// Calls @p found with each entry whose whole key matches @p pattern, in key order. Looks only at the keys that begin
-/// like the pattern: most patterns are one key, or nearly so, in a state of thousands. A key matches itself, whatever
-/// its characters would mean in a pattern.
-void forEachMatch(const StateStore::Entries &entries, const QString &pattern,
+/// like the pattern: most patterns are one key, or nearly so, in a state of thousands.
+void forEachMatch(const StateStore::Entries &entries, const KeyPattern &pattern,
                   const std::function<void(const QString &key, const QVariantMap &value)> &found)
 {
-    const QStringView start = literalStart(pattern);
-    const QRegularExpression expression = wholeKey(pattern);
+    const QStringView start = pattern.start();
     for (auto entry = entries.lowerBound(start.toString()); entry != entries.cend() && entry.key().startsWith(start);
          ++entry) {
-        if (entry.key() == pattern || matches(expression, entry.key()))
+        if (pattern.matches(entry.key()))
             found(entry.key(), entry.value());
     }
 }
@@ -92,7 +123,10 @@ public:
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
-    void setNotificationPatterns(const QStringList &patterns) override { m_patterns = wholeKeys(patterns); }
+    void setNotificationPatterns(const QStringList &patterns) override
+    {
+        m_patterns = QList<KeyPattern>(patterns.begin(), patterns.end());
+    }
 
     std::optional<QVariantMap> copyValue(const QString &key) const override
     {
@@ -104,7 +138,7 @@ public:
     {
         Entries copied;
         for (const QString &pattern : patterns)
-            forEachMatch(m_store.m_entries, pattern,
+            forEachMatch(m_store.m_entries, KeyPattern(pattern),
                          [&](const QString &key, const QVariantMap &value) { copied.insert(key, value); });
         return copied;
     }
@@ -121,7 +155,7 @@ public:
 private:
     StateStore &m_store;
     Callback m_callback;
-    QList<QRegularExpression> m_patterns;
+    QList<KeyPattern> m_patterns;
 };
 
 std::unique_ptr<DynamicStoreSession> StateStore::createSession(const QString &, Callback callback)
@@ -158,7 +192,7 @@ void StateStore::replaceEntries(const Entries &entries)
 void StateStore::announce(const QString &pattern)
 {
     std::vector<Notice> due;
-    forEachMatch(m_entries, pattern, [&](const QString &key, const QVariantMap &) {
+    forEachMatch(m_entries, KeyPattern(pattern), [&](const QString &key, const QVariantMap &) {
         for (Session *session : m_sessions) {
             const Notice notice{session, pattern};
             if (session->wants(key) && std::ranges::find(due, notice) == due.end())

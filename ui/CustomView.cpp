@@ -37,6 +37,11 @@ void CustomView::setTip(const QString &tip)
     Q_EMIT appearanceChanged();
 }
 
+QSize CustomView::sizeHint() const
+{
+    return iconSize(); // a button's own reads all fonts to measure a text that is not there
+}
+
 void CustomView::enterEvent(QEnterEvent *event)
 {
     QPushButton::enterEvent(event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QSize>
 #include <QString>
 
 class QEnterEvent;
@@ -24,6 +25,9 @@ public:
 
     /// Sets the tool tip, which is the button's description for screen readers too; nothing when it is that already.
     void setTip(const QString &tip);
+
+    /// @return the size of the image
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// The notification "MouseEntered".

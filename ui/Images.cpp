@@ -1,11 +1,13 @@
 #include "ui/Images.h"
 
+#include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
-#include <QSvgRenderer>
 
-#include <memory>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace tarvo {
@@ -14,31 +16,43 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int usualSize = 22; // pixels
+constexpr int drawnSizes[]{TARVO_IMAGE_SIZES}; // pixels, ascending
 
-using Drawing = std::shared_ptr<QSvgRenderer>; // clones draw the same
-
-Drawing drawingOf(QStringView folder, const QString &name)
+QString pictureFile(const QString &name, int size)
 {
-    auto drawing = std::make_shared<QSvgRenderer>(u":/tarvo/icons/hicolor/%1/%2.svg"_s.arg(folder, name));
-    drawing->setAspectRatioMode(Qt::KeepAspectRatio);
-    return drawing;
+    return u":/tarvo/images/%1-%2.rgba"_s.arg(name).arg(size);
 }
 
-/// Draws an SVG file at whatever size is asked for. Qt's own engine for such files is a plugin, and need not be there.
-class SvgEngine : public QIconEngine {
+/// @return the picture for @p side pixels: the one drawn for them, or else a larger one, made smaller
+QImage picture(const QString &name, int side)
+{
+    const auto *const larger = std::ranges::lower_bound(drawnSizes, side);
+    const int drawn = larger == std::end(drawnSizes) ? *std::rbegin(drawnSizes) : *larger;
+    QFile file(pictureFile(name, drawn));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray pixels = file.readAll();
+    const auto *const bytes = reinterpret_cast<const uchar *>(pixels.constData());
+    const QImage image = QImage(bytes, drawn, drawn, QImage::Format_RGBA8888_Premultiplied).copy();
+    return drawn == side ? image : image.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+/// Shows pictures that the program carries in several sizes. Each is read when it is shown only.
+class PictureEngine final : public QIconEngine {
 public:
-    explicit SvgEngine(Drawing drawing)
-        : m_drawing(std::move(drawing))
+    explicit PictureEngine(QString name)
+        : m_name(std::move(name))
     {
     }
 
-    bool isNull() override { return !m_drawing->isValid(); }
-    QIconEngine *clone() const override { return new SvgEngine(*this); }
+    QIconEngine *clone() const override { return new PictureEngine(*this); }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
     {
-        drawingFor(qMin(rect.width(), rect.height())).render(painter, QRectF(rect));
+        const int side = std::min(rect.width(), rect.height());
+        QRect square(0, 0, side, side);
+        square.moveCenter(rect.center());
+        painter->drawImage(square, picture(m_name, int(side * painter->device()->devicePixelRatio())));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
@@ -50,59 +64,23 @@ public:
         return pixmap;
     }
 
-protected:
-    /// @return the drawing whose lines meet the pixels at @p side pixels, as well as one can
-    virtual QSvgRenderer &drawingFor(int) { return *m_drawing; }
-
 private:
-    Drawing m_drawing;
+    QString m_name;
 };
-
-/// An image that was also drawn for the sizes of panels which are no multiples of 16 pixels.
-class StateEngine final : public SvgEngine {
-public:
-    explicit StateEngine(const QString &name)
-        : SvgEngine(drawingOf(u"scalable/status", name))
-        , m_for22(drawingOf(u"22x22/status", name))
-        , m_for24(drawingOf(u"24x24/status", name))
-    {
-    }
-
-    QIconEngine *clone() const override { return new StateEngine(*this); }
-
-protected:
-    QSvgRenderer &drawingFor(int side) override
-    {
-        if (side % 22 == 0)
-            return *m_for22;
-        return side == 24 ? *m_for24 : SvgEngine::drawingFor(side);
-    }
-
-private:
-    Drawing m_for22;
-    Drawing m_for24;
-};
-
-QIcon iconOf(std::unique_ptr<SvgEngine> engine)
-{
-    return engine->isNull() ? QIcon() : QIcon(engine.release());
-}
 
 } // namespace
 
 QIcon imageNamed(const QString &name)
 {
     // Not from the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
-    return iconOf(std::make_unique<StateEngine>(u"tarvo-"_s + name));
+    const QString ours = u"tarvo-"_s + name;
+    return QFile::exists(pictureFile(ours, *drawnSizes)) ? QIcon(new PictureEngine(ours)) : QIcon();
 }
 
 QIcon applicationImage()
 {
-    // The theme's may be of a kind that no installed plugin draws, or damaged.
-    const auto name = u"io.github.tarvo.Tarvo"_s;
-    const QIcon themed = QIcon::fromTheme(name);
-    return themed.pixmap(usualSize).isNull() ? iconOf(std::make_unique<SvgEngine>(drawingOf(u"scalable/apps", name)))
-                                             : themed;
+    // Not from the icon theme either: to look there takes memory at start, in a program that rarely shows a window.
+    return QIcon(new PictureEngine(u"io.github.tarvo.Tarvo"_s));
 }
 
 } // namespace tarvo

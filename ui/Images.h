@@ -9,7 +9,7 @@ namespace tarvo {
 ///         for an unknown name
 QIcon imageNamed(const QString &name);
 
-/// @return the application's icon, from the desktop's icon theme (freedesktop Icon Theme standard) when it is there
+/// @return the application's icon, which the program carries
 QIcon applicationImage();
 
 } // namespace tarvo

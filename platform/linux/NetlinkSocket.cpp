@@ -5,7 +5,6 @@
 #include <netlink/handlers.h>
 #include <netlink/msg.h>
 #include <netlink/netlink.h>
-#include <netlink/route/rtnl.h>
 #include <netlink/socket.h>
 #include <sys/socket.h>
 #include <sys/time.h>
@@ -85,7 +84,8 @@ NetlinkSocket::Received NetlinkSocket::receiveNow(const Handler &handler)
 
 NetlinkSocket::Dumped NetlinkSocket::dump(int request, int family, const Handler &handler)
 {
-    if (nl_rtgen_request(m_socket.get(), request, family, NLM_F_DUMP) < 0)
+    rtgenmsg which{.rtgen_family = static_cast<unsigned char>(family)};
+    if (nl_send_simple(m_socket.get(), request, NLM_F_DUMP, &which, sizeof which) < 0)
         return Dumped::Failed;
     const int result = receive(handler);
     if (result == -NLE_DUMP_INTR)

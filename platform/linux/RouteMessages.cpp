@@ -8,22 +8,17 @@
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
-#include <netlink/addr.h>
 #include <netlink/attr.h>
 #include <netlink/msg.h>
-#include <netlink/route/nexthop.h>
-#include <netlink/route/route.h>
 
 #include <array>
-#include <cstring>
-#include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace tarvo {
 
 namespace {
-
-using RoutePointer = std::unique_ptr<rtnl_route, decltype(&rtnl_route_put)>;
 
 /// The attributes of a message by their type. Only those that have a policy are checked, and may be used.
 template <std::size_t Count>
@@ -49,6 +44,16 @@ constexpr auto addressPolicy = [] {
     policy[IFA_LOCAL] = {.type = NLA_U32, .minlen = 4, .maxlen = 4};
     return policy;
 }();
+
+constexpr auto routePolicy = [] {
+    std::array<nla_policy, RTA_TABLE + 1> policy{};
+    policy[RTA_OIF] = {.type = NLA_U32, .minlen = 4, .maxlen = 4};
+    policy[RTA_PRIORITY] = {.type = NLA_U32, .minlen = 4, .maxlen = 4};
+    policy[RTA_TABLE] = {.type = NLA_U32, .minlen = 4, .maxlen = 4};
+    return policy;
+}();
+
+using RouteAttributes = Attributes<routePolicy.size()>;
 
 void applyLink(nlmsghdr *header, NetworkModel &model)
 {
@@ -85,62 +90,72 @@ void applyAddress(nlmsghdr *header, NetworkModel &model)
         model.removeAddress(index, address);
 }
 
-quint32 gatewayOf(rtnl_nexthop *hop)
+/// @return the IPv4 address in @p gateway; 0 when there is none, as where the next hop is reached by another protocol
+quint32 gatewayOf(const nlattr *gateway)
 {
-    nl_addr *const gateway = rtnl_route_nh_get_gateway(hop);
-    if (!gateway || nl_addr_get_family(gateway) != AF_INET || nl_addr_get_len(gateway) != sizeof(quint32))
-        return 0;
-    return qFromBigEndian<quint32>(nl_addr_get_binary_addr(gateway));
+    return gateway && nla_len(gateway) == sizeof(quint32) ? qFromBigEndian(nla_get_u32(gateway)) : 0;
 }
 
-void collectNextHop(rtnl_nexthop *hop, void *route)
+/// @return the gateway of one of several next hops; nil when the attributes behind it are not well formed
+std::optional<quint32> gatewayBehind(const rtnexthop *hop)
 {
-    if ((rtnl_route_nh_get_flags(hop) & RTNH_F_DEAD) == 0)
-        static_cast<DefaultRoute *>(route)->nextHops.push_back({rtnl_route_nh_get_ifindex(hop), gatewayOf(hop)});
+    const int length = hop->rtnh_len - int(sizeof(rtnexthop));
+    std::array<nlattr *, routePolicy.size()> attributes{};
+    auto *const first = reinterpret_cast<nlattr *>(RTNH_DATA(hop));
+    if (length > 0 && nla_parse(attributes.data(), int(attributes.size()) - 1, first, length, routePolicy.data()) < 0)
+        return std::nullopt;
+    return gatewayOf(attributes[RTA_GATEWAY]);
 }
 
-/// @return whether each next hop says a length that leads to the one after it: libnl follows them without looking
-bool areHopsSound(const nlattr *multipath)
+/// @return the next hops that are not dead; nil when one does not lead to the next, or is itself damaged
+std::optional<std::vector<NextHop>> nextHops(const nlattr *multipath)
 {
+    std::vector<NextHop> hops;
+    const auto *position = static_cast<const char *>(nla_data(multipath));
     int remaining = nla_len(multipath);
-    const auto *hop = static_cast<const rtnexthop *>(nla_data(multipath));
     while (remaining >= int(sizeof(rtnexthop))) {
+        const auto *const hop = reinterpret_cast<const rtnexthop *>(position);
         if (hop->rtnh_len < sizeof(rtnexthop) || hop->rtnh_len > remaining)
-            return false;
+            return std::nullopt;
+        const std::optional<quint32> gateway = gatewayBehind(hop);
+        if (!gateway)
+            return std::nullopt;
+        if ((hop->rtnh_flags & RTNH_F_DEAD) == 0)
+            hops.push_back({hop->rtnh_ifindex, *gateway});
+        position += RTNH_ALIGN(hop->rtnh_len);
         remaining -= int(RTNH_ALIGN(hop->rtnh_len));
-        hop = reinterpret_cast<const rtnexthop *>(reinterpret_cast<const char *>(hop) + RTNH_ALIGN(hop->rtnh_len));
     }
-    return true;
+    return hops;
 }
 
-bool areHopsSound(nlmsghdr *header)
+/// @return the next hops of a route, whether it has one or several; nil when they are damaged
+std::optional<std::vector<NextHop>> nextHops(const rtmsg &info, const RouteAttributes &attributes)
 {
-    const nlattr *attribute = nullptr;
-    int remaining = 0;
-    nlmsg_for_each_attr(attribute, header, sizeof(rtmsg), remaining)
-    {
-        if (nla_type(attribute) == RTA_MULTIPATH && !areHopsSound(attribute))
-            return false;
-    }
-    return true;
+    if (const nlattr *const multipath = attributes.byType[RTA_MULTIPATH])
+        return nextHops(multipath);
+    const nlattr *const link = attributes.byType[RTA_OIF];
+    if (!link || (info.rtm_flags & RTNH_F_DEAD) != 0)
+        return std::vector<NextHop>{};
+    return std::vector<NextHop>{{int(nla_get_u32(link)), gatewayOf(attributes.byType[RTA_GATEWAY])}};
 }
 
 /// @return the route in the message; nil when it is no default route that carries traffic
 std::optional<DefaultRoute> defaultRoute(nlmsghdr *header)
 {
-    if (!nlmsg_valid_hdr(header, sizeof(rtmsg)))
+    const RouteAttributes attributes(header, sizeof(rtmsg), routePolicy);
+    if (!attributes.valid)
         return std::nullopt;
     const auto *const info = static_cast<const rtmsg *>(nlmsg_data(header));
     if (info->rtm_family != AF_INET || info->rtm_dst_len != 0 || info->rtm_type != RTN_UNICAST
-        || (info->rtm_flags & RTM_F_CLONED) != 0 || !areHopsSound(header))
+        || (info->rtm_flags & RTM_F_CLONED) != 0)
         return std::nullopt;
-    rtnl_route *parsed = nullptr;
-    if (rtnl_route_parse(header, &parsed) < 0)
+    std::optional<std::vector<NextHop>> hops = nextHops(*info, attributes);
+    if (!hops)
         return std::nullopt;
-    const RoutePointer owner(parsed, &rtnl_route_put);
-    DefaultRoute route{rtnl_route_get_table(parsed), rtnl_route_get_priority(parsed), rtnl_route_get_tos(parsed), {}};
-    rtnl_route_foreach_nexthop(parsed, collectNextHop, &route);
-    return route;
+    const nlattr *const table = attributes.byType[RTA_TABLE]; // there where the number takes more than a byte
+    const nlattr *const metric = attributes.byType[RTA_PRIORITY];
+    return DefaultRoute{table ? nla_get_u32(table) : info->rtm_table, metric ? nla_get_u32(metric) : 0, info->rtm_tos,
+                        std::move(*hops)};
 }
 
 void applyRoute(nlmsghdr *header, NetworkModel &model)
