@@ -16,6 +16,9 @@ public:
     /// @return whether they could be written
     bool writeSettings(const QString &authority) const;
 
+    /// Takes the folder away before its object goes.
+    void remove() { m_folder.remove(); }
+
 private:
     QTemporaryDir m_folder;
 };

@@ -1,6 +1,7 @@
 #include "platform/linux/BusAddress.h"
 #include "platform/linux/BusConnection.h"
 #include "platform/linux/DesktopStatusBar.h"
+#include "platform/linux/TerminationSignals.h"
 #include "simulator/demo/DemoFolder.h"
 #include "simulator/demo/DemoTour.h"
 #include "simulator/demo/DemoWindow.h"
@@ -14,14 +15,19 @@
 #include <QDir>
 #include <QLocale>
 
+#include <cstdlib>
 #include <iostream>
 
 using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    const tarvo::DemoFolder folder;
+    static tarvo::DemoFolder folder; // static, so that it also goes where the parser ends the program
     QApplication application(argc, argv);
+    const tarvo::TerminationSignals signals([] {
+        folder.remove();
+        std::_Exit(EXIT_FAILURE); // wherever the tour is; nothing else stays behind
+    });
     QApplication::setApplicationName(u"tarvo-demo"_s);
     QApplication::setWindowIcon(tarvo::applicationImage());
     tarvo::installTranslations(application, QLocale());

@@ -20,7 +20,7 @@ class ConfigManagerTest : public testing::Test {
 protected:
     QString write(const QString &name, const QByteArray &content) const
     {
-        const QString path = folder_.filePath(name);
+        const QString path = QDir(folder_.path()).filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -102,11 +102,9 @@ TEST_F(ConfigManagerTest, FlushReplacesTheFileWholeOrNotAtAll)
 TEST_F(ConfigManagerTest, UsesTheFirstFileOfTheStandardFolders)
 {
     const char *const variables[] = {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS"};
-    const auto fileOf = [](const char *variable) { return QString::fromLatin1(variable) + u"/tarvo/Config.plist"_s; };
-    for (const char *variable : variables) {
-        qputenv(variable, folder_.filePath(QString::fromLatin1(variable)).toLocal8Bit());
+    const auto fileOf = [](const char *variable) { return qEnvironmentVariable(variable) + u"/tarvo/Config.plist"_s; };
+    for (const char *variable : variables)
         write(fileOf(variable), "<dict><key>from</key><string>"_ba + variable + "</string></dict>");
-    }
     for (const char *variable : variables) {
         EXPECT_EQ(ConfigManager().getConfigurationByModule(u"from"_s), QVariant(QString::fromLatin1(variable)));
         const QString damaged = write(fileOf(variable), "<dict>");

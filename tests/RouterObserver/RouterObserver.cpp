@@ -12,7 +12,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QVariantList>
 
 #include <gtest/gtest.h>
@@ -29,11 +28,10 @@ constexpr int excludedProduct = 0x5679;
 /// The settings of this process alone.
 QVariantMap &settings()
 {
-    static const QTemporaryDir home;
     static QVariantMap *const dictionary = [] {
-        QDir(home.path()).mkpath(u"tarvo"_s);
+        const QDir home(qEnvironmentVariable("XDG_CONFIG_HOME"));
+        home.mkpath(u"tarvo"_s);
         QFile::copy(QStringLiteral(TARVO_SHIPPED_CONFIG), home.filePath(u"tarvo/Config.plist"_s));
-        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
         return ConfigManager::sharedConfigManager().getConfiguration();
     }();
     return *dictionary;

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QWindow>
 
 #include <gmock/gmock.h>
@@ -31,6 +32,7 @@ const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnviron
 
 const QColor magenta(255, 0, 255);
 const QColor green(0, 255, 0);
+const QColor trayColour(0, 254, 0); // as trayer mixes it
 
 constexpr auto panelSettings = R"(<channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
@@ -81,12 +83,15 @@ QRect areaOf(const QColor &colour)
     return QRegion(QBitmap::fromImage(matching)).boundingRect();
 }
 
-std::unique_ptr<Program> startTrayer(int height, const std::vector<std::string> &options = {})
+/// The tray that is installed, with icons of @p size x @p size pixels on @ref trayColour.
+std::unique_ptr<Program> startTray(int size)
 {
-    std::vector<std::string> command{
-        "trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", std::to_string(height)};
-    command.insert(command.end(), options.begin(), options.end());
-    return std::make_unique<Program>(command);
+    std::string command =
+        "exec stalonetray --background '#00fe00' --slot-size $0 --icon-size $0 --kludges force_icons_size";
+    if (!QStandardPaths::findExecutable(u"trayer"_s).isEmpty())
+        command = "exec trayer --edge top --align right --widthtype request --height $(($0 + 2)) " // with its frame
+                  "--transparent true --alpha 0 --tint 0x00ff00";
+    return std::make_unique<Program>(std::vector<std::string>{"sh", "-c", command, std::to_string(size)});
 }
 
 /// A panel that hosts StatusNotifierItems, and whose XEmbed tray was taken from it.
@@ -151,9 +156,9 @@ protected:
 TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 {
     menu.addAction(u"Quit"_s);
-    auto tray = startTrayer(24);
+    auto tray = startTray(22);
     ASSERT_TRUE(waitFor([&] { return item->frame() && !areaOf(magenta).isEmpty(); }));
-    EXPECT_EQ(item->frame()->size(), QSize(22, 22)); // the tray's frame takes a pixel on each side
+    EXPECT_EQ(item->frame()->size(), QSize(22, 22));
     EXPECT_TRUE(item->frame()->contains(areaOf(magenta)));
     EXPECT_FALSE(empty->frame());
 
@@ -169,14 +174,14 @@ TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
     ASSERT_TRUE(becomes(BarKind::None));
     EXPECT_FALSE(item->frame());
 
-    tray = startTrayer(40);
+    tray = startTray(38);
     ASSERT_TRUE(waitFor([&] { return item->frame() && item->frame()->size() == QSize(38, 38); }));
     EXPECT_TRUE(waitFor([&] { return item->frame()->contains(areaOf(magenta)) && areaOf(magenta).height() == 38; }));
 }
 
 TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
 {
-    const auto tray = startTrayer(24);
+    const auto tray = startTray(22);
     BusConnection noBus(u"no such bus"_s);
     DesktopStatusBar busless(noBus);
     EXPECT_TRUE(waitFor([&] { return busless.kind() == BarKind::Tray; }));
@@ -185,10 +190,9 @@ TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
 TEST_F(DesktopStatusBarTest, LetsTheBackgroundOfAnOpaqueTrayShowAroundTheIcon)
 {
     button.setIcon(QIcon()); // so that all of it is around the icon
-    const auto tray = startTrayer(24, {"--transparent", "true", "--alpha", "0", "--tint", "0x00ff00"});
+    const auto tray = startTray(22);
     ASSERT_TRUE(waitFor([&] { return item->frame().has_value(); }));
-    const QColor asTrayerMixesIt(0, 254, 0);
-    EXPECT_TRUE(waitFor([&] { return areaOf(asTrayerMixesIt).contains(*item->frame()); }));
+    EXPECT_TRUE(waitFor([&] { return areaOf(trayColour).contains(*item->frame()); }));
 }
 
 TEST_F(DesktopStatusBarTest, MovesBetweenThePanelsThatRun)
@@ -201,7 +205,7 @@ TEST_F(DesktopStatusBarTest, MovesBetweenThePanelsThatRun)
     clickOn(areaOf(magenta), "1");
     EXPECT_TRUE(waitFor([&] { return clicks == 1; }));
 
-    auto tray = startTrayer(24);
+    auto tray = startTray(22);
     ASSERT_TRUE(becomes(BarKind::Tray));
     EXPECT_TRUE(waitFor([&] { return item->frame() && item->frame()->contains(areaOf(magenta)); }));
 

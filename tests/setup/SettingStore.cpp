@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -21,7 +20,7 @@ protected:
     void SetUp() override
     {
         for (const char *variable : {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS"})
-            qputenv(variable, home_.filePath(QString::fromLatin1(variable)).toLocal8Bit());
+            QDir(qEnvironmentVariable(variable)).removeRecursively();
         path_ = userSettingsPath();
     }
 
@@ -39,7 +38,6 @@ protected:
     static QByteArray plist(const QByteArray &entries) { return "<plist><dict>" + entries + "</dict></plist>"; }
     static QStringList vendors() { return identifiersAt(settingsInForce().values, vendorsPath); }
 
-    QTemporaryDir home_;
     QString path_;
 };
 
@@ -67,11 +65,11 @@ TEST_F(SettingStoreTest, MakesTheUsersFileOfTheShippedOne)
 
 TEST_F(SettingStoreTest, StartsFromTheFileInForceAndFollowsALink)
 {
-    write(home_.filePath(u"XDG_CONFIG_DIRS/tarvo/Config.plist"_s),
+    write(qEnvironmentVariable("XDG_CONFIG_DIRS") + u"/tarvo/Config.plist"_s,
           plist("<key>mine</key><true/><!-- c --><key>device_info</key><dict><key>vendor_ids</key>"
                 "<array><integer>4660</integer><integer>9</integer></array></dict>"));
     QDir().mkpath(QFileInfo(path_).path());
-    const QString target = home_.filePath(u"elsewhere"_s);
+    const QString target = qEnvironmentVariable("HOME") + u"/elsewhere"_s;
     ASSERT_TRUE(QFile::link(target, path_));
     EXPECT_EQ(changeSettings(useDevice({4660, 1}), Damaged::Refuse).problem, QString());
     EXPECT_TRUE(QFileInfo(path_).isSymLink());

@@ -186,9 +186,8 @@ TEST(Autostart, IsSwitchedInTheUsersCopyOfTheEntry)
         EXPECT_EQ(startsAtLogin(bytes), starts);
 
     EXPECT_EQ(Autostart().isOn(), std::nullopt) << "nothing is installed";
-    const QTemporaryDir system;
-    qputenv("XDG_CONFIG_DIRS", system.path().toLocal8Bit());
-    QDir(system.path()).mkpath(u"autostart"_s);
+    const QDir system(qEnvironmentVariable("XDG_CONFIG_DIRS"));
+    system.mkpath(u"autostart"_s);
     QFile file(system.filePath(u"autostart/tarvo.desktop"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(entry) > 0);
     file.close();
