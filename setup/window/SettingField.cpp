@@ -62,6 +62,7 @@ SettingField::SettingField(const SettingKey &key, std::function<void()> edited)
     layout->setSpacing(3);
     if (key.kind == SettingKind::Flag) {
         m_flag = new QCheckBox(key.label());
+        m_flag->setChecked(key.flagWhenAbsent); // as nothing is present yet
         layout->addWidget(m_flag);
         connect(m_flag, &QCheckBox::toggled, this, edited);
     } else {
