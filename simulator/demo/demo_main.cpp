@@ -24,7 +24,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"tarvo-demo"_s);
     QApplication::setWindowIcon(tarvo::applicationImage());
-    tarvo::installTranslations(application, QLocale());
+    for (const QString &program : {u"tarvo"_s, u"tarvo-setup"_s})
+        tarvo::installTranslations(application, QLocale(), program);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
     parser.addHelpOption();
