@@ -19,10 +19,12 @@ ProfileFacts readProfiles()
     return {true, folder, true, report.isInOrder ? QStringList() : report.lines};
 }
 
-DesktopFacts readDesktop()
+/// @param properties  what the companion of this process tells of itself
+DesktopFacts readDesktop(const QVariantMap &properties)
 {
     DesktopFacts facts = readDesktopFacts({});
-    facts.runsApplication = true; // in this process
+    facts.runsApplication = true;
+    facts.applicationProperties = properties;
     return facts;
 }
 
@@ -34,7 +36,7 @@ DemoSetup::DemoSetup(DemoWorld &world)
                  .interfaceState = [&world](int) { return world.interfaceState(); },
                  .socketBinderFor = [](const UsbNetworkDevice &) { return SocketBinder(); },
                  .startCompanion = [] { return true; },
-                 .readDesktop = readDesktop,
+                 .readDesktop = [&world] { return readDesktop(world.companionProperties()); },
                  .restartCompanion =
                      [&world] {
                          world.restartCompanionSoon();

@@ -1,6 +1,7 @@
 #include "simulator/demo/DemoWorld.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/SettingFile.h"
 #include "app/Services.h"
 #include "platform/linux/Compositing.h"
 #include "simulator/demo/DemoSetup.h"
@@ -80,6 +81,7 @@ void DemoWorld::startCompanion()
     m_companion = std::make_unique<Companion>(*this);
     m_companion->controller.awakeFromNib();
     m_companion->controller.applicationDidFinishLaunching();
+    m_companionProperties.set({{settingDigestProperty, ConfigManager::sharedConfigManager().digest()}});
 }
 
 void DemoWorld::restartCompanionSoon()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MainController.h"
+#include "attachment/Guarded.h"
 #include "platform/InterfaceState.h"
 #include "platform/StateStore.h"
 #include "platform/StepQueue.h"
@@ -71,6 +72,9 @@ public:
     MainController &controller() { return m_companion->controller; }
     const SimulatedWorkspace &workspace() const { return m_companion->workspace; }
 
+    /// @return which settings the companion read; on any thread
+    QVariantMap companionProperties() const { return m_companionProperties.get(); }
+
 Q_SIGNALS:
     // On the main thread, for each of its kind.
     void modemAsked(const QString &request);
@@ -111,6 +115,8 @@ private:
     InterfaceState m_interface;
     bool m_pluggedIn = false;
     bool m_asleep = false;
+
+    Guarded<QVariantMap> m_companionProperties;
 
     // Last: they use all of the above.
     std::unique_ptr<DemoSetup> m_setup;

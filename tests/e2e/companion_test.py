@@ -137,7 +137,7 @@ class CompanionTest(unittest.TestCase):
         self.modem = Modem(self, "192.168.8")
         self.start_program()
 
-    def start_program(self):
+    def start_program(self, session_bus=None):
         mute = f"unix:path={self.folder}/bus"
         self.mute_bus = socket.socket(socket.AF_UNIX)
         self.addCleanup(self.mute_bus.close)
@@ -148,7 +148,7 @@ class CompanionTest(unittest.TestCase):
             "ASAN_OPTIONS": "verify_asan_link_order=0", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
+            "DBUS_SESSION_BUS_ADDRESS": session_bus or mute, "DBUS_SYSTEM_BUS_ADDRESS": mute}
         self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))

@@ -85,7 +85,7 @@ struct SetupWindowTest : testing::Test {
         .startCompanion = [] { return true; },
         .readDesktop =
             [] {
-                return DesktopFacts{true, true, true, true};
+                return DesktopFacts{true, true, true, true, {{u"SettingsDigest"_s, settingsInForce().digest}}};
             },
         .restartCompanion =
             [this] {
