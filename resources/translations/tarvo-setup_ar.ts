@@ -529,7 +529,7 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
     </message>
     <message id="Explain_OperatorHomePage">
         <source>If empty, the modem’s own pages are opened. In addresses, %@ stands for the modem.</source>
-        <translation>إن كانت فارغة فُتحت صفحات المودم. في العناوين يرمز %@ إلى المودم.</translation>
+        <translation>إن كانت فارغة فُتحت صفحات المودم. في العناوين يرمز ⁦%@⁩ إلى المودم.</translation>
     </message>
     <message id="Setting_WebUISmsPage">
         <source>Page of text messages</source>

@@ -13,6 +13,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
+#include <QPalette>
 
 #include <iostream>
 
@@ -24,6 +25,11 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"tarvo-demo"_s);
     QApplication::setWindowIcon(tarvo::applicationImage());
+    QPalette quiet; // some desktops leave this role black on their dark windows
+    QColor quietText = QApplication::palette().color(QPalette::WindowText);
+    quietText.setAlphaF(0.6F);
+    quiet.setColor(QPalette::PlaceholderText, quietText);
+    QApplication::setPalette(quiet);
     for (const QString &program : {u"tarvo"_s, u"tarvo-setup"_s})
         tarvo::installTranslations(application, QLocale(), program);
     QCommandLineParser parser;
