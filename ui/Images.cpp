@@ -63,12 +63,17 @@ class StateEngine final : public SvgEngine {
 public:
     explicit StateEngine(const QString &name)
         : SvgEngine(drawingOf(u"scalable/status", name))
+        , m_name(name)
         , m_for22(drawingOf(u"22x22/status", name))
         , m_for24(drawingOf(u"24x24/status", name))
     {
     }
 
     QIconEngine *clone() const override { return new StateEngine(*this); }
+
+    /// @return the name by which others find the image, and its variant in one colour, in the icon theme; empty where it
+    ///         is not installed
+    QString iconName() override { return QIcon::hasThemeIcon(m_name) ? m_name : QString(); }
 
 protected:
     QSvgRenderer &drawingFor(int side) override
@@ -79,6 +84,7 @@ protected:
     }
 
 private:
+    QString m_name;
     Drawing m_for22;
     Drawing m_for24;
 };
@@ -92,7 +98,7 @@ QIcon iconOf(std::unique_ptr<SvgEngine> engine)
 
 QIcon imageNamed(const QString &name)
 {
-    // Not from the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
+    // Not drawn by the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
     return iconOf(std::make_unique<StateEngine>(u"tarvo-"_s + name));
 }
 

@@ -8,9 +8,13 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QDir>
 #include <QFile>
+#include <QIconEngine>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QWindow>
 
@@ -47,6 +51,17 @@ constexpr auto panelSettings = R"(<channel name="xfce4-panel" version="1.0">
 </channel>
 )";
 
+/// A green picture that has a name.
+class NamedPicture final : public QIconEngine {
+public:
+    QString iconName() override { return u"a-name"_s; }
+    QIconEngine *clone() const override { return new NamedPicture; }
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        painter->fillRect(rect, green);
+    }
+};
+
 /// Makes @p window, for as long as it lives, a tray that takes no icon in.
 void takeTraySelection(QWindow &window)
 {
@@ -64,6 +79,16 @@ void takeTraySelection(QWindow &window)
     xcb_send_event(screen.connection, 0, screen.root, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&announcement));
     xcb_flush(screen.connection);
+}
+
+/// @return a property on the session bus, perhaps of an object of this process
+QVariant property(const QString &service, const QString &path, const QString &interface, const QString &name)
+{
+    auto question = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question << interface << name;
+    const QDBusPendingReply<QDBusVariant> answer = QDBusConnection::sessionBus().asyncCall(question);
+    EXPECT_TRUE(waitFor([&] { return answer.isFinished(); }));
+    return answer.isValid() ? answer.value().variant() : QVariant();
 }
 
 bool trayIsOwned(const XScreen &screen)
@@ -231,6 +256,24 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
     item->viewChanged();
     EXPECT_THAT(monitor.readLine(), EndsWith("NewIcon"));
     EXPECT_THAT(monitor.readLine(), EndsWith("NewToolTip"));
+}
+
+TEST_F(DesktopStatusBarTest, TellsTheHostTheThemesNameForTheIcon)
+{
+    const auto panel = startNotifierPanel();
+    ASSERT_TRUE(becomes(BarKind::Notifier));
+    button.setIcon(QIcon(new NamedPicture));
+    item->viewChanged();
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    QStringList items;
+    EXPECT_TRUE(waitFor([&] {
+        items =
+            property(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisteredStatusNotifierItems"_s).toStringList();
+        return items.size() == 1;
+    }));
+    const QString service = items.value(0).section(u'/', 0, 0);
+    EXPECT_EQ(property(service, u"/StatusNotifierItem"_s, u"org.kde.StatusNotifierItem"_s, u"IconName"_s), u"a-name"_s);
+    EXPECT_TRUE(waitFor([] { return !areaOf(green).isEmpty(); })) << "no theme has that name";
 }
 
 TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)

@@ -86,10 +86,14 @@ TEST(Images, AreThereWithoutThemeAndPluginsAndDifferWithoutColour)
     QFile damaged(theme.filePath(u"io.github.tarvo.Tarvo.png"_s));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("no picture") > 0);
     damaged.close();
+    ASSERT_TRUE(damaged.copy(theme.filePath(u"tarvo-online.png"_s)));
     QCoreApplication::setLibraryPaths({}); // of plugins that are not loaded yet
     QIcon::setThemeName(u"hicolor"_s);
     QIcon::setFallbackSearchPaths({theme.path()});
     EXPECT_FALSE(applicationImage().pixmap(16).isNull());
+
+    EXPECT_EQ(imageNamed(u"online"_s).name(), u"tarvo-online"_s);
+    EXPECT_EQ(imageNamed(u"ready"_s).name(), QString()) << "the theme does not have it";
 
     QList<QImage> pictures;
     for (const char *name : {"ready", "online", "newVersion", "dataFluxReached", "dataFluxExceeded"}) {
