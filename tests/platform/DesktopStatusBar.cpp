@@ -30,6 +30,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using testing::EndsWith;
+using testing::HasSubstr;
 
 const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
 
@@ -132,6 +133,24 @@ std::unique_ptr<Program> startNotifierPanel()
     QWindow taker;
     takeTraySelection(taker);
     return panel;
+}
+
+/// Registers this process with the watcher as having an item.
+void offerItem()
+{
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    auto offer =
+        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
+    offer << QDBusConnection::sessionBus().baseService();
+    QDBusConnection::sessionBus().send(offer);
+}
+
+/// @return what writes a line for each call or signal that @p rule takes in
+std::unique_ptr<Program> monitorBus(const std::string &rule)
+{
+    auto monitor = std::make_unique<Program>(std::vector<std::string>{"dbus-monitor", "--profile", rule});
+    while (monitor->readLine().find("NameLost") == std::string::npos) { } // its bus name goes when it listens
+    return monitor;
 }
 
 void clickOn(const QRect &area, const std::string &mouseButton)
@@ -243,8 +262,7 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
 {
     const auto panel = startNotifierPanel();
     ASSERT_TRUE(waitFor([&] { return bar.kind() == BarKind::Notifier && !areaOf(magenta).isEmpty(); }));
-    Program monitor({"dbus-monitor", "--profile", "interface=org.kde.StatusNotifierItem"});
-    while (monitor.readLine().find("NameLost") == std::string::npos) { } // its bus name goes when it listens
+    const auto monitor = monitorBus("interface=org.kde.StatusNotifierItem");
     for (int i = 0; i < 20; ++i) {
         paint(magenta);
         item->viewChanged();
@@ -254,8 +272,8 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
     EXPECT_TRUE(waitFor([&] { return !areaOf(green).isEmpty(); }));
     button.setToolTip(u"another"_s);
     item->viewChanged();
-    EXPECT_THAT(monitor.readLine(), EndsWith("NewIcon"));
-    EXPECT_THAT(monitor.readLine(), EndsWith("NewToolTip"));
+    EXPECT_THAT(monitor->readLine(), EndsWith("NewIcon"));
+    EXPECT_THAT(monitor->readLine(), EndsWith("NewToolTip"));
 }
 
 TEST_F(DesktopStatusBarTest, TellsTheHostTheThemesNameForTheIcon)
@@ -284,12 +302,25 @@ TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)
     QWindow tray;
     takeTraySelection(tray);
     ASSERT_TRUE(becomes(BarKind::Tray));
-    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
-    auto offer =
-        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
-    offer << QDBusConnection::sessionBus().baseService();
-    QDBusConnection::sessionBus().send(offer);
+    offerItem();
     EXPECT_TRUE(becomes(BarKind::Notifier));
+}
+
+TEST_F(DesktopStatusBarTest, OffersNothingToAHostWhoseTrayComesBackAtOnce)
+{
+    const auto panel = startNotifierPanel();
+    auto tray = std::make_unique<QWindow>();
+    takeTraySelection(*tray);
+    ASSERT_TRUE(becomes(BarKind::Tray));
+    const auto monitor = monitorBus("member=RegisterStatusNotifierItem");
+    tray.reset();
+    ASSERT_TRUE(becomes(BarKind::None));
+    tray = std::make_unique<QWindow>();
+    takeTraySelection(*tray);
+    ASSERT_TRUE(becomes(BarKind::Tray));
+    offerItem();
+    EXPECT_THAT(monitor->readLine(), HasSubstr(QDBusConnection::sessionBus().baseService().toStdString()))
+        << "another item was offered before";
 }
 
 TEST(ToApplicationCoordinates, ScalesWithinTheMonitorThatHoldsTheCentre)
