@@ -153,13 +153,6 @@ std::unique_ptr<Program> monitorBus(const std::string &rule)
     return monitor;
 }
 
-void clickOn(const QRect &area, const std::string &mouseButton)
-{
-    Program({"xdotool", "mousemove", std::to_string(area.center().x()), std::to_string(area.center().y()), "click",
-             mouseButton})
-        .readLine();
-}
-
 class DesktopStatusBarTest : public testing::Test {
 protected:
     DesktopStatusBarTest()
