@@ -90,6 +90,8 @@ void DemoWorld::restartCompanionSoon()
         m_companion.reset();
         ConfigManager::sharedConfigManager() = ConfigManager(); // nobody reads the old ones any more
         startCompanion();
+        if (m_asleep)
+            m_companion->workspace.sleep();
         Q_EMIT changed();
     });
 }
