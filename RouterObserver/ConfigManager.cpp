@@ -87,11 +87,12 @@ void ConfigManager::load()
 {
     if (!settingPath_)
         return;
-    const auto reading = readSettingFile(*settingPath_).values;
-    if (reading.root)
-        configDict_ = reading.root->toMap();
+    const SettingFileReading reading = readSettingFile(*settingPath_);
+    m_digest = settingDigest(reading.bytes);
+    if (reading.values.root)
+        configDict_ = reading.values.root->toMap();
     else
-        loadProblem_ = u"%1: %2"_s.arg(*settingPath_, reading.problem);
+        loadProblem_ = u"%1: %2"_s.arg(*settingPath_, reading.values.problem);
 }
 
 std::optional<QVariant> ConfigManager::getConfigurationByModule(const std::optional<QString> &module) const

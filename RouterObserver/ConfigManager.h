@@ -54,6 +54,8 @@ public:
     const std::optional<QString> &settingPath() const { return settingPath_; }
     /// @return why the file that was found could not be loaded, with its path; nil when nothing went wrong
     const std::optional<QString> &loadProblem() const { return loadProblem_; }
+    /// @return the `settingDigest` of the file as it was read, damaged or not; empty when it was not found
+    const QString &digest() const { return m_digest; }
 
 private:
     void load();
@@ -61,6 +63,7 @@ private:
     std::optional<QString> settingPath_;
     std::optional<QVariantMap> configDict_;
     std::optional<QString> loadProblem_;
+    QString m_digest;
 };
 
 /// @return whether @p value is a text, and equal to @p text; a number never is

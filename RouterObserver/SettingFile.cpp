@@ -1,6 +1,7 @@
 #include "RouterObserver/SettingFile.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaType>
@@ -46,6 +47,11 @@ SettingFileReading readSettingFile(const QString &path)
     if (reading.root && reading.root->typeId() != QMetaType::QVariantMap)
         return {bytes, {std::nullopt, u"its root is no dictionary"_s}};
     return {bytes, reading};
+}
+
+QString settingDigest(const QByteArray &bytes)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
 }
 
 } // namespace tarvo

@@ -1,4 +1,5 @@
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/SettingFile.h"
 #include "app/MainController.h"
 #include "platform/linux/ApplicationService.h"
 #include "platform/linux/BusAddress.h"
@@ -168,6 +169,14 @@ Services Surroundings::services()
     return services;
 }
 
+/// What others can read of this program on the session bus.
+QVariantMap publishedProperties()
+{
+    const ConfigManager &settings = ConfigManager::sharedConfigManager();
+    return {{settingPathProperty, settings.settingPath().value_or(QString())},
+            {settingDigestProperty, settings.digest()}};
+}
+
 void logSettings(SystemLog &systemLog)
 {
     const ConfigManager &settings = ConfigManager::sharedConfigManager();
@@ -183,7 +192,8 @@ int run(QApplication &application, SystemLog &systemLog)
     MainController controller(surroundings.services());
     const ApplicationService service(
         surroundings.sessionBus(), applicationId,
-        {.activate = [&] { controller.showStatus(); }, .restart = [] { QApplication::exit(startOver); }});
+        {.activate = [&] { controller.showStatus(); }, .restart = [] { QApplication::exit(startOver); }},
+        publishedProperties());
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
         controller.applicationWillTerminate();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QVariantMap>
+
 #include <optional>
 
 namespace tarvo {
@@ -10,6 +12,7 @@ struct DesktopFacts {
     std::optional<bool> showsNotifications{};
     std::optional<bool> opensPages{}; ///< there is a handler for web addresses
     std::optional<bool> runsApplication{}; ///< the application that was asked for has its name on the session bus
+    QVariantMap applicationProperties{}; ///< what that application tells of itself there
 
     bool operator==(const DesktopFacts &) const = default;
 };

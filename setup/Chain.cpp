@@ -1,5 +1,7 @@
 #include "setup/Chain.h"
 
+#include "RouterObserver/SettingFile.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -111,7 +113,22 @@ void addDesktop(Chain &chain, const DesktopFacts &desktop)
     chain.addBeside("tray", true, desktop.showsIcons, {"FixNoTray"});
     chain.addBeside("notifications", true, desktop.showsNotifications, {"FixNoNotifications"});
     chain.addBeside("browser", true, desktop.opensPages, {"FixNoBrowser"});
-    chain.addBeside("companion", true, desktop.runsApplication, {"FixNotRunning"});
+}
+
+/// The companion runs, and has read the settings as they are now.
+void addCompanion(Chain &chain, const ChainFacts &facts)
+{
+    const QVariantMap &told = facts.desktop.applicationProperties;
+    if (facts.desktop.runsApplication != true) {
+        chain.addBeside("companion", true, facts.desktop.runsApplication, {"FixNotRunning"});
+        return;
+    }
+    std::optional<bool> isUpToDate;
+    if (told.contains(settingDigestProperty))
+        isUpToDate = told.value(settingDigestProperty) == facts.settingsDigest;
+    QStringList file{told.value(settingPathProperty).toString()};
+    file.removeAll(QString());
+    chain.addBeside("companion", true, isUpToDate, {"FixOlderSettings"}, file);
 }
 
 } // namespace
@@ -129,6 +146,7 @@ QList<Check> checkChain(const ChainFacts &facts)
     addModem(chain, facts);
     addProfiles(chain, facts.profiles);
     addDesktop(chain, facts.desktop);
+    addCompanion(chain, facts);
     return chain.take();
 }
 

@@ -50,6 +50,7 @@ struct ProfileFacts {
 struct ChainFacts {
     QString settingsPath{}; ///< empty when there is no file
     QString settingsProblem{}; ///< why the file cannot be used; empty when it can
+    QString settingsDigest{}; ///< tells the file's content from others; empty when there is no file
     QList<SettingFinding> findings{};
     QString statusPage{}; ///< path on the modem
     QList<Device> devices{};

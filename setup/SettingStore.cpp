@@ -114,8 +114,9 @@ SettingsInForce settingsInForce()
     const auto path = findSettingFile();
     if (!path)
         return {};
-    const PropertyListReading values = readSettingFile(*path).values;
-    return {*path, values.root.value_or(QVariant()).toMap(), values.problem};
+    const SettingFileReading reading = readSettingFile(*path);
+    return {*path, reading.values.root.value_or(QVariant()).toMap(), reading.values.problem,
+            settingDigest(reading.bytes)};
 }
 
 SettingChange useDevice(DeviceId device)

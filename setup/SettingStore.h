@@ -16,6 +16,7 @@ struct SettingsInForce {
     QString path{}; ///< empty when there is no file
     QVariantMap values{}; ///< empty when there is none, or it cannot be used
     QString problem{}; ///< why the file cannot be used; empty when it can
+    QString digest{}; ///< its `settingDigest`; empty when there is no file
 };
 
 SettingsInForce settingsInForce();

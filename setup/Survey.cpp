@@ -105,6 +105,7 @@ ChainFacts Survey::factsAtHand(const SettingsInForce &settings) const
     ChainFacts facts;
     facts.settingsPath = settings.path;
     facts.settingsProblem = settings.problem;
+    facts.settingsDigest = settings.digest;
     facts.findings = checkSettings(settings.values);
     facts.statusPage = statusPagePath(settings.values);
     facts.devices = devices(settings.values);

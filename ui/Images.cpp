@@ -47,6 +47,10 @@ public:
 
     QIconEngine *clone() const override { return new PictureEngine(*this); }
 
+    /// @return the name by which others find the image, and its variant in one colour, in the icon theme; empty where it
+    ///         is not installed
+    QString iconName() override { return QIcon::hasThemeIcon(m_name) ? m_name : QString(); }
+
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
     {
         const int side = std::min(rect.width(), rect.height());
@@ -72,7 +76,7 @@ private:
 
 QIcon imageNamed(const QString &name)
 {
-    // Not from the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
+    // Not drawn by the icon theme: it would stretch the drawing for 22 pixels to 24, and its lines would blur.
     const QString ours = u"tarvo-"_s + name;
     return QFile::exists(pictureFile(ours, *drawnSizes)) ? QIcon(new PictureEngine(ours)) : QIcon();
 }

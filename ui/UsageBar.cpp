@@ -20,6 +20,14 @@ double fullAmount(const UsageBar::Amounts &amounts)
     return std::max({amounts.used, amounts.limit, amounts.reminder}) * roomBeyond;
 }
 
+/// @return a colour that the empty bar can be seen in on light and on dark windows
+QColor trackColor(const QPalette &palette)
+{
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlphaF(0.16F);
+    return color;
+}
+
 } // namespace
 
 UsageBar::UsageBar(const QString &name)
@@ -54,7 +62,7 @@ void UsageBar::paintEvent(QPaintEvent *)
     const QRectF track(0.5, markOverhang + 0.5, width() - 1, barHeight - 1);
     QPainterPath outline;
     outline.addRoundedRect(track, 4, 4);
-    painter.fillPath(outline, palette().color(QPalette::Mid).lighter(125));
+    painter.fillPath(outline, trackColor(palette()));
 
     const double full = fullAmount(m_amounts);
     if (full <= 0)

@@ -3,7 +3,8 @@
 #include "platform/linux/BusConnection.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
+#include <QDBusError>
+#include <QDBusVariant>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -18,6 +19,7 @@ using namespace std::chrono_literals;
 namespace {
 
 const QString applicationInterface = u"org.freedesktop.Application"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 constexpr auto patience = 4s;
 
 /// @return the object's path, which follows from the name
@@ -28,10 +30,12 @@ QString pathOf(const QString &applicationId)
 
 } // namespace
 
-ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers)
+ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers,
+                                       QVariantMap properties)
     : m_bus(bus)
     , m_applicationId(std::move(applicationId))
     , m_handlers(std::move(handlers))
+    , m_properties(std::move(properties))
 {
     m_bus.follow(
         this, [this] { busFound(); }, [] {});
@@ -46,7 +50,11 @@ void ApplicationService::busFound()
 
 QString ApplicationService::introspect(const QString &) const
 {
-    return uR"(<interface name="org.freedesktop.Application">
+    QString properties;
+    for (const QString &name : m_properties.keys())
+        properties += u"<property name=\"%1\" type=\"s\" access=\"read\"/>"_s.arg(name);
+    return u"<interface name=\"%1\">%2</interface>"_s.arg(m_applicationId, properties)
+        + uR"(<interface name="org.freedesktop.Application">
   <method name="Activate"><arg type="a{sv}" direction="in"/></method>
   <method name="Open"><arg type="as" direction="in"/><arg type="a{sv}" direction="in"/></method>
   <method name="ActivateAction">
@@ -57,6 +65,8 @@ QString ApplicationService::introspect(const QString &) const
 
 bool ApplicationService::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
+    if (message.interface() == propertiesInterface)
+        return connection.send(answerAboutProperties(message));
     if (message.interface() != applicationInterface)
         return false;
     std::function<void()> handler;
@@ -69,6 +79,20 @@ bool ApplicationService::handleMessage(const QDBusMessage &message, const QDBusC
     connection.send(message.createReply());
     QMetaObject::invokeMethod(this, handler, Qt::QueuedConnection);
     return true;
+}
+
+QDBusMessage ApplicationService::answerAboutProperties(const QDBusMessage &question) const
+{
+    const QString interface = question.arguments().value(0).toString();
+    const QString name = question.arguments().value(1).toString();
+    const bool isOurs = interface == m_applicationId;
+    if (question.member() == u"GetAll")
+        return question.createReply(isOurs ? m_properties : QVariantMap());
+    if (question.member() == u"Get" && isOurs && m_properties.contains(name))
+        return question.createReply(QVariant::fromValue(QDBusVariant(m_properties.value(name))));
+    if (question.member() == u"Set")
+        return question.createErrorReply(QDBusError::PropertyReadOnly, u"it can only be read"_s);
+    return question.createErrorReply(QDBusError::UnknownProperty, u"there is no such property"_s);
 }
 
 bool activateRunningApplication(const QString &busAddress, const QString &applicationId)

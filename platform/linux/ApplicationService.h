@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 
@@ -23,17 +25,21 @@ public:
 
     /// Takes the name @p applicationId whenever there is a bus.
     /// @param bus  outlives this object
-    ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers);
+    /// @param properties  texts by name, which others can read under the interface @p applicationId
+    ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers, QVariantMap properties = {});
 
     QString introspect(const QString &path) const override;
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
     void busFound();
+    /// @return the answer to @p question of the interface org.freedesktop.DBus.Properties
+    QDBusMessage answerAboutProperties(const QDBusMessage &question) const;
 
     BusConnection &m_bus;
     const QString m_applicationId;
     const Handlers m_handlers;
+    const QVariantMap m_properties;
 };
 
 /// Asks the program that owns @p applicationId on the session bus to show itself, while events are handled for a few

@@ -1,5 +1,6 @@
 #include "platform/linux/DesktopFactsReader.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -50,6 +51,22 @@ std::optional<bool> isReachable(const QDBusConnection &bus, const QString &name)
     if (!owned || *owned)
         return owned;
     return call(bus, busQuestion(u"ListActivatableNames"_s), {}).arguments().value(0).toStringList().contains(name);
+}
+
+/// @return the object's path, which follows from the application's name
+QString objectPath(const QString &applicationName)
+{
+    return u'/' + QString(applicationName).replace(u'.', u'/').replace(u'-', u'_');
+}
+
+/// @return what an application tells of itself under the interface that has its name
+QVariantMap propertiesOf(const QDBusConnection &bus, const QString &applicationName)
+{
+    const QDBusMessage question = QDBusMessage::createMethodCall(applicationName, objectPath(applicationName),
+                                                                 u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s);
+    const QDBusMessage answer = call(bus, question, {applicationName});
+    return answer.type() == QDBusMessage::ReplyMessage ? qdbus_cast<QVariantMap>(answer.arguments().value(0))
+                                                       : QVariantMap();
 }
 
 bool hostsNotifierItems(const QDBusConnection &bus)
@@ -110,6 +127,8 @@ DesktopFacts readDesktopFacts(const QString &applicationName)
     DesktopFacts facts;
     if (bus.isConnected()) {
         facts.runsApplication = hasOwner(bus, applicationName);
+        if (facts.runsApplication == true)
+            facts.applicationProperties = propertiesOf(bus, applicationName);
         facts.showsNotifications = isReachable(bus, u"org.freedesktop.Notifications"_s);
     }
     if (!hasDisplay())
@@ -126,9 +145,8 @@ ActionResult activateAction(const QString &applicationName, const QString &actio
         return ActionResult::NoBus;
     if (hasOwner(bus, applicationName) != true)
         return ActionResult::NotRunning;
-    const QString path = u'/' + QString(applicationName).replace(u'.', u'/').replace(u'-', u'_');
-    const QDBusMessage question =
-        QDBusMessage::createMethodCall(applicationName, path, u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+    const QDBusMessage question = QDBusMessage::createMethodCall(applicationName, objectPath(applicationName),
+                                                                 u"org.freedesktop.Application"_s, u"ActivateAction"_s);
     const QDBusMessage answer = call(bus, question, {action, QVariantList(), QVariantMap()});
     return answer.type() == QDBusMessage::ReplyMessage ? ActionResult::Done : ActionResult::Failed;
 }

@@ -8,7 +8,7 @@ namespace tarvo {
 
 // These wait for the desktop's programs, for a few seconds each at most: not for the main thread.
 
-/// Asks the desktop what it offers, and whether @p applicationName is on the session bus.
+/// Asks the desktop what it offers, and whether @p applicationName is on the session bus and what it tells there.
 DesktopFacts readDesktopFacts(const QString &applicationName);
 
 /// Has a running application do @p action (freedesktop.org Desktop Entry Specification, "D-Bus Activation"). It is not

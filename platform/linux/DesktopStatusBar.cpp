@@ -2,13 +2,17 @@
 
 #include <QFile>
 
+#include <chrono>
 #include <utility>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto settlingTime = 1s;
 
 bool isKnownForwarder(quint32 process)
 {
@@ -67,6 +71,11 @@ DesktopStatusBar::DesktopStatusBar(BusConnection &sessionBus, std::function<void
         return;
     m_trayBar = std::make_unique<XEmbedStatusBar>(*screen);
     m_trays = std::make_unique<XTrayWatcher>(*screen, [this] { choose(); });
+    m_settling.setSingleShot(true);
+    QObject::connect(&m_settling, &QTimer::timeout, &m_settling, [this] {
+        m_hasSettled = true;
+        choose();
+    });
     choose();
 }
 
@@ -85,14 +94,29 @@ void DesktopStatusBar::choose()
         return;
     const std::optional<XTray> tray = m_trays ? m_trays->tray() : std::nullopt;
     const bool canBeHosted = m_hosts.hosted() && NotifierStatusBar::reachesHosts();
-    m_kind = chooseBar(tray.has_value(), canBeHosted, tray && forwards(*tray));
+    const BarKind wanted = chooseBar(tray.has_value(), canBeHosted, tray && forwards(*tray));
+    m_kind = settled(wanted);
     if (m_kind != BarKind::Notifier)
         m_notifierBar.hide();
     setTray(m_kind == BarKind::Tray ? tray : std::nullopt);
     if (m_kind == BarKind::Notifier)
         m_notifierBar.show();
-    if (m_kind == BarKind::None && m_hosts.hosted() && m_hostOutOfReach)
+    if (wanted == BarKind::None && m_hosts.hosted() && m_hostOutOfReach)
         m_hostOutOfReach();
+}
+
+BarKind DesktopStatusBar::settled(BarKind wanted)
+{
+    if (wanted != BarKind::Notifier) {
+        m_settling.stop();
+        m_hasSettled = false;
+        return wanted;
+    }
+    if (m_hasSettled || !m_trays)
+        return wanted;
+    if (!m_settling.isActive())
+        m_settling.start(settlingTime);
+    return BarKind::None;
 }
 
 bool DesktopStatusBar::forwards(const XTray &tray) const

@@ -6,6 +6,8 @@
 #include "platform/linux/XEmbedStatusBar.h"
 #include "platform/linux/XTrayWatcher.h"
 
+#include <QTimer>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -26,6 +28,10 @@ BarKind chooseBar(bool hasTray, bool hosted, bool forwarded);
 /// The status bar of whatever desktop runs: at each time its items are in at most one of the two kinds of bar, and
 /// they follow when bars come, go or change kind.
 ///
+/// A panel that has both kinds brings them, and takes them away, one after the other. Hosts may show an item for ever that
+/// is offered and taken back at once, so on an X desktop items are offered only to a host that is still alone after a
+/// second.
+///
 /// A tray is taken to forward its icons to a StatusNotifierItem host when the process that owns it is KDE's
 /// `xembedsniproxy`, or offers StatusNotifierItems itself: panels that draw a tray show items and offer none. Such an
 /// offer may come only after a tray got its first icon; items then move to the host and stay there.
@@ -44,6 +50,8 @@ public:
 
 private:
     void choose();
+    /// @return @p wanted, or none for the moment while a tray may still come beside the host
+    BarKind settled(BarKind wanted);
     bool forwards(const XTray &tray) const;
     void setTray(const std::optional<XTray> &tray);
 
@@ -53,6 +61,8 @@ private:
     NotifierStatusBar m_notifierBar;
     std::unique_ptr<XEmbedStatusBar> m_trayBar; ///< null where there is no X
     std::unique_ptr<XTrayWatcher> m_trays; ///< null where there is no X
+    QTimer m_settling; ///< runs while a tray may still come beside the host
+    bool m_hasSettled = false; ///< none came
     NotifierHosts m_hosts;
 };
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QDBusConnection>
 #include <QIcon>
+#include <QIconEngine>
 #include <QImage>
 #include <QMenu>
 #include <QPixmap>
@@ -15,6 +16,7 @@ namespace {
 
 /// What a host can be told of a button.
 struct Mirror {
+    QString iconName; ///< in the icon theme; empty when it has none
     QList<QImage> images; ///< the icon, at every size that panels use
     QString toolTip;
 
@@ -23,11 +25,44 @@ struct Mirror {
 
 Mirror mirrorOf(const QAbstractButton &view)
 {
-    Mirror mirror{.images = {}, .toolTip = view.toolTip()};
+    Mirror mirror{.iconName = view.icon().name(), .images = {}, .toolTip = view.toolTip()};
     for (const int side : {16, 22, 24, 32, 48, 64})
         mirror.images.append(view.icon().pixmap(QSize(side, side), 1.0).toImage());
     return mirror;
 }
+
+/// Draws the images of a mirror, and tells their name.
+class MirrorEngine final : public QIconEngine {
+public:
+    explicit MirrorEngine(const Mirror &mirror)
+        : m_name(mirror.iconName)
+    {
+        for (const QImage &image : mirror.images)
+            m_images.addPixmap(QPixmap::fromImage(image));
+    }
+
+    QString iconName() override { return m_name; }
+    QIconEngine *clone() const override { return new MirrorEngine(*this); }
+
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override
+    {
+        return m_images.availableSizes(mode, state);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return m_images.pixmap(size, 1.0, mode, state);
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        m_images.paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+
+private:
+    QString m_name;
+    QIcon m_images;
+};
 
 /// One icon in the host's bar, which shows a mirror. The host is told only of what differs from before.
 class MirroredIcon {
@@ -41,8 +76,6 @@ public:
     void apply(const Mirror &mirror);
 
 private:
-    void setImages(const QList<QImage> &images);
-
     Mirror m_mirror;
     QSystemTrayIcon m_icon;
 };
@@ -56,20 +89,12 @@ MirroredIcon::MirroredIcon(const Mirror &mirror, QMenu *menu)
 
 void MirroredIcon::apply(const Mirror &mirror)
 {
-    if (mirror.images != m_mirror.images)
-        setImages(mirror.images);
+    // The host gets pixels beside the name: its theme need not be ours.
+    if (mirror.images != m_mirror.images || mirror.iconName != m_mirror.iconName)
+        m_icon.setIcon(QIcon(new MirrorEngine(mirror)));
     if (mirror.toolTip != m_mirror.toolTip)
         m_icon.setToolTip(mirror.toolTip);
     m_mirror = mirror;
-}
-
-void MirroredIcon::setImages(const QList<QImage> &images)
-{
-    // The host gets pixels, not a name: its theme need not be ours.
-    QIcon icon;
-    for (const QImage &image : images)
-        icon.addPixmap(QPixmap::fromImage(image));
-    m_icon.setIcon(icon);
 }
 
 } // namespace

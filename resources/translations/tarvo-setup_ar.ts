@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo لا يعمل. شغّله من قائمة سطح المكتب.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>يعمل Tarvo بإعدادات أقدم. أنهِه من قائمة أيقونته ثم شغّله من جديد.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>«%1» ليس من الإعدادات. صحح كتابته أو احذفه.</translation>
@@ -525,7 +529,7 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
     </message>
     <message id="Explain_OperatorHomePage">
         <source>If empty, the modem’s own pages are opened. In addresses, %@ stands for the modem.</source>
-        <translation>إن كانت فارغة فُتحت صفحات المودم. في العناوين يرمز %@ إلى المودم.</translation>
+        <translation>إن كانت فارغة فُتحت صفحات المودم. في العناوين يرمز ⁦%@⁩ إلى المودم.</translation>
     </message>
     <message id="Setting_WebUISmsPage">
         <source>Page of text messages</source>

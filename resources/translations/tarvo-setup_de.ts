@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo läuft nicht. Starten Sie es aus dem Menü Ihres Desktops.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo läuft mit älteren Einstellungen. Beenden Sie es im Menü seines Symbols, und starten Sie es neu.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>„%1“ ist keine Einstellung. Berichtigen Sie die Schreibweise, oder nehmen Sie den Eintrag heraus.</translation>

@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo no está en marcha. Inícielo desde el menú de su escritorio.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo funciona con ajustes anteriores. Ciérrelo desde el menú de su icono y vuelva a iniciarlo.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>«%1» no es un ajuste. Corrija cómo está escrito, o quítelo.</translation>

@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo n’est pas lancé. Lancez-le depuis le menu de votre bureau.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo fonctionne avec d’anciens réglages. Quittez-le depuis le menu de son icône, puis relancez-le.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>« %1 » n’est pas un réglage. Corrigez son orthographe, ou retirez-le.</translation>

@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo non è in esecuzione. Avvialo dal menu del desktop.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo usa impostazioni precedenti. Chiudilo dal menu della sua icona e riavvialo.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>“%1” non è un’impostazione. Correggi come è scritta, o toglila.</translation>

@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo は起動していません。デスクトップのメニューから起動してください。</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo は古い設定で動作しています。アイコンのメニューから終了し、もう一度起動してください。</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>「%1」という設定はありません。つづりを直すか、取り除いてください。</translation>

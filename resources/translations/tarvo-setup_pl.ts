@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>Tarvo nie działa. Uruchom go z menu pulpitu.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>Tarvo działa ze starszymi ustawieniami. Zamknij go w menu jego ikony i uruchom ponownie.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>„%1” nie jest ustawieniem. Popraw pisownię albo usuń ten wpis.</translation>

@@ -247,6 +247,10 @@
         <source>Tarvo is not running. Start it from the menu of your desktop.</source>
         <translation>O Tarvo não está em execução. Inicie-o pelo menu da sua área de trabalho.</translation>
     </message>
+    <message id="FixOlderSettings">
+        <source>Tarvo runs with older settings. Quit it in the menu of its icon, and start it again.</source>
+        <translation>O Tarvo está usando ajustes antigos. Saia dele pelo menu do ícone e inicie-o novamente.</translation>
+    </message>
     <message id="FaultUnknownKey">
         <source>“%1” is no setting. Correct its spelling, or take it out.</source>
         <translation>“%1” não é um ajuste. Corrija a grafia ou retire-o.</translation>

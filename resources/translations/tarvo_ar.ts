@@ -252,14 +252,14 @@
         <translation>لم يُعرض إصدار جديد</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>تم إرسال %n</numerusform>
-            <numerusform>تم إرسال %n</numerusform>
-            <numerusform>تم إرسال %n</numerusform>
-            <numerusform>تم إرسال %n</numerusform>
-            <numerusform>تم إرسال %n</numerusform>
-            <numerusform>تم إرسال %n</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
+            <numerusform>تم إرسال %Ln</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

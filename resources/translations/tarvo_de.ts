@@ -252,10 +252,10 @@
         <translation>keine neue Version angeboten</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n gesendet</numerusform>
-            <numerusform>%n gesendet</numerusform>
+            <numerusform>%Ln gesendet</numerusform>
+            <numerusform>%Ln gesendet</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

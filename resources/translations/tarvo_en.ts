@@ -252,10 +252,10 @@
         <translation>no new version offered</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n sent</numerusform>
-            <numerusform>%n sent</numerusform>
+            <numerusform>%Ln sent</numerusform>
+            <numerusform>%Ln sent</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

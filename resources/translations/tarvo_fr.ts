@@ -252,10 +252,10 @@
         <translation>aucune nouvelle version proposée</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n envoyé</numerusform>
-            <numerusform>%n envoyés</numerusform>
+            <numerusform>%Ln envoyé</numerusform>
+            <numerusform>%Ln envoyés</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

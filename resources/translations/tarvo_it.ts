@@ -252,10 +252,10 @@
         <translation>nessuna nuova versione offerta</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n inviato</numerusform>
-            <numerusform>%n inviati</numerusform>
+            <numerusform>%Ln inviato</numerusform>
+            <numerusform>%Ln inviati</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

@@ -252,9 +252,9 @@
         <translation>新しいバージョンの提供なし</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n 件送信済み</numerusform>
+            <numerusform>%Ln 件送信済み</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

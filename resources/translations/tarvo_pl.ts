@@ -252,11 +252,11 @@
         <translation>nie zaoferowano nowej wersji</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>wysłano %n</numerusform>
-            <numerusform>wysłano %n</numerusform>
-            <numerusform>wysłano %n</numerusform>
+            <numerusform>wysłano %Ln</numerusform>
+            <numerusform>wysłano %Ln</numerusform>
+            <numerusform>wysłano %Ln</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

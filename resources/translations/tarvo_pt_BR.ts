@@ -252,10 +252,10 @@
         <translation>nenhuma versão nova oferecida</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>%n enviado</numerusform>
-            <numerusform>%n enviados</numerusform>
+            <numerusform>%Ln enviado</numerusform>
+            <numerusform>%Ln enviados</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

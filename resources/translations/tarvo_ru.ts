@@ -252,11 +252,11 @@
         <translation>новая версия не предложена</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>отправлена %n</numerusform>
-            <numerusform>отправлено %n</numerusform>
-            <numerusform>отправлено %n</numerusform>
+            <numerusform>отправлена %Ln</numerusform>
+            <numerusform>отправлено %Ln</numerusform>
+            <numerusform>отправлено %Ln</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

@@ -252,9 +252,9 @@
         <translation>未提供新版本</translation>
     </message>
     <message id="ValueAccessPointsSent" numerus="yes">
-        <source>%n sent</source>
+        <source>%Ln sent</source>
         <translation>
-            <numerusform>已发送 %n 个</numerusform>
+            <numerusform>已发送 %Ln 个</numerusform>
         </translation>
     </message>
     <message id="ProblemNoSettings">

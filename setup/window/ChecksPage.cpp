@@ -1,6 +1,7 @@
 #include "setup/window/ChecksPage.h"
 
 #include "setup/Report.h"
+#include "setup/window/Buttons.h"
 #include "setup/window/Marks.h"
 #include "setup/window/TitledItems.h"
 
@@ -19,8 +20,8 @@ namespace tarvo {
 ChecksPage::ChecksPage(std::function<void()> checkAgain)
     : m_summary(new QLabel)
     , m_list(new TitledList)
-    , m_copy(new QPushButton(qtTrId("CopyReport")))
-    , m_again(new QPushButton(qtTrId("CheckAgain")))
+    , m_copy(roomyButton(qtTrId("CopyReport")))
+    , m_again(roomyButton(qtTrId("CheckAgain")))
 {
     m_summary->setWordWrap(true);
     m_list->setAccessibleName(qtTrId("TabChecks"));

@@ -1,5 +1,6 @@
 #include "setup/window/DevicesPage.h"
 
+#include "setup/window/Buttons.h"
 #include "setup/window/Marks.h"
 #include "setup/window/TitledItems.h"
 
@@ -77,8 +78,8 @@ TitledItem itemOf(const ListedDevice &listed)
 DevicesPage::DevicesPage(Handler use, Handler leaveAlone)
     : m_empty(new QLabel(qtTrId("NoDevices")))
     , m_list(new TitledList)
-    , m_use(new QPushButton(qtTrId("UseModem")))
-    , m_leaveAlone(new QPushButton(qtTrId("LeaveAlone")))
+    , m_use(roomyButton(qtTrId("UseModem")))
+    , m_leaveAlone(roomyButton(qtTrId("LeaveAlone")))
 {
     auto *const introduction = new QLabel(qtTrId("DevicesIntroduction"));
     introduction->setWordWrap(true);

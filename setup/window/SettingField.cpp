@@ -2,8 +2,10 @@
 
 #include "RouterObserver/ConfigManager.h"
 #include "setup/SettingFindings.h"
+#include "setup/window/TitledItems.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaType>
@@ -16,9 +18,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QLabel *wrappedLabel(const QString &text = {})
+QLabel *wrappedLabel()
 {
-    auto *const label = new QLabel(text);
+    auto *const label = new QLabel;
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     return label;
@@ -55,6 +57,7 @@ QVariantList identifiersFrom(const QString &text)
 
 SettingField::SettingField(const SettingKey &key, const std::function<void()> &edited)
     : m_key(key)
+    , m_explanation(wrappedLabel())
     , m_fault(wrappedLabel())
 {
     auto *const layout = new QVBoxLayout(this);
@@ -62,6 +65,7 @@ SettingField::SettingField(const SettingKey &key, const std::function<void()> &e
     layout->setSpacing(3);
     if (key.kind == SettingKind::Flag) {
         m_flag = new QCheckBox(key.label());
+        m_flag->setChecked(key.flagWhenAbsent); // as nothing is present yet
         layout->addWidget(m_flag);
         connect(m_flag, &QCheckBox::toggled, this, edited);
     } else {
@@ -75,15 +79,27 @@ SettingField::SettingField(const SettingKey &key, const std::function<void()> &e
             edited();
         });
     }
-    auto *const explanation = wrappedLabel(key.explanation() + u' ' + shippedText());
-    setTextColour(explanation, quietColour(palette()));
+    m_explanation->setText(key.explanation() + u' ' + shippedText());
     QWidget *const editor = m_flag ? static_cast<QWidget *>(m_flag) : m_text;
-    editor->setAccessibleDescription(explanation->text());
+    editor->setAccessibleDescription(m_explanation->text());
     setFocusProxy(editor);
-    setTextColour(m_fault, warningColour(palette()));
+    applyColours();
     m_fault->hide();
     layout->addWidget(m_fault);
-    layout->addWidget(explanation);
+    layout->addWidget(m_explanation);
+}
+
+void SettingField::applyColours()
+{
+    setTextColour(m_explanation, quietColour(palette()));
+    setTextColour(m_fault, warningColour(palette()));
+}
+
+void SettingField::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyColours();
 }
 
 QString SettingField::shippedText() const
@@ -92,7 +108,7 @@ QString SettingField::shippedText() const
     if (m_key.kind == SettingKind::Flag)
         return readsAs(shipped) ? qtTrId("ShippedOn") : qtTrId("ShippedOff");
     const QString text = asText(shipped);
-    return text.isEmpty() ? qtTrId("ShippedNone") : qtTrId("ShippedText").arg(text.trimmed());
+    return text.isEmpty() ? qtTrId("ShippedNone") : qtTrId("ShippedText").arg(isolated(text.trimmed()));
 }
 
 bool SettingField::readsAs(const QVariant &flag) const

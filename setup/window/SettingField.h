@@ -41,10 +41,13 @@ private:
     bool readsAs(const QVariant &flag) const;
     QString asText(const QVariant &value) const;
     void showFault();
+    void applyColours();
+    void changeEvent(QEvent *event) override;
 
     SettingKey m_key;
     QCheckBox *m_flag = nullptr; ///< of a flag only
     QLineEdit *m_text = nullptr; ///< of the others
+    QLabel *m_explanation;
     QLabel *m_fault;
     QVariant m_present;
 };

@@ -1,6 +1,7 @@
 #include "setup/window/SettingsPage.h"
 
 #include "setup/SettingKeys.h"
+#include "setup/window/Buttons.h"
 #include "setup/window/SettingField.h"
 
 #include <QCheckBox>
@@ -125,9 +126,9 @@ void SettingsPage::addFields(QVBoxLayout *form)
 
 void SettingsPage::addButtons(QVBoxLayout *layout)
 {
-    auto *const reset = new QPushButton(qtTrId("ShippedSettings"));
-    m_discard = new QPushButton(qtTrId("DiscardChanges"));
-    m_save = new QPushButton(qtTrId("Save"));
+    auto *const reset = roomyButton(qtTrId("ShippedSettings"));
+    m_discard = roomyButton(qtTrId("DiscardChanges"));
+    m_save = roomyButton(qtTrId("Save"));
     auto *const buttons = new QHBoxLayout;
     buttons->addWidget(reset);
     buttons->addStretch();

@@ -1,6 +1,7 @@
 #include "setup/window/SetupWindow.h"
 
 #include "platform/UsbNetworkDevices.h"
+#include "setup/window/Buttons.h"
 #include "setup/window/ChecksPage.h"
 #include "setup/window/DevicesPage.h"
 #include "setup/window/SettingsPage.h"
@@ -76,7 +77,7 @@ void SetupWindow::addMessageBar(QWidget *bar)
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_start = new QPushButton(qtTrId("StartCompanion"));
+    m_start = roomyButton(qtTrId("StartCompanion"));
     m_start->hide();
     auto *const layout = new QHBoxLayout(bar);
     layout->setContentsMargins(6, 0, 6, 0);

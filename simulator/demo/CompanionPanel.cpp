@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMap>
+#include <QMenu>
 #include <QPushButton>
 
 namespace tarvo {
@@ -39,6 +40,7 @@ CompanionPanel::CompanionPanel(DemoWorld &world)
     , m_tip(new QLabel)
     , m_knowledge(new QLabel)
     , m_click(new QPushButton(u"&Click the icon"_s))
+    , m_menu(new QPushButton(u"Open its &menu"_s))
 {
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
@@ -51,13 +53,18 @@ CompanionPanel::CompanionPanel(DemoWorld &world)
     layout->addWidget(m_icon, 0, 0, 2, 1, Qt::AlignTop);
     layout->addWidget(m_headline, 0, 1);
     layout->addWidget(m_click, 0, 2);
-    layout->addWidget(m_tip, 1, 1, 1, 2);
-    layout->addWidget(m_knowledge, 2, 1, 1, 2);
+    layout->addWidget(m_menu, 0, 3);
+    layout->addWidget(m_tip, 1, 1, 1, 3);
+    layout->addWidget(m_knowledge, 2, 1, 1, 3);
     layout->setColumnStretch(1, 1);
     layout->setHorizontalSpacing(layout->horizontalSpacing() * 2);
     connect(m_click, &QPushButton::clicked, this, [this] {
         if (auto *icon = m_world.statusBar().icon())
             icon->click();
+    });
+    connect(m_menu, &QPushButton::clicked, this, [this] {
+        if (auto *menu = m_world.statusBar().menu())
+            menu->popup(m_menu->mapToGlobal(m_menu->rect().bottomLeft()));
     });
     refresh();
 }
@@ -69,6 +76,7 @@ void CompanionPanel::refresh()
     m_headline->setText(meaning(icon ? icon->image() : QString()));
     m_tip->setText(icon && !icon->toolTip().isEmpty() ? icon->toolTip() : u"No news"_s);
     m_click->setEnabled(icon != nullptr);
+    m_menu->setEnabled(icon != nullptr);
     m_knowledge->setText(knowledge());
 }
 

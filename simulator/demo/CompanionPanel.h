@@ -27,6 +27,7 @@ private:
     QLabel *m_tip;
     QLabel *m_knowledge;
     QPushButton *m_click;
+    QPushButton *m_menu;
 };
 
 } // namespace tarvo

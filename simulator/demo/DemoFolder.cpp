@@ -10,7 +10,7 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-// Vendor 4661 is 0x1235, which no maker has.
+// The vendor is the one of the shipped example, so that the demo's modem is unknown at first.
 const QString settings = uR"(<?xml version="1.0" encoding="UTF-8"?>
 <plist version="1.0">
 <dict>
@@ -25,7 +25,7 @@ const QString settings = uR"(<?xml version="1.0" encoding="UTF-8"?>
   <key>WebDefaultApnProfileName</key><string>Internet</string>
   <key>device_info</key>
   <dict>
-    <key>vendor_ids</key><array><string>4661</string></array>
+    <key>vendor_ids</key><array><string>4660</string></array>
   </dict>
 </dict>
 </plist>

@@ -12,7 +12,7 @@ public:
     /// used. To be called before other threads start.
     DemoFolder();
 
-    /// Writes settings that support the demo's modem and lead to pages on @p authority, its server.
+    /// Writes settings that support no modem yet, and lead to pages on @p authority, the modem's server.
     /// @return whether they could be written
     bool writeSettings(const QString &authority) const;
 

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QDir>
-#include <QMap>
-#include <QString>
+#include "simulator/demo/TourReport.h"
 
-#include <chrono>
-#include <functional>
+#include <QDir>
+#include <QString>
 
 namespace tarvo {
 
@@ -29,7 +27,7 @@ public:
 
 private:
     void start();
-    void plugIn();
+    void recognise();
     void seeStatusWindow();
     void reachLimits();
     void seeLimit(const QString &what, const QString &image, const QString &picture);
@@ -40,13 +38,6 @@ private:
     void seeFirmware();
     void unplug();
 
-    void begin(const QString &title);
-    /// Says what the modem was asked since `begin`.
-    void end();
-    void check(const QString &what, bool passed);
-    /// Saves what the window, and the screen where there is one, show. It counts as a failure when that is blank.
-    void takePicture(const QString &name);
-
     QString image() const;
     QString toolTip() const;
     QString lastPage() const;
@@ -54,12 +45,8 @@ private:
 
     DemoWorld &m_world;
     DemoWindow &m_window;
-    QDir m_pictures;
+    TourReport m_report;
     QString m_lastBalloon;
-    qsizetype m_seenRequests = 0;
-    int m_pictureNumber = 0;
-    int m_passed = 0;
-    int m_failed = 0;
 };
 
 } // namespace tarvo

@@ -1,7 +1,10 @@
 #include "simulator/demo/DemoWorld.h"
 
+#include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/SettingFile.h"
 #include "app/Services.h"
 #include "platform/linux/Compositing.h"
+#include "simulator/demo/DemoSetup.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -16,7 +19,8 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString interfaceName = u"enx001122334455"_s;
-constexpr int vendorID = 4661;
+const QString deviceName = u"Simulated Modem"_s;
+constexpr int vendorID = 4661; // 0x1235, which no maker has
 constexpr int productID = 1;
 constexpr auto addressDelay = 600ms; // about what DHCP takes
 } // namespace
@@ -30,37 +34,66 @@ QString requestText(const ReceivedRequest &request)
     return u"set "_s + body.left(body.lastIndexOf(u"&AD="_s)).section(u'=', 1);
 }
 
+DemoWorld::Companion::Companion(DemoWorld &world)
+    : workspace([&world](const QUrl &page) { return world.openPage(page); })
+    , notifications(world.m_sessionBus, world.m_systemLog)
+    , controller(Services{
+          .dynamicStore = world.m_store,
+          .deviceRegistry = world.m_registry,
+          .workspace = workspace,
+          .statusBar = world.m_statusBar,
+          .clock = world.m_clock,
+          .systemLog = world.m_systemLog,
+          .socketBinderFor = {},
+          .terminate = [] { QCoreApplication::quit(); },
+          .notifications = &notifications,
+          .deviceName = [](const QString &) { return deviceName; },
+          .openSettings = [&world] { world.m_setup->open(); },
+          .isScreenComposited = isScreenComposited,
+      })
+{
+}
+
 DemoWorld::DemoWorld(const DemoFolder &folder, StatusBar &statusBar, BusConnection &sessionBus,
                      SimulatedWorkspace::Opener opener)
-    : m_opener(std::move(opener))
+    : m_sessionBus(sessionBus)
+    , m_opener(std::move(opener))
     , m_modem([this](const ReceivedRequest &request) {
         m_steps.post([this, text = requestText(request)] { Q_EMIT modemAsked(text); });
     })
     , m_server(m_modem)
     , m_problem(m_server.error())
     , m_network(m_store)
-    , m_workspace([this](const QUrl &page) { return openPage(page); })
     , m_statusBar(statusBar)
     , m_systemLog([this](const QString &line) { m_steps.post([this, line] { Q_EMIT lineLogged(line); }); })
-    , m_notifications(sessionBus, m_systemLog)
+    , m_setup(std::make_unique<DemoSetup>(*this))
 {
     m_modem.change([](ModemCondition &condition) { condition.defaultProfileName = u"Demo Büro"_s; });
     if (!folder.writeSettings(m_server.authority()))
         m_problem = u"The demo's settings cannot be written."_s;
-    m_controller = std::make_unique<MainController>(Services{
-        .dynamicStore = m_store,
-        .deviceRegistry = m_registry,
-        .workspace = m_workspace,
-        .statusBar = m_statusBar,
-        .clock = m_clock,
-        .systemLog = m_systemLog,
-        .socketBinderFor = {},
-        .terminate = [] { QCoreApplication::quit(); },
-        .notifications = &m_notifications,
-        .isScreenComposited = isScreenComposited,
+    startCompanion();
+}
+
+DemoWorld::~DemoWorld() = default;
+
+void DemoWorld::startCompanion()
+{
+    m_companion = std::make_unique<Companion>(*this);
+    m_companion->controller.awakeFromNib();
+    m_companion->controller.applicationDidFinishLaunching();
+    m_companionProperties.set({{settingDigestProperty, ConfigManager::sharedConfigManager().digest()}});
+}
+
+void DemoWorld::restartCompanionSoon()
+{
+    m_steps.post([this] {
+        m_companion.reset();
+        ConfigManager::sharedConfigManager() = ConfigManager(); // nobody reads the old ones any more
+        startCompanion();
+        if (m_asleep)
+            m_companion->workspace.sleep();
+        Q_EMIT changed();
     });
-    m_controller->awakeFromNib();
-    m_controller->applicationDidFinishLaunching();
 }
 
 void DemoWorld::plugIn()
@@ -70,14 +103,24 @@ void DemoWorld::plugIn()
     m_pluggedIn = true;
     m_device = m_registry.addModem(interfaceName, vendorID, productID);
     m_network.addInterface(interfaceName);
+    m_interface = {.isUp = true};
+    m_usbDevices.plug({{.vendor = vendorID,
+                        .product = productID,
+                        .vendorName = {},
+                        .productName = deviceName,
+                        .driver = u"cdc_ether"_s,
+                        .interfaceName = interfaceName,
+                        .interfaceIndex = 1}});
     QTimer::singleShot(addressDelay, this, &DemoWorld::giveAddress);
     Q_EMIT changed();
 }
 
 void DemoWorld::giveAddress()
 {
-    if (m_pluggedIn)
-        m_network.setIPv4(interfaceName, m_server.authority());
+    if (!m_pluggedIn)
+        return;
+    m_interface = {.isUp = true, .addresses = {u"127.0.0.1"_s}, .gateway = m_server.authority()};
+    m_network.setIPv4(interfaceName, m_server.authority());
 }
 
 void DemoWorld::unplug()
@@ -85,7 +128,9 @@ void DemoWorld::unplug()
     if (!m_pluggedIn)
         return;
     m_pluggedIn = false;
+    m_interface = {};
     m_network.removeInterface(interfaceName);
+    m_usbDevices.plug({});
     m_registry.removeDevice(m_device);
     Q_EMIT changed();
 }
@@ -95,7 +140,7 @@ void DemoWorld::sleep()
     if (m_asleep)
         return;
     m_asleep = true;
-    m_workspace.sleep();
+    m_companion->workspace.sleep();
     Q_EMIT changed();
 }
 
@@ -104,7 +149,7 @@ void DemoWorld::wake()
     if (!m_asleep)
         return;
     m_asleep = false;
-    m_workspace.wake();
+    m_companion->workspace.wake();
     m_store.announce(store::anyServiceIPv4Pattern); // the network is told afresh after a sleep
     Q_EMIT changed();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/MainController.h"
+#include "attachment/Guarded.h"
+#include "platform/InterfaceState.h"
 #include "platform/StateStore.h"
 #include "platform/StepQueue.h"
 #include "platform/linux/DesktopNotifications.h"
@@ -10,6 +12,7 @@
 #include "simulator/SimulatedDeviceRegistry.h"
 #include "simulator/SimulatedModem.h"
 #include "simulator/SimulatedNetwork.h"
+#include "simulator/SimulatedUsbNetworkDevices.h"
 #include "simulator/SimulatedWorkspace.h"
 #include "simulator/demo/DemoFolder.h"
 #include "simulator/demo/ObservedStatusBar.h"
@@ -18,7 +21,11 @@
 #include <QString>
 #include <QUrl>
 
+#include <memory>
+
 namespace tarvo {
+
+class DemoSetup;
 
 /// The companion and all that surrounds it: a computer that the modem is plugged into, and the modem itself.
 class DemoWorld : public QObject {
@@ -29,6 +36,9 @@ public:
     /// @param opener  shows the user a web page; empty shows none
     DemoWorld(const DemoFolder &folder, StatusBar &statusBar, BusConnection &sessionBus,
               SimulatedWorkspace::Opener opener);
+    ~DemoWorld() override;
+    DemoWorld(const DemoWorld &) = delete;
+    DemoWorld &operator=(const DemoWorld &) = delete;
 
     /// Plugs the modem in: its interface comes at once, its address a moment later.
     void plugIn();
@@ -37,6 +47,8 @@ public:
     // The computer sleeps, or wakes; nothing when it does that already.
     void sleep();
     void wake();
+    /// Ends the companion and starts it with the settings as they are by then; on any thread, which is not waited for.
+    void restartCompanionSoon();
 
     // Both as last told, not as the companion has noticed.
     bool isPluggedIn() const { return m_pluggedIn; }
@@ -48,10 +60,20 @@ public:
     // The parts, which live as long as this object.
     SimulatedModem &modem() { return m_modem; }
     ModemServer &server() { return m_server; }
-    MainController &controller() { return *m_controller; }
     const RecordingLog &systemLog() const { return m_systemLog; }
-    const SimulatedWorkspace &workspace() const { return m_workspace; }
     const ObservedStatusBar &statusBar() const { return m_statusBar; }
+    SimulatedUsbNetworkDevices &usbDevices() { return m_usbDevices; }
+    DynamicStore &dynamicStore() { return m_store; }
+
+    /// @return the interface of the modem
+    const InterfaceState &interfaceState() const { return m_interface; }
+
+    // Parts of the companion, which live until it starts again.
+    MainController &controller() { return m_companion->controller; }
+    const SimulatedWorkspace &workspace() const { return m_companion->workspace; }
+
+    /// @return which settings the companion read; on any thread
+    QVariantMap companionProperties() const { return m_companionProperties.get(); }
 
 Q_SIGNALS:
     // On the main thread, for each of its kind.
@@ -62,10 +84,21 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// The companion, and what only one companion can use.
+    struct Companion {
+        explicit Companion(DemoWorld &world);
+
+        SimulatedWorkspace workspace;
+        DesktopNotifications notifications;
+        MainController controller;
+    };
+
+    void startCompanion();
     void giveAddress();
     bool openPage(const QUrl &page);
 
     StepQueue m_steps; ///< to the main thread
+    BusConnection &m_sessionBus;
     SimulatedWorkspace::Opener m_opener;
     SimulatedModem m_modem;
     ModemServer m_server;
@@ -74,16 +107,20 @@ private:
     StateStore m_store;
     SimulatedNetwork m_network;
     SimulatedDeviceRegistry m_registry;
-    SimulatedWorkspace m_workspace;
+    SimulatedUsbNetworkDevices m_usbDevices;
     ObservedStatusBar m_statusBar;
     SteadyClock m_clock;
     RecordingLog m_systemLog;
-    DesktopNotifications m_notifications;
     IOServiceHandle m_device = 0;
+    InterfaceState m_interface;
     bool m_pluggedIn = false;
     bool m_asleep = false;
 
-    std::unique_ptr<MainController> m_controller; ///< last: it uses all of the above
+    Guarded<QVariantMap> m_companionProperties;
+
+    // Last: they use all of the above.
+    std::unique_ptr<DemoSetup> m_setup;
+    std::unique_ptr<Companion> m_companion;
 };
 
 /// @return @p request as one short line: what was read, or what was set

@@ -21,7 +21,7 @@ Kind *visibleWindow()
 {
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (auto *found = qobject_cast<Kind *>(window); found && found->isVisible())
+        if (auto *found = dynamic_cast<Kind *>(window); found && found->isVisible())
             return found;
     }
     return nullptr;

@@ -14,6 +14,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
+#include <QPalette>
 
 #include <cstdlib>
 #include <iostream>
@@ -30,7 +31,13 @@ int main(int argc, char **argv)
     });
     QApplication::setApplicationName(u"tarvo-demo"_s);
     QApplication::setWindowIcon(tarvo::applicationImage());
-    tarvo::installTranslations(application, QLocale());
+    QPalette quiet; // some desktops leave this role black on their dark windows
+    QColor quietText = QApplication::palette().color(QPalette::WindowText);
+    quietText.setAlphaF(0.6F);
+    quiet.setColor(QPalette::PlaceholderText, quietText);
+    QApplication::setPalette(quiet);
+    for (const QString &program : {u"tarvo"_s, u"tarvo-setup"_s})
+        tarvo::installTranslations(application, QLocale(), program);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Runs the companion with a simulated modem and a window to control it."_s);
     parser.addHelpOption();

@@ -47,14 +47,14 @@ class Companion(unittest.TestCase):
         mute_bus.listen()
         return f"unix:path={self.folder}/bus"
 
-    def start_program(self):
+    def start_program(self, session_bus=None):
         bus = self.open_bus()
         self.environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
             "ASAN_OPTIONS": "verify_asan_link_order=0:quarantine_size_mb=8", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": bus, "DBUS_SYSTEM_BUS_ADDRESS": bus}
+            "DBUS_SESSION_BUS_ADDRESS": session_bus or bus, "DBUS_SYSTEM_BUS_ADDRESS": bus}
         self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))

@@ -74,6 +74,24 @@ class SetupTest(companion_test.Companion):
         self.until_ready(self.modem, "enx1")
         self.quit()
 
+    def test_tells_when_the_companion_has_read_older_settings(self):
+        config = pathlib.Path(__file__).parents[2] / "simulator/session-bus.conf"
+        bus = subprocess.Popen(["dbus-daemon", f"--config-file={config}", "--nofork", "--print-address"],
+                               stdout=subprocess.PIPE, text=True)
+        self.addCleanup(bus.stdout.close)
+        self.addCleanup(bus.wait)
+        self.addCleanup(bus.kill)
+        address = bus.stdout.readline().strip()
+        self.setup_program("use", DEVICE)
+        self.start_program(address)
+        self.until(lambda: self.marks(status=1, bus=address)["companion"] == "ok")
+        with self.config.open("a") as settings:
+            settings.write("\n")
+        self.assertEqual(self.marks(status=1, bus=address)["companion"], "broken")
+        self.setup_program("exclude", "19d3:1", bus=address)  # has it start again
+        self.until(lambda: self.marks(status=1, bus=address)["companion"] == "ok")
+        self.quit()
+
     def test_says_where_the_chain_is_broken(self):
         self.setup_program("use", DEVICE)
         self.assertEqual(self.marks(status=1)["device"], "broken")

@@ -1,8 +1,10 @@
 #include "platform/linux/DesktopNotifications.h"
 
+#include "platform/Background.h"
 #include "platform/linux/ApplicationService.h"
 #include "platform/linux/BusAddress.h"
 #include "platform/linux/BusConnection.h"
+#include "platform/linux/DesktopFactsReader.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedNotificationService.h"
 #include "tests/support/DesktopEnvironment.h"
@@ -119,7 +121,9 @@ TEST(ApplicationService, LetsASecondStartShowTheFirstAndOthersRestartIt)
     EXPECT_FALSE(activateRunningApplication(sessionBusAddress(), name)) << "nobody is there";
     int shown = 0;
     int restarted = 0;
-    const ApplicationService service(bus, name, {.activate = [&] { ++shown; }, .restart = [&] { ++restarted; }});
+    const QVariantMap properties{{u"Colour"_s, u"red"_s}};
+    const ApplicationService service(bus, name, {.activate = [&] { ++shown; }, .restart = [&] { ++restarted; }},
+                                     properties);
     EXPECT_TRUE(waitFor([&] { return activateRunningApplication(sessionBusAddress(), name); }));
     EXPECT_TRUE(waitFor([&] { return shown == 1; }));
 
@@ -132,4 +136,10 @@ TEST(ApplicationService, LetsASecondStartShowTheFirstAndOthersRestartIt)
                  [&](const QDBusMessage &answer) { refused = answer.type() == QDBusMessage::ErrorMessage; });
     }
     EXPECT_TRUE(waitFor([&] { return refused && restarted == 1; }));
+
+    Background background;
+    DesktopFacts facts;
+    background.run<DesktopFacts>([&](const std::stop_token &) { return readDesktopFacts(name); },
+                                 [&](const DesktopFacts &read) { facts = read; });
+    EXPECT_TRUE(waitFor([&] { return facts.applicationProperties == properties; }));
 }

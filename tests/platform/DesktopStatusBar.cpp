@@ -8,9 +8,13 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QDir>
 #include <QFile>
+#include <QIconEngine>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QWindow>
@@ -27,6 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using testing::EndsWith;
+using testing::HasSubstr;
 
 const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
 
@@ -49,6 +54,17 @@ constexpr auto panelSettings = R"(<channel name="xfce4-panel" version="1.0">
 </channel>
 )";
 
+/// A green picture that has a name.
+class NamedPicture final : public QIconEngine {
+public:
+    QString iconName() override { return u"a-name"_s; }
+    QIconEngine *clone() const override { return new NamedPicture; }
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        painter->fillRect(rect, green);
+    }
+};
+
 /// Makes @p window, for as long as it lives, a tray that takes no icon in.
 void takeTraySelection(QWindow &window)
 {
@@ -66,6 +82,16 @@ void takeTraySelection(QWindow &window)
     xcb_send_event(screen.connection, 0, screen.root, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&announcement));
     xcb_flush(screen.connection);
+}
+
+/// @return a property on the session bus, perhaps of an object of this process
+QVariant property(const QString &service, const QString &path, const QString &interface, const QString &name)
+{
+    auto question = QDBusMessage::createMethodCall(service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    question << interface << name;
+    const QDBusPendingReply<QDBusVariant> answer = QDBusConnection::sessionBus().asyncCall(question);
+    EXPECT_TRUE(waitFor([&] { return answer.isFinished(); }));
+    return answer.isValid() ? answer.value().variant() : QVariant();
 }
 
 bool trayIsOwned(const XScreen &screen)
@@ -114,11 +140,22 @@ std::unique_ptr<Program> startNotifierPanel()
     return panel;
 }
 
-void clickOn(const QRect &area, const std::string &mouseButton)
+/// Registers this process with the watcher as having an item.
+void offerItem()
 {
-    Program({"xdotool", "mousemove", std::to_string(area.center().x()), std::to_string(area.center().y()), "click",
-             mouseButton})
-        .readLine();
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    auto offer =
+        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
+    offer << QDBusConnection::sessionBus().baseService();
+    QDBusConnection::sessionBus().send(offer);
+}
+
+/// @return what writes a line for each call or signal that @p rule takes in
+std::unique_ptr<Program> monitorBus(const std::string &rule)
+{
+    auto monitor = std::make_unique<Program>(std::vector<std::string>{"dbus-monitor", "--profile", rule});
+    while (monitor->readLine().find("NameLost") == std::string::npos) { } // its bus name goes when it listens
+    return monitor;
 }
 
 class DesktopStatusBarTest : public testing::Test {
@@ -222,8 +259,7 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
 {
     const auto panel = startNotifierPanel();
     ASSERT_TRUE(waitFor([&] { return bar.kind() == BarKind::Notifier && !areaOf(magenta).isEmpty(); }));
-    Program monitor({"dbus-monitor", "--profile", "interface=org.kde.StatusNotifierItem"});
-    while (monitor.readLine().find("NameLost") == std::string::npos) { } // its bus name goes when it listens
+    const auto monitor = monitorBus("interface=org.kde.StatusNotifierItem");
     for (int i = 0; i < 20; ++i) {
         paint(magenta);
         item->viewChanged();
@@ -233,8 +269,26 @@ TEST_F(DesktopStatusBarTest, TellsTheHostOnlyWhatChanged)
     EXPECT_TRUE(waitFor([&] { return !areaOf(green).isEmpty(); }));
     button.setToolTip(u"another"_s);
     item->viewChanged();
-    EXPECT_THAT(monitor.readLine(), EndsWith("NewIcon"));
-    EXPECT_THAT(monitor.readLine(), EndsWith("NewToolTip"));
+    EXPECT_THAT(monitor->readLine(), EndsWith("NewIcon"));
+    EXPECT_THAT(monitor->readLine(), EndsWith("NewToolTip"));
+}
+
+TEST_F(DesktopStatusBarTest, TellsTheHostTheThemesNameForTheIcon)
+{
+    const auto panel = startNotifierPanel();
+    ASSERT_TRUE(becomes(BarKind::Notifier));
+    button.setIcon(QIcon(new NamedPicture));
+    item->viewChanged();
+    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
+    QStringList items;
+    EXPECT_TRUE(waitFor([&] {
+        items =
+            property(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisteredStatusNotifierItems"_s).toStringList();
+        return items.size() == 1;
+    }));
+    const QString service = items.value(0).section(u'/', 0, 0);
+    EXPECT_EQ(property(service, u"/StatusNotifierItem"_s, u"org.kde.StatusNotifierItem"_s, u"IconName"_s), u"a-name"_s);
+    EXPECT_TRUE(waitFor([] { return !areaOf(green).isEmpty(); })) << "no theme has that name";
 }
 
 TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)
@@ -245,12 +299,25 @@ TEST_F(DesktopStatusBarTest, LeavesATrayThatForwardsToTheHost)
     QWindow tray;
     takeTraySelection(tray);
     ASSERT_TRUE(becomes(BarKind::Tray));
-    const QString watcher = u"org.kde.StatusNotifierWatcher"_s;
-    auto offer =
-        QDBusMessage::createMethodCall(watcher, u"/StatusNotifierWatcher"_s, watcher, u"RegisterStatusNotifierItem"_s);
-    offer << QDBusConnection::sessionBus().baseService();
-    QDBusConnection::sessionBus().send(offer);
+    offerItem();
     EXPECT_TRUE(becomes(BarKind::Notifier));
+}
+
+TEST_F(DesktopStatusBarTest, OffersNothingToAHostWhoseTrayComesBackAtOnce)
+{
+    const auto panel = startNotifierPanel();
+    auto tray = std::make_unique<QWindow>();
+    takeTraySelection(*tray);
+    ASSERT_TRUE(becomes(BarKind::Tray));
+    const auto monitor = monitorBus("member=RegisterStatusNotifierItem");
+    tray.reset();
+    ASSERT_TRUE(becomes(BarKind::None));
+    tray = std::make_unique<QWindow>();
+    takeTraySelection(*tray);
+    ASSERT_TRUE(becomes(BarKind::Tray));
+    offerItem();
+    EXPECT_THAT(monitor->readLine(), HasSubstr(QDBusConnection::sessionBus().baseService().toStdString()))
+        << "another item was offered before";
 }
 
 TEST(ToApplicationCoordinates, ScalesWithinTheMonitorThatHoldsTheCentre)

@@ -21,7 +21,8 @@ ChainFacts wholeFacts()
         {{.vendor = 1, .interfaceName = u"u1"_s}, {true, {u"10.0.0.2"_s}, u"10.0.0.1"_s}, Support::Supported}};
     facts.modem = ModemFacts{true, true, u"connect"_s, {}, true, true};
     facts.profiles = {true, u"/p"_s, true};
-    facts.desktop = {true, true, true, true};
+    facts.settingsDigest = u"d"_s;
+    facts.desktop = {true, true, true, true, {{u"SettingsDigest"_s, u"d"_s}}};
     return facts;
 }
 
@@ -89,6 +90,8 @@ TEST(Chain, SaysForEachBrokenLinkWhatToDo)
          "ooooooooooooBuou",
          {"FixNoTray"}},
         {[](auto &f) { f.desktop.runsApplication = false; }, "oooooooooooooooB", {"FixNotRunning"}},
+        {[](auto &f) { f.settingsDigest = u"changed"_s; }, "oooooooooooooooB", {"FixOlderSettings"}},
+        {[](auto &f) { f.desktop.applicationProperties.clear(); }, "ooooooooooooooou", {}},
     };
     for (const auto &[change, expected, advice] : cases) {
         ChainFacts facts = wholeFacts();

@@ -5,6 +5,7 @@
 #include "setup/SettingKeys.h"
 #include "simulator/ModemServer.h"
 #include "simulator/SimulatedModem.h"
+#include "simulator/SimulatedUsbNetworkDevices.h"
 #include "tests/support/DesktopEnvironment.h"
 #include "tests/support/PrintQt.h"
 
@@ -25,21 +26,13 @@ namespace {
 
 const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
 
-struct PluggedDevices final : UsbNetworkDevices {
-    QList<UsbNetworkDevice> devices() override { return plugged; }
-    void watch(std::function<void()> handler) override { changed = std::move(handler); }
-
-    QList<UsbNetworkDevice> plugged;
-    std::function<void()> changed;
-};
-
 /// The window among simulated surroundings, with a real modem's server behind the first device.
 struct SetupWindowTest : testing::Test {
     SetupWindowTest()
     {
         QFile::remove(userSettingsPath());
-        devices.plugged = {{.vendor = 0x19d2, .product = 7, .interfaceName = u"u1"_s, .interfaceIndex = 1},
-                           {.vendor = 0x0bda, .product = 8, .interfaceName = u"u2"_s, .interfaceIndex = 2}};
+        devices.plug({{.vendor = 0x19d2, .product = 7, .interfaceName = u"u1"_s, .interfaceIndex = 1},
+                      {.vendor = 0x0bda, .product = 8, .interfaceName = u"u2"_s, .interfaceIndex = 2}});
     }
 
     void open()
@@ -49,6 +42,13 @@ struct SetupWindowTest : testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         tabs = window->findChild<QTabWidget *>();
         list = tabs->widget(0)->findChild<QListWidget *>();
+    }
+
+    void write(const QByteArray &settings) const
+    {
+        QDir().mkpath(QFileInfo(userSettingsPath()).path());
+        QFile file(userSettingsPath());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(settings) == settings.size());
     }
 
     /// @return the accessible text of a row, which is all that it shows
@@ -72,7 +72,7 @@ struct SetupWindowTest : testing::Test {
     SimulatedModem modem;
     ModemServer server{modem};
     StateStore store;
-    PluggedDevices devices;
+    SimulatedUsbNetworkDevices devices;
     std::atomic<int> restarts = 0;
     SetupServices services{
         .usbDevices = devices,
@@ -85,7 +85,7 @@ struct SetupWindowTest : testing::Test {
         .startCompanion = [] { return true; },
         .readDesktop =
             [] {
-                return DesktopFacts{true, true, true, true};
+                return DesktopFacts{true, true, true, true, {{u"SettingsDigest"_s, settingsInForce().digest}}};
             },
         .restartCompanion =
             [this] {
@@ -118,8 +118,7 @@ TEST_F(SetupWindowTest, LeadsFromThePluggedModemToOneInUseByTheKeyboard)
     EXPECT_TRUE(row(1).contains(u"DeviceExcluded"_s));
     EXPECT_EQ(list->currentRow(), 1);
 
-    devices.plugged.clear();
-    devices.changed();
+    devices.plug({});
     EXPECT_TRUE(waitFor([&] { return list->count() == 0; }));
     const auto requests = modem.requests("logo_data.asp");
     ASSERT_EQ(requests.size(), 1) << "a gateway is asked once";
@@ -159,12 +158,18 @@ TEST_F(SetupWindowTest, RefusesWhatIsWrongInTheFormAndSavesTheRest)
     EXPECT_TRUE(window->findChild<QMessageBox *>());
 }
 
+TEST_F(SetupWindowTest, TakesSettingsThatLackAFlagAsTheyAre)
+{
+    write("<plist><dict/></plist>");
+    open();
+    EXPECT_FALSE(button(u"DiscardChanges"_s)->isEnabled());
+    window->close();
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(SetupWindowTest, AsksBeforeItReplacesADamagedFile)
 {
-    QDir().mkpath(QFileInfo(userSettingsPath()).path());
-    QFile file(userSettingsPath());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("damaged") > 0);
-    file.close();
+    write("damaged");
     open();
     QTest::mouseClick(button(u"UseModem"_s), Qt::LeftButton);
     auto *const box = window->findChild<QMessageBox *>();

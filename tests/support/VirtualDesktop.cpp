@@ -30,6 +30,18 @@ QImage screenshot()
     return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
 }
 
+void clickOn(const QRect &area, const std::string &mouseButton)
+{
+    Program({"xdotool", "mousemove", std::to_string(area.center().x()), std::to_string(area.center().y()), "click",
+             mouseButton})
+        .readLine();
+}
+
+void clickOn(const QWidget &widget, const std::string &mouseButton)
+{
+    clickOn({widget.mapToGlobal(QPoint()), widget.size()}, mouseButton);
+}
+
 bool waitFor(const std::function<bool()> &condition)
 {
     return QTest::qWaitFor(condition, 15'000);

@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QRect>
+#include <QWidget>
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace tarvo {
 
@@ -30,6 +33,11 @@ private:
 
 /// @return the pixels of the whole screen, as they are now
 QImage screenshot();
+
+/// Moves the pointer to the middle of @p area on the screen and clicks there, as a hand does.
+void clickOn(const QRect &area, const std::string &mouseButton = "1");
+/// The same for a widget that is on the screen.
+void clickOn(const QWidget &widget, const std::string &mouseButton = "1");
 
 /// Runs the event loop until @p condition holds. @return false when it did not within 15 s
 bool waitFor(const std::function<bool()> &condition);

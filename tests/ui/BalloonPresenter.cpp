@@ -4,6 +4,7 @@
 #include "tests/support/PrintQt.h"
 #include "ui/OvAttachedWindow.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QScreen>
@@ -38,6 +39,9 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     ASSERT_NE(shownWindow(), nullptr);
     const auto *label = shownWindow()->findChild<QLabel *>();
     EXPECT_EQ(label->text(), u"news"_s);
+    QAccessibleInterface *const heard =
+        QAccessible::queryAccessibleInterface(const_cast<OvAttachedWindow *>(shownWindow()));
+    EXPECT_TRUE(heard->role() == QAccessible::AlertMessage && heard->text(QAccessible::Name) == u"news");
     EXPECT_NEAR(label->parentWidget()->width(), label->fontMetrics().horizontalAdvance(u"news"_s) + 30, 1);
     const int width = shownWindow()->width();
     EXPECT_EQ(shownWindow()->geometry(), QRect(412 - width / 2, 24 + 5, width, 60));

@@ -82,8 +82,16 @@ TEST(Translations, FollowTheUsersLanguage)
 
 TEST(Images, AreThereWithoutPluginsAndDifferWithoutColour)
 {
+    QTemporaryDir theme;
+    QFile other(theme.filePath(u"tarvo-online.png"_s));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    QIcon::setThemeName(u"hicolor"_s);
+    QIcon::setFallbackSearchPaths({theme.path()});
     QCoreApplication::setLibraryPaths({}); // of plugins that are not loaded yet
     EXPECT_FALSE(applicationImage().pixmap(16).isNull());
+
+    EXPECT_EQ(imageNamed(u"online"_s).name(), u"tarvo-online"_s);
+    EXPECT_EQ(imageNamed(u"ready"_s).name(), QString()) << "the theme does not have it";
 
     QList<QImage> pictures;
     for (const char *name : {"ready", "online", "newVersion", "dataFluxReached", "dataFluxExceeded"}) {

@@ -1,0 +1,98 @@
+#include "RouterObserver/ConfigManager.h"
+#include "app/MainController.h"
+#include "platform/StateStore.h"
+#include "platform/linux/BusAddress.h"
+#include "platform/linux/BusConnection.h"
+#include "platform/linux/DesktopStatusBar.h"
+#include "simulator/ManualClock.h"
+#include "simulator/RecordingLog.h"
+#include "simulator/SimulatedDeviceRegistry.h"
+#include "simulator/SimulatedWorkspace.h"
+#include "tests/support/DesktopEnvironment.h"
+#include "ui/AlertPanelController.h"
+#include "ui/CustomView.h"
+#include "ui/StatusWindow.h"
+
+#include <QClipboard>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryFile>
+#include <QTest>
+
+using namespace tarvo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto *const desktop = testing::AddGlobalTestEnvironment(new DesktopEnvironment);
+
+/// @return the first widget of a kind that is on the screen, once there is one
+template <typename Kind>
+Kind *shown()
+{
+    Kind *found = nullptr;
+    EXPECT_TRUE(waitFor([&] {
+        for (QWidget *const widget : QApplication::allWidgets()) {
+            if (auto *const candidate = qobject_cast<Kind *>(widget); candidate && candidate->isVisible())
+                found = candidate;
+        }
+        return found != nullptr;
+    }));
+    return found;
+}
+
+void showIcon()
+{
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open() && file.write("<plist><dict><key>IsDisplayNetStatusInToolBar</key><true/></dict></plist>"));
+    file.close();
+    ConfigManager::sharedConfigManager() = ConfigManager(file.fileName());
+}
+
+} // namespace
+
+TEST(Clicks, ReachTheWindowsFromTheIconInATray)
+{
+    showIcon();
+    const Program tray({"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request"});
+    StateStore store;
+    SimulatedDeviceRegistry registry;
+    SimulatedWorkspace workspace;
+    BusConnection bus(sessionBusAddress());
+    DesktopStatusBar bar(bus);
+    ManualClock clock;
+    RecordingLog log;
+    bool quits = false;
+    MainController controller({store, registry, workspace, bar, clock, log, {}, [&] { quits = true; }});
+    controller.applicationDidFinishLaunching();
+
+    const auto *const icon = shown<CustomView>();
+    clickOn(*icon);
+    auto *const window = shown<StatusWindow>();
+    const auto buttons = window->findChildren<QPushButton *>();
+    clickOn(*buttons.first());
+    EXPECT_TRUE(waitFor([] { return QApplication::clipboard()->text().startsWith(u"Tarvo"); }));
+    clickOn(*buttons.last());
+    EXPECT_TRUE(waitFor([&] { return window->isHidden(); }));
+
+    const auto choose = [&](const QString &entry) {
+        clickOn(*icon, "3");
+        const auto *const menu = shown<QMenu>();
+        for (QAction *const action : menu->actions()) {
+            if (action->text() == entry)
+                clickOn(menu->actionGeometry(action).translated(menu->mapToGlobal(QPoint())));
+        }
+        EXPECT_TRUE(waitFor([&] { return menu->isHidden(); }));
+    };
+    choose(u"MenuAbout"_s);
+    shown<QMessageBox>()->hide();
+    choose(u"MenuQuit"_s);
+    EXPECT_TRUE(waitFor([&] { return quits; }));
+
+    const auto panel = AlertPanelController::shareAlertPanel();
+    panel->runAlertPanelTitle(u"t"_s, u"m"_s, u"OK"_s, std::nullopt);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel->wndAlert()));
+    clickOn(*panel->wndAlert().findChild<QPushButton *>(u"btnOK_"_s));
+    EXPECT_TRUE(waitFor([&] { return panel->wndAlert().isHidden(); }));
+}
