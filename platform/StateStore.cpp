@@ -58,7 +58,7 @@ public:
     {
         if (m_pattern.contains(u'|'))
             return {};
-        const auto end = std::ranges::find_if(m_pattern, isSpecial);
+        const auto *const end = std::ranges::find_if(m_pattern, isSpecial);
         const qsizetype length = std::distance(m_pattern.begin(), end);
         const bool mayBeAbsent = end != m_pattern.end() && QStringView(u"?*{").contains(*end);
         return QStringView(m_pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
