@@ -33,7 +33,7 @@ bool becomes(const std::function<bool()> &condition)
 }
 
 /// Puts the machine to sleep as logind does: when the lock to delay it has been given back.
-bool sleep(tarvo::SimulatedLogind &logind)
+bool fallAsleep(tarvo::SimulatedLogind &logind)
 {
     if (!becomes([&] { return logind.isLocked(); }))
         return false;
@@ -58,7 +58,7 @@ std::string carryOut(const std::string &command, tarvo::SimulatedLogind &logind,
     if (command == "ask")
         return timeToAnswer(bus);
     if (command == "sleep")
-        return sleep(logind) ? "ok" : "the lock was not taken, or not given back";
+        return fallAsleep(logind) ? "ok" : "the lock was not taken, or not given back";
     if (command != "wake")
         return "unknown command";
     logind.prepareForSleep(false);
