@@ -40,9 +40,11 @@ QByteArray arraysInArrays(int count)
     return binary(objects << "\x09"_ba);
 }
 
+// NOLINTBEGIN(modernize-raw-string-literal): bytes, not text
 const QByteArray smallBinary =
     binary({"\xD2\x01\x02\x03\x04"_ba, "\x51\x6B"_ba, "\x61\x00\xE9"_ba, "\xA2\x05\x06"_ba,
             "\x23\x3F\xE0\0\0\0\0\0\0"_ba, "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFB"_ba, "\x42\x01\x02"_ba});
+// NOLINTEND(modernize-raw-string-literal)
 
 } // namespace
 
