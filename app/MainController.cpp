@@ -40,7 +40,8 @@ MainController::MainController(Services services)
                  .clicked = [this] { iconClicked(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); }})
+              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
+              [this] { m_display.refresh(); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
