@@ -62,10 +62,13 @@ IconMenu::Actions MainController::menuActions()
 {
     const bool hasMessages = configurationText(u"WebUISmsPage"_s).has_value();
     return {.showStatus = [this] { showStatus(); },
-            .click = [this] { m_pages.openHomepage(); },
             .openModemPage = [this] { m_pages.openWebUI(); },
             .openMessages = hasMessages ? [this] { m_pages.openWebUISmsPage(); } : std::function<void()>(),
-            .openPage = [this](Page page) { m_pages.open(page); },
+            .openPage =
+                [this](Page page) {
+                    if (!m_pages.open(page))
+                        showStatus();
+                },
             .openSettings = m_services.openSettings,
             .about = [this] { m_aboutDialog.present(); },
             .quit = [this] { windowShouldClose(); }};
