@@ -101,8 +101,12 @@ PropertyListReading Reader::read()
         if (m_xml.readNext() == QXmlStreamReader::StartElement)
             refuse(u"it holds more than one value"_s);
     }
-    if (m_xml.hasError())
-        return {std::nullopt, u"line %1: %2"_s.arg(m_xml.lineNumber()).arg(m_xml.errorString())};
+    if (m_xml.hasError()) {
+        QString why = m_xml.errorString();
+        if (why.endsWith(u'.')) // it becomes part of sentences
+            why.chop(1);
+        return {std::nullopt, u"line %1: %2"_s.arg(m_xml.lineNumber()).arg(why)};
+    }
     return {root, {}};
 }
 

@@ -40,7 +40,8 @@ MainController::MainController(Services services)
                  .clicked = [this] { iconClicked(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); }})
+              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
+              [this] { m_display.refresh(); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
@@ -61,10 +62,13 @@ IconMenu::Actions MainController::menuActions()
 {
     const bool hasMessages = configurationText(u"WebUISmsPage"_s).has_value();
     return {.showStatus = [this] { showStatus(); },
-            .click = [this] { m_pages.openHomepage(); },
             .openModemPage = [this] { m_pages.openWebUI(); },
             .openMessages = hasMessages ? [this] { m_pages.openWebUISmsPage(); } : std::function<void()>(),
-            .openPage = [this](Page page) { m_pages.open(page); },
+            .openPage =
+                [this](Page page) {
+                    if (!m_pages.open(page))
+                        showStatus();
+                },
             .openSettings = m_services.openSettings,
             .about = [this] { m_aboutDialog.present(); },
             .quit = [this] { windowShouldClose(); }};

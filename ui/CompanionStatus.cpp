@@ -56,12 +56,13 @@ QString attachedSummary(const StatusSnapshot &snapshot)
         return qtTrId("StatusModemFound");
     if (!*snapshot.answering)
         return qtTrId("StatusNotAnswering");
-    QStringList parts{connectionText(snapshot.details)};
+    QString summary = connectionText(snapshot.details);
+    const auto add = [&](const QString &part) { summary = qtTrId("StatusAnd").arg(summary, part); };
     if (snapshot.details.countsMonth)
-        parts << amountOfLimit(static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.m_totalMonthData));
+        add(amountOfLimit(static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.m_totalMonthData)));
     if (snapshot.details.roamingAllowed)
-        parts << (*snapshot.details.roamingAllowed ? qtTrId("StatusRoamingOn") : qtTrId("StatusRoamingOff"));
-    return parts.join(u" · "_s);
+        add(*snapshot.details.roamingAllowed ? qtTrId("StatusRoamingOn") : qtTrId("StatusRoamingOff"));
+    return summary;
 }
 
 Page pageOf(int displayType)

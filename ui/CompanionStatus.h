@@ -28,7 +28,7 @@ struct CompanionStatus {
 };
 
 /// The pages that the companion can open.
-enum class Page { None, Home, Firmware, DataLimit, Modem };
+enum class Page { None, Home, Firmware, DataLimit, Modem, Messages };
 
 /// One standing piece of news, and the page that belongs to it.
 struct StandingNews {

@@ -43,10 +43,10 @@ IconMenu::IconMenu(const Actions &actions)
 {
     m_summary = add({}, actions.showStatus);
     m_menu.addSeparator();
-    m_click = add({}, actions.click);
+    m_click = add({}, [this] { m_actions.openPage(m_clickPage); });
     m_modemPage = add(qtTrId("MenuOpenModemPage"), actions.openModemPage);
     if (actions.openMessages)
-        add(qtTrId("MenuOpenMessages"), actions.openMessages);
+        m_messages = add(qtTrId("MenuOpenMessages"), actions.openMessages);
     m_newsMenu.setTitle(qtTrId("MenuRecentNews"));
     m_menu.addMenu(&m_newsMenu);
     m_menu.addSeparator();
@@ -54,9 +54,16 @@ IconMenu::IconMenu(const Actions &actions)
         m_settings = add({}, actions.openSettings);
     add(qtTrId("MenuAbout"), actions.about);
     add(qtTrId("MenuQuit"), actions.quit);
-    QObject::connect(&m_menu, &QMenu::aboutToShow, &m_menu, [this] { m_openUntil.setRemainingTime(1min); });
+    m_open.setSingleShot(true);
+    QObject::connect(&m_menu, &QMenu::aboutToShow, &m_open, [this] { m_open.start(1min); });
+    QObject::connect(&m_open, &QTimer::timeout, &m_menu, [this] {
+        if (m_menu.isVisible())
+            m_open.start(1min);
+        else
+            apply();
+    });
     const auto closed = [this] {
-        m_openUntil.setRemainingTime(0);
+        m_open.stop();
         apply();
     };
     // Not at once: the entry that was chosen is still to do its work.
@@ -76,16 +83,19 @@ void IconMenu::setContent(const MenuContent &content)
     if (content == m_content)
         return;
     m_content = content;
-    if (!isOpen())
+    if (!m_open.isActive())
         apply();
 }
 
 void IconMenu::apply()
 {
     m_summary->setText(menuText(m_content.summary));
-    m_click->setText(clickText(m_content.clickPage));
-    m_click->setEnabled(m_content.clickPage != Page::None);
+    m_clickPage = m_content.clickPage;
+    m_click->setText(clickText(m_clickPage));
+    m_click->setEnabled(m_clickPage != Page::None);
     m_modemPage->setEnabled(m_content.hasModem);
+    if (m_messages)
+        m_messages->setEnabled(m_content.hasMessages);
     if (m_settings)
         m_settings->setText(m_content.offersSetup ? qtTrId("MenuSetUpModem") : qtTrId("MenuSettings"));
     applyNews();

@@ -2,10 +2,10 @@
 
 #include "ui/NewsHistory.h"
 
-#include <QDeadlineTimer>
 #include <QList>
 #include <QMenu>
 #include <QString>
+#include <QTimer>
 
 #include <functional>
 
@@ -16,6 +16,7 @@ struct MenuContent {
     QString summary{};
     Page clickPage = Page::None; ///< what a click on the icon opens; `None` when it opens no page
     bool hasModem = false;
+    bool hasMessages = false; ///< the page of the messages can be opened at present
     bool offersSetup = false; ///< a device is there that is not set up, or the settings name none
     QList<ToldNews> news{};
 
@@ -29,10 +30,9 @@ public:
     /// What the entries do. Each is called on the main thread.
     struct Actions {
         std::function<void()> showStatus;
-        std::function<void()> click;
         std::function<void()> openModemPage;
         std::function<void()> openMessages; ///< empty where no such page is configured: then there is no such entry
-        std::function<void(Page page)> openPage;
+        std::function<void(Page page)> openPage; ///< the page of a piece of news, or of the entry about the click
         std::function<void()> openSettings; ///< empty where there is no setup program: then there is no such entry
         std::function<void()> about;
         std::function<void()> quit;
@@ -47,18 +47,19 @@ public:
 
 private:
     QAction *add(const QString &text, const std::function<void()> &operation);
-    bool isOpen() const { return m_menu.isVisible() || !m_openUntil.hasExpired(); }
     void apply();
     void applyNews();
 
     const Actions m_actions;
     MenuContent m_content;
+    Page m_clickPage = Page::None; ///< the one that the menu names, whatever the news made of the click meanwhile
     QMenu m_menu;
     QMenu m_newsMenu;
-    QDeadlineTimer m_openUntil{0}; ///< a host may show the menu and never say that it is closed
+    QTimer m_open; ///< runs while the menu is open, with an end: a host may never say that it closed the menu
     QAction *m_summary = nullptr;
     QAction *m_click = nullptr;
     QAction *m_modemPage = nullptr;
+    QAction *m_messages = nullptr; ///< null where no such page is configured
     QAction *m_settings = nullptr; ///< null where there is no setup program
 };
 

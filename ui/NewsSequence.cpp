@@ -107,7 +107,7 @@ void NewsSequence::runWithoutNews(const Work &work)
     constexpr auto duration = 2s * displayTypes.size();
     for (const int type : displayTypes)
         evaluate(work, type);
-    showImageAtEnd(work);
+    showEnd(work);
     statusDisplayFlowFinishFlag_ = true;
     const std::scoped_lock lock(m_mutex);
     m_hasThread = false;
@@ -118,7 +118,7 @@ void NewsSequence::displayUIStatus(const Work &work)
 {
     for (const int type : displayTypes)
         displayNews(work, type);
-    showImageAtEnd(work);
+    showEnd(work);
     endSequence();
 }
 
@@ -155,7 +155,10 @@ BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &im
 bool NewsSequence::showBalloon(const Work &work, const DisplayStatus &status, int type)
 {
     const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
-    work.whileAttached([&] { m_shownImage = status.image; });
+    work.whileAttached([&] {
+        m_shownImage = status.image;
+        m_toldClick.reset(); // what is told with the news is that of one step
+    });
     const auto shown = std::make_shared<Latch>();
     work.post(m_with.mainThread, [this, status, news, shown] {
         m_with.icon.setStatusImage(status.image);
@@ -182,15 +185,20 @@ void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
     closed->wait(deviceGone);
 }
 
-void NewsSequence::showImageAtEnd(const Work &work)
+void NewsSequence::showEnd(const Work &work)
 {
     QString image;
+    bool clickChanged = false;
     work.whileAttached([&] {
         if (m_shownImage != m_image)
             image = m_shownImage = m_image;
+        const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
+        clickChanged = std::exchange(m_toldClick, click) != click;
     });
     if (!image.isEmpty())
         work.post(m_with.mainThread, [this, image] { m_with.icon.setStatusImage(image); });
+    if (clickChanged && m_with.clickChanged)
+        work.post(m_with.mainThread, m_with.clickChanged);
 }
 
 std::stop_token NewsSequence::deviceGone() const
@@ -248,6 +256,7 @@ void NewsSequence::resetForReadyDevice()
     stopProcModemStatus_ = false;
     m_image.clear();
     m_shownImage.clear();
+    m_toldClick.reset();
 }
 
 void NewsSequence::resetForStop()
@@ -256,6 +265,7 @@ void NewsSequence::resetForStop()
     m_previous = {};
     m_image.clear();
     m_shownImage.clear();
+    m_toldClick.reset();
     const std::scoped_lock lock(m_mutex);
     m_deviceGone.request_stop();
     m_deviceGone = {};

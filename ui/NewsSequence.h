@@ -10,6 +10,7 @@
 #include <chrono>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <stop_token>
 
 namespace tarvo {
@@ -45,6 +46,8 @@ public:
         SystemLog &systemLog;
         /// Told of each piece of news that a balloon tells.
         std::function<void(const StandingNews &news)> told{};
+        /// Told when a sequence ended and the icon's click opens another page than was last told.
+        std::function<void()> clickChanged{};
     };
 
     /// Nothing has been shown, and there is no device yet.
@@ -110,7 +113,8 @@ private:
     bool showBalloon(const Work &work, const DisplayStatus &status, int type);
     /// Closes the balloon, and waits until it is closed.
     void closeBalloon(const std::stop_token &deviceGone);
-    void showImageAtEnd(const Work &work);
+    /// Shows the image and tells of the click target that the sequence has led to.
+    void showEnd(const Work &work);
     std::stop_token deviceGone() const;
     void pause(const std::stop_token &stop, std::chrono::seconds duration);
 
@@ -126,6 +130,7 @@ private:
     // Touched on behalf of the present attachment only.
     QString m_image; ///< the last image that was asked for; empty for none
     QString m_shownImage; ///< the last one that was shown
+    std::optional<bool> m_toldClick; ///< whether the click opens the firmware page, as last told; nil after news
 };
 
 } // namespace tarvo

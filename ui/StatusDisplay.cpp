@@ -64,6 +64,7 @@ void StatusDisplay::refresh()
         {.summary = summaryOf(m_status),
          .clickPage = m_with.pages.clickPage(),
          .hasModem = m_status.detection == Detection::Attached,
+         .hasMessages = m_with.pages.canOpen(Page::Messages),
          .offersSetup = m_status.detection == Detection::NotSetUp || m_status.settingsProblem != SettingsProblem::None,
          .news = m_news.news()});
 }

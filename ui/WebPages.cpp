@@ -66,10 +66,12 @@ void WebPages::openWebUI()
     open(Page::Modem);
 }
 
-void WebPages::open(Page page)
+bool WebPages::open(Page page)
 {
-    if (const auto there = address(page))
+    const auto there = address(page);
+    if (there)
         openPage(*there);
+    return there.has_value();
 }
 
 Page WebPages::clickPage() const
@@ -90,7 +92,8 @@ std::optional<QString> WebPages::address(Page page) const
     }
     static const QMap<Page, QString> modules{{Page::Home, u"OperatorHomePage"_s},
                                              {Page::Firmware, u"FotaNewVersionHomePage"_s},
-                                             {Page::DataLimit, u"DateLimitHomePage"_s}};
+                                             {Page::DataLimit, u"DateLimitHomePage"_s},
+                                             {Page::Messages, u"WebUISmsPage"_s}};
     const auto configured = configurationText(modules.value(page));
     return configured ? withRouter(*configured) : std::nullopt;
 }

@@ -42,9 +42,11 @@ public:
     void openWebUI();
     /// Opens @p page in the user's browser. "%@" in it stands for the modem's address.
     void openPage(const QString &page);
-    /// Opens the page of that kind; nothing when there is none.
-    void open(Page page);
+    /// Opens the page of that kind. @return false when there is none
+    bool open(Page page);
 
+    /// @return whether there is a page of that kind at present
+    bool canOpen(Page page) const { return address(page).has_value(); }
     /// @return the page that the icon's click opens; `None` when it would open nothing
     Page clickPage() const;
 

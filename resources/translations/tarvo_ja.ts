@@ -123,6 +123,10 @@
         <source>roaming off</source>
         <translation>ローミング オフ</translation>
     </message>
+    <message id="StatusAnd">
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
     <message id="AmountOfLimit">
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>

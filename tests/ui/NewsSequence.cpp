@@ -62,8 +62,10 @@ struct BalloonSequence : AttachedModem {
     BalloonPresenter balloon{{.iconFrame = [this] { return icon.frame(); }}};
     UpdateAlert alert{pages};
     QStringList told;
+    QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
     NewsSequence news{{snapshot, pages, icon, balloon, alert, mainThread, clock, systemLog,
-                       [this](const StandingNews &each) { told += each.text; }}};
+                       [this](const StandingNews &each) { told += each.text; },
+                       [this] { clicks += pages.openUpdateUrlWhileHasNewVersion(); }}};
 };
 
 } // namespace
@@ -107,6 +109,7 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     EXPECT_FALSE(panel->wndAlert().isVisible());
     EXPECT_EQ(statusBar.itemWithView()->viewChanges(), changes) << "nothing alternates";
     EXPECT_EQ(told, (QStringList{u"HaveNewVersionTipWhenConnected"_s, u"DatalimitExceed"_s}));
+    EXPECT_EQ(clicks, QList{false}) << "as the last step left it";
 }
 
 TEST_F(BalloonSequence, TellsAnOverrunOnceAndKeepsItsMagnitude)

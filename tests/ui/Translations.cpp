@@ -44,7 +44,7 @@ QStringList usedKeys()
             sources += QString::fromUtf8(file.readAll());
         }
     }
-    QStringList keys = captures(u"qtTrId\\(\"(\\w+)\"\\)"_s, sources);
+    QStringList keys = captures(u"qtTrId\\(\"(\\w+)\"[,)]"_s, sources);
     keys.removeDuplicates();
     return keys;
 }

@@ -119,8 +119,10 @@ TEST_F(WebUI, AClickWithoutAPageShowsTheStatusAndPagesOfTheModemNeedOne)
     click();
     EXPECT_EQ(opened(), QStringList(u"http://home/"_s)) << "a double click is one click";
     settings.insert(u"OperatorHomePage"_s, u"http://%@/home"_s);
+    settings.insert(u"WebUISmsPage"_s, u"http://%@/sms"_s);
     configure(settings);
     EXPECT_EQ(controller.pages().clickPage(), Page::None) << "the page is on a modem";
+    EXPECT_FALSE(controller.pages().canOpen(Page::Messages));
     const auto isWindowShown = [] {
         return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget *widget) {
             return qobject_cast<const StatusWindow *>(widget) && widget->isVisible();
@@ -131,6 +133,7 @@ TEST_F(WebUI, AClickWithoutAPageShowsTheStatusAndPagesOfTheModemNeedOne)
     EXPECT_TRUE(isWindowShown());
     plugIn(modem);
     EXPECT_EQ(controller.pages().clickPage(), Page::Home);
+    EXPECT_TRUE(controller.pages().canOpen(Page::Messages));
     click();
     EXPECT_EQ(opened().last(), u"http://%1/home"_s.arg(modem.server.authority()));
 }
