@@ -105,7 +105,7 @@ TEST_F(NetlinkDynamicStoreTest, FollowsAddressesRoutesAndLinks)
     };
     for (const auto &[commands, expected] : steps) {
         ip(commands);
-        EXPECT_TRUE(waitFor([&] { return router() == expected; }))
+        EXPECT_TRUE(waitFor([this, &wanted = expected] { return router() == wanted; }))
             << commands.toStdString() << ": " << router().toStdString();
     }
 }
