@@ -3,7 +3,6 @@
 #include "RouterObserver/ConfigManager.h"
 #include "RouterObserver/SettingsProblem.h"
 #include "modemapi/ModemClient.h"
-#include "platform/Notifications.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
 
@@ -38,6 +37,9 @@ MainController::MainController(Services services)
                  .isScreenComposited = m_services.isScreenComposited,
                  .iconFrame = [this] { return m_icon.frame(); },
                  .clicked = [this] { iconClicked(); }})
+    , m_pageFailure({.notifications = m_services.notifications,
+                     .isScreenComposited = m_services.isScreenComposited,
+                     .iconFrame = [this] { return m_icon.frame(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
               m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
@@ -90,11 +92,7 @@ void MainController::showStatus()
 void MainController::couldNotOpen(const QString &page)
 {
     log(u"cannot open "_s + page);
-    if (m_services.notifications && m_services.notifications->available())
-        m_services.notifications->show({.title = qtTrId("CannotOpenTitle"),
-                                        .text = qtTrId("CannotOpenText").arg(page),
-                                        .iconName = u"io.github.tarvo.Tarvo"_s},
-                                       {});
+    m_pageFailure.tell(page);
 }
 
 void MainController::awakeFromNib()

@@ -15,6 +15,7 @@
 #include "ui/BalloonPresenter.h"
 #include "ui/IconMenu.h"
 #include "ui/NewsSequence.h"
+#include "ui/PageFailureNotice.h"
 #include "ui/StatusDisplay.h"
 #include "ui/StatusIcon.h"
 #include "ui/UpdateAlert.h"
@@ -106,6 +107,7 @@ private:
     StatusIcon m_icon;
     StatusDisplay m_display;
     BalloonPresenter m_balloon;
+    PageFailureNotice m_pageFailure;
     UpdateAlert m_updateAlert;
     NewsSequence m_news;
     ApnProvisioner m_provisioner;

@@ -11,7 +11,7 @@ namespace tarvo {
 /// Used on the main thread only; no operation blocks.
 class Workspace {
 public:
-    /// What is done when the machine sleeps or wakes.
+    /// What is done when the machine sleeps or wakes, or an address did not open.
     using Handler = std::function<void()>;
 
     virtual ~Workspace() = default;
@@ -20,8 +20,10 @@ public:
     /// Several observers are called in the order in which they came.
     virtual void addSleepObserver(Handler willSleep, Handler didWake) = 0;
 
-    /// Hands @p url to the desktop's handler. @return false when it is no valid URL or nothing handles it
-    virtual bool openURL(const QUrl &url) = 0;
+    /// Hands @p url to the desktop's handler.
+    /// @param failed  called once when it is no valid URL or nothing opened it: before this returns, or some seconds
+    ///                later, but not after the workspace is gone. Never called when the page opened
+    virtual void openURL(const QUrl &url, Handler failed) = 0;
 
     /// Starts the application whose executable or bundle is at @p path. @return whether it was started
     virtual bool launchApplication(const QString &path) = 0;

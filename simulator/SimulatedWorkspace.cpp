@@ -12,18 +12,28 @@ void SimulatedWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
     m_observers.emplace_back(std::move(willSleep), std::move(didWake));
 }
 
-bool SimulatedWorkspace::openURL(const QUrl &url)
+void SimulatedWorkspace::openURL(const QUrl &url, Handler failed)
 {
-    if (!url.isValid())
-        return false;
+    if (!url.isValid()) {
+        failed();
+        return;
+    }
     m_openedURLs.append(url);
-    return m_opener ? m_opener(url) : true;
+    m_failed = std::move(failed);
+    if (m_opener && !m_opener(url))
+        refuse();
 }
 
 bool SimulatedWorkspace::launchApplication(const QString &path)
 {
     m_launchedPaths.append(path);
     return true;
+}
+
+void SimulatedWorkspace::refuse()
+{
+    if (m_failed)
+        std::exchange(m_failed, {})();
 }
 
 void SimulatedWorkspace::sleep()

@@ -16,13 +16,15 @@ public:
     /// @return whether the page was opened
     using Opener = std::function<bool(const QUrl &url)>;
 
-    /// @param opener  also handed every valid URL; its answer is then the answer of `openURL`. May be empty
+    /// @param opener  also handed every valid URL; may be empty, which opens them all
     explicit SimulatedWorkspace(Opener opener = {});
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
-    bool openURL(const QUrl &url) override;
+    void openURL(const QUrl &url, Handler failed) override;
     bool launchApplication(const QString &path) override;
 
+    /// The page that was handed over last turns out not to open.
+    void refuse();
     /// Tells the observers that the machine is about to sleep; it sleeps when this returns.
     void sleep();
     /// Tells the observers that the machine has woken.
@@ -36,6 +38,7 @@ private:
     Opener m_opener;
     std::vector<std::pair<Handler, Handler>> m_observers;
     QList<QUrl> m_openedURLs;
+    Handler m_failed; ///< of the last of them
     QStringList m_launchedPaths;
 };
 

@@ -32,7 +32,7 @@ WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQue
     , m_snapshot(snapshot)
     , m_mainThread(mainThread)
     , m_router(std::move(router))
-    , m_couldNotOpen(std::move(couldNotOpen))
+    , m_couldNotOpen(std::make_shared<const CouldNotOpen>(std::move(couldNotOpen)))
 {
 }
 
@@ -120,8 +120,14 @@ void WebPages::openPage(const QString &page)
     if (!address)
         return;
     const QUrl url(*address, QUrl::StrictMode);
-    if (!url.isValid() || url.isRelative() || !m_workspace.openURL(url))
-        m_couldNotOpen(*address);
+    const auto failed = [told = std::weak_ptr(m_couldNotOpen), page = *address] {
+        if (const auto tell = told.lock())
+            (*tell)(page);
+    };
+    if (url.isValid() && !url.isRelative())
+        m_workspace.openURL(url, failed);
+    else
+        failed();
 }
 
 void WebPages::openPageFor(const Work &work, const QString &page)

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace tarvo {
@@ -24,7 +25,7 @@ class WebPages {
 public:
     /// @return the address of the modem that is plugged in; nil when there is none
     using Router = std::function<std::optional<QString>()>;
-    /// Told of a page that could not be opened, on the main thread.
+    /// Told of a page that could not be opened, on the main thread; perhaps some seconds after it was asked for.
     using CouldNotOpen = std::function<void(const QString &page)>;
 
     /// Everything referred to outlives this object.
@@ -92,7 +93,7 @@ private:
     const SharedSnapshot &m_snapshot;
     StepQueue &m_mainThread;
     const Router m_router;
-    const CouldNotOpen m_couldNotOpen;
+    const std::shared_ptr<const CouldNotOpen> m_couldNotOpen; ///< a page that fails after our end tells nobody
 
     std::atomic<bool> hasOpenedWebUI_{false}; ///< the modem's pages were opened by themselves
     std::atomic<bool> openUpdateUrlWhileHasNewVersion_{false}; ///< a click opens the firmware page

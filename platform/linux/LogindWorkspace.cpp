@@ -5,17 +5,54 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <unistd.h>
+
+#include <chrono>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+constexpr auto openerTimeout = 15s;
 
 bool isComplete(const QUrl &url)
 {
     const bool needsHost = url.scheme() == u"http" || url.scheme() == u"https";
     return url.isValid() && !url.isRelative() && !(needsHost && url.host().isEmpty());
+}
+
+/// Starts @p program with @p url as its argument, and ends it when it takes too long; what it has started goes on.
+/// @param owner   owns the process, at whose end nothing is told any more
+/// @param failed  called when the program could not be started, or said in time that it failed
+void runOpener(const QString &program, const QUrl &url, QObject &owner, const Workspace::Handler &failed)
+{
+    auto *const process = new QProcess(&owner);
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->setChildProcessModifier([] { setsid(); }); // a browser outlives the terminal that we run in
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QObject::connect(process, &QProcess::finished, &owner, [failed](int exitCode, QProcess::ExitStatus status) {
+        if (status != QProcess::NormalExit || exitCode != 0)
+            failed();
+    });
+    QObject::connect(process, &QProcess::errorOccurred, &owner, [process, failed](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        process->deleteLater();
+        failed();
+    });
+    // On a desktop without an opener of its own it stays for as long as the browser that it has started.
+    QTimer::singleShot(openerTimeout, process, [process, &owner] {
+        process->disconnect(&owner);
+        process->kill();
+    });
+    process->start(program, {QString::fromLatin1(url.toEncoded())});
 }
 
 } // namespace
@@ -39,10 +76,16 @@ void LogindWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
     m_observers.emplace_back(std::move(willSleep), std::move(didWake));
 }
 
-bool LogindWorkspace::openURL(const QUrl &url)
+void LogindWorkspace::openURL(const QUrl &url, Handler failed)
 {
     closeDescriptorsOnExec();
-    return isComplete(url) && QDesktopServices::openUrl(url);
+    const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
+    if (!isComplete(url))
+        failed();
+    else if (!opener.isEmpty())
+        runOpener(opener, url, m_openers, failed);
+    else if (!QDesktopServices::openUrl(url))
+        failed();
 }
 
 bool LogindWorkspace::launchApplication(const QString &path)

@@ -3,6 +3,8 @@
 #include "platform/Workspace.h"
 #include "platform/linux/LogindSleep.h"
 
+#include <QObject>
+
 #include <utility>
 #include <vector>
 
@@ -17,7 +19,8 @@ public:
     LogindWorkspace(BusConnection &systemBus, SystemLog &log);
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
-    bool openURL(const QUrl &url) override;
+    /// Runs `xdg-open` of xdg-utils, whose exit status tells whether the page opened, and without it what Qt knows.
+    void openURL(const QUrl &url, Handler failed) override;
     /// @param path  an executable file, which is started directly, or the desktop file of an application, which is
     ///              handed to `gio launch` of GLib
     /// @return whether the file could be started or handed over; what becomes of it then is not known
@@ -26,6 +29,7 @@ public:
 private:
     std::vector<std::pair<Handler, Handler>> m_observers;
     LogindSleep m_sleep;
+    QObject m_openers; ///< owns the programs that are opening an address
 };
 
 } // namespace tarvo

@@ -1,6 +1,12 @@
 #include "simulator/ReceivedRequest.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
+#include "ui/CustomView.h"
+#include "ui/OvAttachedWindow.h"
+
+#include <QApplication>
+
+#include <algorithm>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -173,6 +179,23 @@ TEST_F(Companion, AFailedPassIsLoggedAndTheNextOneIsTried)
     modem.server.setFault({});
     tick(modem, 2);
     EXPECT_TRUE(modem.device.waitForRequests(1, "profile_type")) << "the pass goes on after the page";
+}
+
+TEST_F(Companion, APageThatTurnsOutNotToOpenIsLoggedAndTold)
+{
+    QVariantMap settings = usualSettings();
+    settings.insert(u"OperatorHomePage"_s, u"http://home/"_s);
+    configure(settings);
+    const auto balloons = [] {
+        return std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget *widget) {
+            return qobject_cast<const OvAttachedWindow *>(widget) && widget->isVisible();
+        });
+    };
+    qobject_cast<CustomView *>(statusBar.itemWithView()->view())->click();
+    ASSERT_TRUE(eventually([&] { return !workspace.openedURLs().isEmpty(); }));
+    EXPECT_FALSE(balloons() || systemLog.contains(u"cannot open http://home/"_s));
+    workspace.refuse();
+    EXPECT_TRUE(balloons() == 1 && systemLog.count(u"cannot open http://home/"_s) == 1);
 }
 
 TEST_F(Companion, WithRefererAnEmptyAnswerIsStillAnAnswer)

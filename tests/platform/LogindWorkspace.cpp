@@ -7,7 +7,6 @@
 #include "tests/support/Program.h"
 #include "tests/support/VirtualDesktop.h"
 
-#include <QDesktopServices>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -50,20 +49,6 @@ protected:
     std::unique_ptr<Program> bus_;
     std::unique_ptr<SimulatedLogind> logind_;
     QStringList events_;
-};
-
-/// Handles addresses instead of a browser.
-class Browser final : public QObject {
-    Q_OBJECT
-
-public:
-    Browser() { QDesktopServices::setUrlHandler(u"http"_s, this, "open"); }
-    ~Browser() override { QDesktopServices::unsetUrlHandler(u"http"_s); }
-
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void open(const QUrl &url) { opened.append(url); }
 };
 
 } // namespace
@@ -126,14 +111,41 @@ TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
     EXPECT_EQ(events_, (QStringList{u"late"_s, u"2"_s}));
 }
 
-TEST_F(LogindWorkspaceTest, OpensCompleteAddressesOnly)
+TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOpen)
 {
     LogindWorkspace workspace(systemBus_, log_);
-    Browser browser;
-    EXPECT_TRUE(workspace.openURL(QUrl(u"http://192.168.0.1/index.html"_s)));
+    int failures = 0;
+    const auto open = [&](const QString &text) {
+        workspace.openURL(QUrl(text, QUrl::StrictMode), [&] { ++failures; });
+    };
+    const QString page = u"http://192.168.0.1/$(id)?a=1&b='"_s;
+    const QString opener = folder_.filePath(u"xdg-open"_s);
+    qputenv("PATH", folder_.path().toUtf8());
+    open(page);
+    EXPECT_EQ(failures, 1) << "there is no opener";
+
+    QFile file(opener);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\necho $$ \"$@\" > \"$0.out\"\nexit $STATUS\n");
+    file.close();
+    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    for (const auto &[status, told] : {std::pair("0", 1), {"3", 2}, {"4", 3}}) {
+        qputenv("STATUS", status);
+        QFile output(opener + u".out"_s);
+        output.remove();
+        open(page);
+        QByteArray line;
+        EXPECT_TRUE(waitFor([&] {
+            line = output.open(QIODevice::ReadOnly) ? output.readAll() : QByteArray();
+            output.close();
+            return line.endsWith('\n') && kill(line.split(' ').first().toInt(), 0) != 0;
+        })) << "it has ended";
+        EXPECT_EQ(line.mid(line.indexOf(' ') + 1), page.toUtf8() + '\n');
+        EXPECT_EQ(failures, told) << status;
+    }
     for (const auto &text : {u""_s, u"http://"_s, u"http:///page"_s, u"page.html"_s, u"http://a b/"_s})
-        EXPECT_FALSE(workspace.openURL(QUrl(text, QUrl::StrictMode))) << text.toStdString();
-    EXPECT_EQ(browser.opened, QList{QUrl(u"http://192.168.0.1/index.html"_s)});
+        open(text);
+    EXPECT_EQ(failures, 8) << "an incomplete address is told of at once";
 }
 
 TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
@@ -160,5 +172,3 @@ TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
     EXPECT_TRUE(workspace.launchApplication(entry));
     EXPECT_TRUE(waitFor([&] { return hasWritten(u"launch|%1|end|"_s.arg(entry)); }));
 }
-
-#include "LogindWorkspace.moc"

@@ -3,6 +3,7 @@
 #include "simulator/SimulatedNotifications.h"
 #include "tests/support/PrintQt.h"
 #include "ui/OvAttachedWindow.h"
+#include "ui/PageFailureNotice.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -75,4 +76,20 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     QTest::mouseClick(window, Qt::LeftButton);
     QCoreApplication::processEvents();
     EXPECT_TRUE(!shownWindow() && closed && clicks == 1);
+}
+
+TEST(PageFailureNotice, NotifiesOrShowsABalloon)
+{
+    SimulatedNotifications notifications;
+    PageFailureNotice notice({.notifications = &notifications});
+    notice.tell(u"http://a/"_s);
+    EXPECT_TRUE(notifications.shown() && notifications.shown()->title == u"CannotOpenTitle" && !shownWindow());
+    notifications.refuse();
+    ASSERT_TRUE(shownWindow());
+    notifications.setAvailable(false);
+    notice.tell(u"http://b/"_s);
+    ASSERT_TRUE(shownWindow()) << "the next one takes its place";
+    QTest::mouseClick(const_cast<OvAttachedWindow *>(shownWindow()), Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(shownWindow());
 }
