@@ -128,7 +128,7 @@ void BalloonPresenter::close()
         std::exchange(m_closed, {})();
 }
 
-void BalloonPresenter::withdraw()
+void BalloonPresenter::withdraw() const
 {
     if (m_with.notifications)
         m_with.notifications->close();

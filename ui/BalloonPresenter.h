@@ -52,7 +52,7 @@ public:
     /// @param closed  called when it has been closed, in whatever way; at once when none is shown
     void dismiss(std::function<void()> closed);
     /// Takes back the notification that is left of the last balloon.
-    void withdraw();
+    void withdraw() const;
 
 private:
     void close();

@@ -56,7 +56,7 @@ TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
     };
     for (const auto &[status, summary] : cases)
         EXPECT_EQ(summaryOf(status), summary);
-    const InLanguage german(QLocale(QLocale::German));
+    const InLanguage german{QLocale(QLocale::German)};
     EXPECT_EQ(summaryOf(cases[10].first), u"Verbunden · 12,0 von 10,0 GB · Roaming aus"_s);
 }
 
