@@ -4,6 +4,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QPointer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -19,7 +20,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto openerTimeout = 15s;
+constexpr auto openerPatience = 15s;
 
 bool isComplete(const QUrl &url)
 {
@@ -27,30 +28,30 @@ bool isComplete(const QUrl &url)
     return url.isValid() && !url.isRelative() && !(needsHost && url.host().isEmpty());
 }
 
-/// Starts @p program with @p url as its argument, and ends it when it takes too long; what it has started goes on.
-/// @param owner   owns the process, at whose end nothing is told any more
-/// @param failed  called when the program could not be started, or said in time that it failed
-void runOpener(const QString &program, const QUrl &url, QObject &owner, const Workspace::Handler &failed)
+/// Starts @p program with @p url as its argument. On a desktop without an opener of its own it stays for as long as the
+/// browser that it has started, or is that browser: so it is left alone, and goes on when we end.
+/// @param listener  at whose end nothing is told any more
+/// @param failed    called when the program could not be started, or said in time that it failed
+void runOpener(const QString &program, const QUrl &url, QObject &listener, const Workspace::Handler &failed)
 {
-    auto *const process = new QProcess(&owner);
+    auto *const process = new QProcess; // whose destructor would end it
     process->setStandardInputFile(QProcess::nullDevice());
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setChildProcessModifier([] { setsid(); }); // a browser outlives the terminal that we run in
     QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    QObject::connect(process, &QProcess::finished, &owner, [failed](int exitCode, QProcess::ExitStatus status) {
+    QObject::connect(process, &QProcess::finished, &listener, [failed](int exitCode, QProcess::ExitStatus status) {
         if (status != QProcess::NormalExit || exitCode != 0)
             failed();
     });
-    QObject::connect(process, &QProcess::errorOccurred, &owner, [process, failed](QProcess::ProcessError error) {
+    QObject::connect(process, &QProcess::errorOccurred, &listener, [process, failed](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart)
             return;
         process->deleteLater();
         failed();
     });
-    // On a desktop without an opener of its own it stays for as long as the browser that it has started.
-    QTimer::singleShot(openerTimeout, process, [process, &owner] {
-        process->disconnect(&owner);
-        process->kill();
+    QTimer::singleShot(openerPatience, &listener, [process = QPointer(process), &listener] {
+        if (process)
+            process->disconnect(&listener);
     });
     process->start(program, {QString::fromLatin1(url.toEncoded())});
 }
@@ -83,7 +84,7 @@ void LogindWorkspace::openURL(const QUrl &url, Handler failed)
     if (!isComplete(url))
         failed();
     else if (!opener.isEmpty())
-        runOpener(opener, url, m_openers, failed);
+        runOpener(opener, url, m_openings, failed);
     else if (!QDesktopServices::openUrl(url))
         failed();
 }

@@ -29,7 +29,7 @@ public:
 private:
     std::vector<std::pair<Handler, Handler>> m_observers;
     LogindSleep m_sleep;
-    QObject m_openers; ///< owns the programs that are opening an address
+    QObject m_openings; ///< hears what becomes of addresses that were handed over
 };
 
 } // namespace tarvo
