@@ -12,21 +12,34 @@ namespace tarvo {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QVariantList vendorsOf(const ConfigManager &settings)
+{
+    const auto info = settings.getConfigurationByModule(u"device_info"_s).value_or(QVariant());
+    return info.toMap().value(u"vendor_ids"_s).toList();
+}
+
+bool isWrittenAsText(const QVariant &vendor)
+{
+    return vendor.typeId() == QMetaType::QString;
+}
+
+} // namespace
+
 SettingsProblem settingsProblem(const ConfigManager &settings)
 {
     if (!settings.settingPath())
         return SettingsProblem::NoFile;
     if (settings.loadProblem())
         return SettingsProblem::Unreadable;
-    const auto info = settings.getConfigurationByModule(u"device_info"_s).value_or(QVariant());
-    const QVariantList vendors = info.toMap().value(u"vendor_ids"_s).toList();
+    const QVariantList vendors = vendorsOf(settings);
     const auto isUsable = [](const QVariant &vendor) {
-        return vendor.typeId() == QMetaType::QString && vendor.toString() != u"4660";
+        return isWrittenAsText(vendor) && vendor.toString() != u"4660";
     };
     if (std::ranges::any_of(vendors, isUsable))
         return SettingsProblem::None;
-    const auto isNumber = [](const QVariant &vendor) { return vendor.typeId() != QMetaType::QString; };
-    return std::ranges::any_of(vendors, isNumber) ? SettingsProblem::VendorIsNumber : SettingsProblem::NoVendor;
+    return std::ranges::all_of(vendors, isWrittenAsText) ? SettingsProblem::NoVendor : SettingsProblem::VendorIsNumber;
 }
 
 QString logLine(SettingsProblem problem)
@@ -44,6 +57,17 @@ QString logLine(SettingsProblem problem)
         break;
     }
     return {};
+}
+
+QString unmatchedVendorLine(const ConfigManager &settings)
+{
+    const QVariantList vendors = vendorsOf(settings);
+    const auto found = std::ranges::find_if_not(vendors, isWrittenAsText);
+    if (found == vendors.end())
+        return {};
+    return u"settings: entry %1 of vendor_ids, %2, never matches, it is to be written as a text"_s
+        .arg(found - vendors.begin() + 1)
+        .arg(found->toString());
 }
 
 } // namespace tarvo

@@ -21,4 +21,8 @@ SettingsProblem settingsProblem(const ConfigManager &settings);
 /// @return a line for the log; empty for no problem
 QString logLine(SettingsProblem problem);
 
+/// @return a line for the log that names the first vendor of @p settings that is no text, and so never matches a device;
+///         empty when there is none
+QString unmatchedVendorLine(const ConfigManager &settings);
+
 } // namespace tarvo

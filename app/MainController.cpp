@@ -112,8 +112,10 @@ void MainController::applicationDidFinishLaunching()
     m_unknownModems = std::make_unique<UnknownModems>(m_services.dynamicStore, m_services.deviceRegistry,
                                                       *routerObserver_, [this] { detect(); });
     const SettingsProblem problem = settingsProblem(ConfigManager::sharedConfigManager());
-    if (problem != SettingsProblem::None)
-        log(logLine(problem));
+    const QString line =
+        problem == SettingsProblem::None ? unmatchedVendorLine(ConfigManager::sharedConfigManager()) : logLine(problem);
+    if (!line.isEmpty())
+        log(line);
     m_display.setSettingsProblem(problem);
     detect();
 }

@@ -1,7 +1,7 @@
 #include "ui/OvAttachedWindow.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
+#include "ui/AccessibleRole.h"
+
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QImage>
@@ -41,13 +41,6 @@ void paintShadow(QPainter &painter, const QPainterPath &outline, const QRectF &b
     for (int spread = reach * 3 / 4; spread > 0; --spread)
         painter.strokePath(fallen, QPen(QColor(0, 0, 0, 7), 2 * spread, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.restore();
-}
-
-/// @return a new description of @p object for screen readers, which announce alerts; null when it is no balloon
-QAccessibleInterface *describeBalloon(const QString &, QObject *object)
-{
-    auto *const balloon = qobject_cast<OvAttachedWindow *>(object);
-    return balloon ? new QAccessibleWidget(balloon, QAccessible::AlertMessage) : nullptr;
 }
 
 QBrush opaque(QBrush brush)
@@ -93,7 +86,7 @@ OvAttachedWindow::OvAttachedWindow(QWidget *view, QPointF point, QWidget *window
     , side_(side)
     , distance_(distance)
 {
-    [[maybe_unused]] static const bool described = (QAccessible::installFactory(describeBalloon), true);
+    setAccessibleRole<OvAttachedWindow, QAccessible::AlertMessage>(); // screen readers announce alerts
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_X11NetWmWindowTypeNotification);
     setFocusPolicy(Qt::NoFocus);

@@ -1,5 +1,7 @@
 #include "ui/UsageBar.h"
 
+#include "ui/AccessibleRole.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -32,6 +34,7 @@ QColor trackColor(const QPalette &palette)
 
 UsageBar::UsageBar(const QString &name)
 {
+    setAccessibleRole<UsageBar, QAccessible::ProgressBar>();
     setAccessibleName(name);
     setMinimumHeight(barHeight + 2 * markOverhang);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

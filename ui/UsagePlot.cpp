@@ -1,5 +1,6 @@
 #include "ui/UsagePlot.h"
 
+#include "ui/AccessibleRole.h"
 #include "ui/DataAmounts.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,7 @@ QPolygonF curve(const QList<UsageHistory::Sample> &samples, double most)
 
 UsagePlot::UsagePlot()
 {
+    setAccessibleRole<UsagePlot, QAccessible::Chart>();
     setAccessibleName(qtTrId("StatusPlot"));
     setMinimumHeight(72);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

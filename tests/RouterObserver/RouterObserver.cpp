@@ -232,15 +232,21 @@ TEST_F(RouterObserverTest, UnknownModemsAreThoseWithAGatewayThatTheSettingsNeith
 
 TEST(SettingsProblem, IsWhyNoModemCanBeFound)
 {
-    const std::pair<QVariantList, SettingsProblem> cases[] = {
-        {{}, SettingsProblem::NoVendor},
-        {{u"4660"_s}, SettingsProblem::NoVendor},
-        {{qlonglong(17)}, SettingsProblem::VendorIsNumber},
-        {{qlonglong(17), u"18"_s}, SettingsProblem::None},
+    struct Case {
+        QVariantList vendors;
+        SettingsProblem problem;
+        QString line;
     };
-    for (const auto &[vendors, problem] : cases) {
+    const Case cases[] = {
+        {{}, SettingsProblem::NoVendor, {}},
+        {{u"4660"_s}, SettingsProblem::NoVendor, {}},
+        {{qlonglong(17)}, SettingsProblem::VendorIsNumber, u"settings: entry 1 of vendor_ids, 17"_s},
+        {{u"18"_s, qlonglong(17)}, SettingsProblem::None, u"settings: entry 2 of vendor_ids, 17"_s},
+    };
+    for (const auto &[vendors, problem, line] : cases) {
         settings()[u"device_info"_s] = QVariantMap{{u"vendor_ids"_s, vendors}};
         EXPECT_EQ(settingsProblem(ConfigManager::sharedConfigManager()), problem);
+        EXPECT_EQ(unmatchedVendorLine(ConfigManager::sharedConfigManager()).section(u',', 0, 1), line);
     }
     EXPECT_EQ(settingsProblem(ConfigManager(u"/nonexistent"_s)), SettingsProblem::Unreadable);
 }

@@ -3,8 +3,11 @@
 #include "tests/support/PrintQt.h"
 #include "ui/StatusRows.h"
 #include "ui/Translations.h"
+#include "ui/UsageBar.h"
 #include "ui/UsageHistory.h"
+#include "ui/UsagePlot.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLocale>
 
@@ -100,4 +103,12 @@ TEST(UsageHistory, KeepsABoundedNumberOfEvenSamples)
     EXPECT_GE(samples.size(), UsageHistory::mostSamples / 2 - 1);
     EXPECT_EQ(samples.first().gigabytes, 0);
     EXPECT_EQ(samples[2].sincePlugIn - samples[1].sincePlugIn, samples[1].sincePlugIn - samples[0].sincePlugIn);
+}
+
+TEST(Usage, HasRolesForScreenReaders)
+{
+    UsageBar bar(u"Used"_s);
+    UsagePlot plot;
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&bar)->role(), QAccessible::ProgressBar);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&plot)->role(), QAccessible::Chart);
 }
