@@ -81,11 +81,9 @@ void LogindWorkspace::openURL(const QUrl &url, Handler failed)
 {
     closeDescriptorsOnExec();
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
-    if (!isComplete(url))
-        failed();
-    else if (!opener.isEmpty())
+    if (isComplete(url) && !opener.isEmpty())
         runOpener(opener, url, m_openings, failed);
-    else if (!QDesktopServices::openUrl(url))
+    else if (!isComplete(url) || !QDesktopServices::openUrl(url))
         failed();
 }
 
