@@ -1,6 +1,6 @@
 // Storms of 2,000 pairs of links beside a modem's, in the network namespace that it is started in: what following them
 // costs the product, and a listener that only parses the same messages; and how late the modem's own change is told.
-#include "platform/SystemLog.h"
+#include "bench/NoLog.h"
 #include "platform/linux/LeaseFiles.h"
 #include "platform/linux/NetlinkDynamicStore.h"
 
@@ -37,11 +37,6 @@ using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 constexpr int pairs = 2000;
-
-class NoLog final : public SystemLog {
-public:
-    void write(const QString &) override { }
-};
 
 /// @return the processor time of @p thread, in milliseconds
 double processorTime(pthread_t thread)

@@ -1,7 +1,7 @@
 #include "apn/ProfileFile.h"
 #include "apn/ProfileSelection.h"
 #include "apn/tool/ProfileSigner.h"
-#include "platform/SystemLog.h"
+#include "bench/NoLog.h"
 
 #include <QFile>
 #include <QStringList>
@@ -84,11 +84,6 @@ void chooseInputsInOneLongText(benchmark::State &state)
     }
 }
 BENCHMARK(chooseInputsInOneLongText)->Arg(1000)->Arg(2000);
-
-class NoLog final : public SystemLog {
-public:
-    void write(const QString &) override { }
-};
 
 void selectFromAFolder(benchmark::State &state)
 {

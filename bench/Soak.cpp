@@ -1,8 +1,8 @@
 // A day of polling, plugging, sleeping and news on an accelerated clock, with the real controller and a modem on loopback.
 // Prints what is kept after the day (ours) beside what was kept after the first hours (floor).
 #include "app/MainController.h"
+#include "bench/NoLog.h"
 #include "platform/StateStore.h"
-#include "platform/SystemLog.h"
 #include "simulator/ManualClock.h"
 #include "simulator/ModemServer.h"
 #include "simulator/OwnSurroundings.h"
@@ -35,11 +35,6 @@ const QString interfaceName = u"en5"_s;
 constexpr int vendorID = 4660;
 constexpr int day = 24 * 3600; // seconds
 constexpr int warmUp = 2 * 3600;
-
-class NoLog final : public SystemLog {
-public:
-    void write(const QString &) override { }
-};
 
 struct Kept {
     std::size_t heap = 0; // KiB

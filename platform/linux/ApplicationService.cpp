@@ -22,13 +22,12 @@ const QString applicationInterface = u"org.freedesktop.Application"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 constexpr auto patience = 4s;
 
-/// @return the object's path, which follows from the name
-QString pathOf(const QString &applicationId)
-{
-    return u'/' + QString(applicationId).replace(u'.', u'/');
-}
-
 } // namespace
+
+QString applicationObjectPath(const QString &applicationId)
+{
+    return u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_');
+}
 
 ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers,
                                        QVariantMap properties)
@@ -44,7 +43,7 @@ ApplicationService::ApplicationService(BusConnection &bus, QString applicationId
 void ApplicationService::busFound()
 {
     constexpr quint32 doNotQueue = 4;
-    m_bus.serve(pathOf(m_applicationId), *this);
+    m_bus.serve(applicationObjectPath(m_applicationId), *this);
     m_bus.callBus(u"RequestName"_s, {m_applicationId, doNotQueue}, this, [](const QDBusMessage &) {});
 }
 
@@ -100,8 +99,8 @@ bool activateRunningApplication(const QString &busAddress, const QString &applic
     BusConnection bus(busAddress);
     QEventLoop loop;
     const auto activate = [&] {
-        auto message =
-            QDBusMessage::createMethodCall(applicationId, pathOf(applicationId), applicationInterface, u"Activate"_s);
+        auto message = QDBusMessage::createMethodCall(applicationId, applicationObjectPath(applicationId),
+                                                      applicationInterface, u"Activate"_s);
         message.setAutoStartService(false);
         message << QVariantMap();
         bus.call(message, &loop,

@@ -42,6 +42,9 @@ private:
     const QVariantMap m_properties;
 };
 
+/// @return the path of the object by which the application @p applicationId is reached on the session bus
+QString applicationObjectPath(const QString &applicationId);
+
 /// Asks the program that owns @p applicationId on the session bus to show itself, while events are handled for a few
 /// seconds at most. @return whether it did
 bool activateRunningApplication(const QString &busAddress, const QString &applicationId);

@@ -1,5 +1,7 @@
 #include "platform/linux/DesktopFactsReader.h"
 
+#include "platform/linux/ApplicationService.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -53,17 +55,11 @@ std::optional<bool> isReachable(const QDBusConnection &bus, const QString &name)
     return call(bus, busQuestion(u"ListActivatableNames"_s), {}).arguments().value(0).toStringList().contains(name);
 }
 
-/// @return the object's path, which follows from the application's name
-QString objectPath(const QString &applicationName)
-{
-    return u'/' + QString(applicationName).replace(u'.', u'/').replace(u'-', u'_');
-}
-
 /// @return what an application tells of itself under the interface that has its name
 QVariantMap propertiesOf(const QDBusConnection &bus, const QString &applicationName)
 {
-    const QDBusMessage question = QDBusMessage::createMethodCall(applicationName, objectPath(applicationName),
-                                                                 u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s);
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        applicationName, applicationObjectPath(applicationName), u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s);
     const QDBusMessage answer = call(bus, question, {applicationName});
     return answer.type() == QDBusMessage::ReplyMessage ? qdbus_cast<QVariantMap>(answer.arguments().value(0))
                                                        : QVariantMap();
@@ -145,8 +141,8 @@ ActionResult activateAction(const QString &applicationName, const QString &actio
         return ActionResult::NoBus;
     if (hasOwner(bus, applicationName) != true)
         return ActionResult::NotRunning;
-    const QDBusMessage question = QDBusMessage::createMethodCall(applicationName, objectPath(applicationName),
-                                                                 u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        applicationName, applicationObjectPath(applicationName), u"org.freedesktop.Application"_s, u"ActivateAction"_s);
     const QDBusMessage answer = call(bus, question, {action, QVariantList(), QVariantMap()});
     return answer.type() == QDBusMessage::ReplyMessage ? ActionResult::Done : ActionResult::Failed;
 }

@@ -79,17 +79,8 @@ void TrayDock::requestSize()
 
 void TrayDock::requestDock(const XTray &tray)
 {
-    xcb_client_message_event_t request{};
-    request.response_type = XCB_CLIENT_MESSAGE;
-    request.format = 32;
-    request.window = tray.window;
-    request.type = m_screen.atom("_NET_SYSTEM_TRAY_OPCODE");
-    request.data.data32[0] = XCB_CURRENT_TIME;
-    request.data.data32[1] = systemTrayRequestDock;
-    request.data.data32[2] = m_window;
-    m_screen.ignoreOutcome(xcb_send_event_checked(m_screen.connection, 0, tray.window, XCB_EVENT_MASK_NO_EVENT,
-                                                  reinterpret_cast<const char *>(&request)));
-    xcb_flush(m_screen.connection);
+    m_screen.sendMessage(tray.window, m_screen.atom("_NET_SYSTEM_TRAY_OPCODE"),
+                         {XCB_CURRENT_TIME, systemTrayRequestDock, m_window}, XCB_EVENT_MASK_NO_EVENT);
 }
 
 bool TrayDock::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)

@@ -4,6 +4,8 @@
 
 #include <xcb/res.h>
 
+#include <algorithm>
+
 namespace tarvo {
 
 namespace {
@@ -93,6 +95,19 @@ quint32 XScreen::processOf(xcb_window_t window) const
         return 0;
     const auto ids = xcb_res_query_client_ids_ids_iterator(reply.get());
     return xcb_res_client_id_value_value_length(ids.data) > 0 ? *xcb_res_client_id_value_value(ids.data) : 0;
+}
+
+void XScreen::sendMessage(xcb_window_t window, xcb_atom_t type, const std::array<quint32, 5> &items,
+                          quint32 events) const
+{
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = type;
+    std::ranges::copy(items, message.data.data32);
+    ignoreOutcome(xcb_send_event_checked(connection, 0, window, events, reinterpret_cast<const char *>(&message)));
+    xcb_flush(connection);
 }
 
 void XScreen::ignoreOutcome(xcb_void_cookie_t request) const

@@ -5,6 +5,7 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -39,6 +40,10 @@ struct XScreen {
     std::optional<QRect> visibleFrame(xcb_window_t window) const;
     /// @return the process on this machine that created @p window; 0 when it is not known
     quint32 processOf(xcb_window_t window) const;
+
+    /// Sends @p window a client message of 32-bit items, by way of those that listen to @p events of it; its own creator
+    /// when that is none. Nothing comes of it when there is no such window
+    void sendMessage(xcb_window_t window, xcb_atom_t type, const std::array<quint32, 5> &items, quint32 events) const;
 
     /// Forgets how a request ends, so that its failure is reported nowhere.
     void ignoreOutcome(xcb_void_cookie_t request) const;

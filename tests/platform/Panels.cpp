@@ -52,16 +52,8 @@ void takeTraySelection(QWindow &window)
     const xcb_atom_t selection = screen.atom("_NET_SYSTEM_TRAY_S0");
     const auto owner = static_cast<xcb_window_t>(window.winId());
     xcb_set_selection_owner(screen.connection, owner, selection, XCB_CURRENT_TIME);
-    xcb_client_message_event_t announcement{};
-    announcement.response_type = XCB_CLIENT_MESSAGE;
-    announcement.format = 32;
-    announcement.window = screen.root;
-    announcement.type = screen.atom("MANAGER");
-    announcement.data.data32[1] = selection;
-    announcement.data.data32[2] = owner;
-    xcb_send_event(screen.connection, 0, screen.root, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
-                   reinterpret_cast<const char *>(&announcement));
-    xcb_flush(screen.connection);
+    screen.sendMessage(screen.root, screen.atom("MANAGER"), {XCB_CURRENT_TIME, selection, owner},
+                       XCB_EVENT_MASK_STRUCTURE_NOTIFY);
 }
 
 std::unique_ptr<Program> startTray(int size)
