@@ -18,6 +18,13 @@ def ip(*commands, prefix=()):
     subprocess.run([*prefix, "ip", "-batch", "-"], input="\n".join(commands), text=True, check=True)
 
 
+def remove_links():
+    """Takes every link of this namespace away, at once: where a modem's namespace ends, its links go only some time later."""
+    for one in json.loads(subprocess.check_output(["ip", "-json", "link"])):
+        if one["ifname"] != "lo":
+            subprocess.run(["ip", "link", "del", one["ifname"]], stderr=subprocess.DEVNULL, check=False)
+
+
 def write(path, text):
     path.parent.mkdir(parents=True, exist_ok=True)
     path.write_text(text)

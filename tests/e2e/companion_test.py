@@ -4,7 +4,6 @@ Usage: companion_test.py [unittest options] PROGRAM MODEM_SIMULATOR
 Exit status 77: no network namespaces can be made here.
 """
 
-import json
 import os
 import pathlib
 import plistlib
@@ -18,7 +17,7 @@ import time
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "simulator"))
-from plugged_modem import VENDOR, Modem, UsbDevices, enter_namespace, ip, write  # noqa: E402
+from plugged_modem import VENDOR, Modem, UsbDevices, enter_namespace, ip, remove_links, write  # noqa: E402
 
 CONFIG = {"device_info": {"vendor_ids": [str(VENDOR)]}, "AddRefererIntoHttpHeader": True,
           "IsDisplayNetStatusInToolBar": True, "NeedDisplayWhenDeviceRemoved": True}
@@ -37,6 +36,7 @@ class Companion(unittest.TestCase):
         self.usb = UsbDevices(self.folder / "devices")
         write(self.folder / "config/tarvo/Config.plist", plistlib.dumps(self.settings).decode())
         self.modem = Modem(self, "192.168.8")
+        self.addCleanup(remove_links)
         self.start_program()
 
     def open_bus(self):
@@ -71,9 +71,6 @@ class Companion(unittest.TestCase):
     def tearDown(self):
         self.assertIsNone(self.program.poll(), "the program ended by itself")
         self.quit()
-        for one in json.loads(subprocess.check_output(["ip", "-json", "link"])):
-            if one["ifname"] != "lo":
-                subprocess.run(["ip", "link", "del", one["ifname"]], stderr=subprocess.DEVNULL, check=False)
 
     def quit(self):
         """SIGTERM, however often, ends the program, long before a request or a bus that gives no answer would."""

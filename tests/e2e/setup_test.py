@@ -31,6 +31,7 @@ class SetupTest(companion_test.Companion):
         self.config = self.folder / "config/tarvo/Config.plist"
         self.usb = UsbDevices(self.folder / "devices")
         self.modem = Modem(self, "192.168.8")
+        self.addCleanup(plugged_modem.remove_links)
 
     def tearDown(self):
         pass  # not every test starts the companion
