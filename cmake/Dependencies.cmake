@@ -26,11 +26,11 @@ find_package(Threads REQUIRED)
 if(TARVO_BUILD_TESTS OR TARVO_BUILD_DEMO)
   # The simulated modem's web server.
   find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
+  # Waits that run the event loop, and pointer events, in the demo's tour and in the tests of windows.
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
 
 if(TARVO_BUILD_TESTS)
-  # Waits that run the event loop, and pointer events, in the tests of windows.
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   # The test framework.
   find_package(GTest REQUIRED)
   # USB devices that are not there, beside real network interfaces.

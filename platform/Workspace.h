@@ -21,7 +21,7 @@ public:
     virtual void addSleepObserver(Handler willSleep, Handler didWake) = 0;
 
     /// Hands @p url to the desktop's handler.
-    /// @param failed  called once when it is no valid URL or nothing opened it: before this returns, or some seconds
+    /// @param failed  called once when it is no whole URL or nothing opened it: before this returns, or some seconds
     ///                later, but not after the workspace is gone. Never called when the page opened
     virtual void openURL(const QUrl &url, Handler failed) = 0;
 

@@ -14,7 +14,7 @@ void SimulatedWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 
 void SimulatedWorkspace::openURL(const QUrl &url, Handler failed)
 {
-    if (!url.isValid()) {
+    if (!url.isValid() || url.isRelative()) {
         failed();
         return;
     }

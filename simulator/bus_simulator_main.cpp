@@ -2,10 +2,9 @@
 
 #include <QCoreApplication>
 #include <QDBusMessage>
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QSocketNotifier>
-#include <QThread>
+#include <QTest>
 
 #include <unistd.h>
 
@@ -23,13 +22,7 @@ constexpr auto patience = 10s;
 
 bool becomes(const std::function<bool()> &condition)
 {
-    for (const QDeadlineTimer end(patience); !condition();) {
-        if (end.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents);
-        QThread::msleep(1);
-    }
-    return true;
+    return QTest::qWaitFor(condition, static_cast<int>(std::chrono::milliseconds(patience).count()));
 }
 
 /// Puts the machine to sleep as logind does: when the lock to delay it has been given back.

@@ -119,15 +119,10 @@ void WebPages::openPage(const QString &page)
     const auto address = withRouter(page);
     if (!address)
         return;
-    const QUrl url(*address, QUrl::StrictMode);
-    const auto failed = [told = std::weak_ptr(m_couldNotOpen), page = *address] {
+    m_workspace.openURL(QUrl(*address, QUrl::StrictMode), [told = std::weak_ptr(m_couldNotOpen), page = *address] {
         if (const auto tell = told.lock())
             (*tell)(page);
-    };
-    if (url.isValid() && !url.isRelative())
-        m_workspace.openURL(url, failed);
-    else
-        failed();
+    });
 }
 
 void WebPages::openPageFor(const Work &work, const QString &page)

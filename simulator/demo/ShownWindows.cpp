@@ -1,14 +1,11 @@
 #include "simulator/demo/ShownWindows.h"
 
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QLabel>
-#include <QTimer>
+#include <QTest>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 QString balloonText()
 {
@@ -23,16 +20,7 @@ QString balloonText()
 
 bool eventually(const std::function<bool()> &condition, std::chrono::milliseconds limit)
 {
-    QElapsedTimer elapsed;
-    elapsed.start();
-    while (!condition()) {
-        if (elapsed.hasExpired(limit.count()))
-            return false;
-        QEventLoop loop;
-        QTimer::singleShot(20ms, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-    return true;
+    return QTest::qWaitFor(condition, static_cast<int>(limit.count()));
 }
 
 } // namespace tarvo

@@ -5,8 +5,8 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
+#include <QTest>
 
 #include <memory>
 
@@ -53,14 +53,7 @@ Services configured(Services services)
 
 bool eventually(const std::function<bool()> &condition)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition()) {
-        if (timer.hasExpired(10000))
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
-    return true;
+    return QTest::qWaitFor(condition, 10'000);
 }
 
 void configure(const QVariantMap &settings)
