@@ -6,7 +6,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Svg LinguistTools
 
 find_package(PkgConfig REQUIRED)
 
-# HTTP to the modem: timeouts, interruptible transfers, exact headers.
+# HTTP to the modem: timeouts, interruptible transfers, exact headers. Loaded when the first modem comes, not linked.
 find_package(CURL 7.88 REQUIRED)
 
 # RSA for the access-point profile files.

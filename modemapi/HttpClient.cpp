@@ -1,10 +1,10 @@
 #include "modemapi/HttpClient.h"
 
-#include <curl/curl.h>
+#include "modemapi/CurlLibrary.h"
+
 #include <sys/socket.h>
 
 #include <algorithm>
-#include <mutex>
 #include <stdexcept>
 #include <utility>
 
@@ -16,30 +16,29 @@ namespace {
 
 constexpr int maximumRedirects = 5;
 
+const CurlLibrary &curl()
+{
+    return CurlLibrary::shared();
+}
+
 struct EasyDeleter {
-    void operator()(CURL *handle) const { curl_easy_cleanup(handle); }
+    void operator()(CURL *handle) const { curl().easy_cleanup(handle); }
 };
 struct MultiDeleter {
-    void operator()(CURLM *handle) const { curl_multi_cleanup(handle); }
+    void operator()(CURLM *handle) const { curl().multi_cleanup(handle); }
 };
 struct ListDeleter {
-    void operator()(curl_slist *list) const { curl_slist_free_all(list); }
+    void operator()(curl_slist *list) const { curl().slist_free_all(list); }
 };
 using HeaderList = std::unique_ptr<curl_slist, ListDeleter>;
 
-void initialiseLibrary()
-{
-    static std::once_flag once;
-    std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
-}
-
 HeaderList headerList(const QList<QByteArray> &lines)
 {
-    HeaderList list(curl_slist_append(nullptr, "Expect:"));
+    HeaderList list(curl().slist_append(nullptr, "Expect:"));
     for (const QByteArray &line : lines) {
         if (line.contains('\r') || line.contains('\n'))
             continue; // would smuggle in further lines
-        if (curl_slist *longer = curl_slist_append(list.get(), line.constData())) {
+        if (curl_slist *longer = curl().slist_append(list.get(), line.constData())) {
             static_cast<void>(list.release());
             list.reset(longer);
         }
@@ -110,11 +109,11 @@ QByteArray requestTarget(const QUrl &url)
 /// The handles of one client: an easy handle for the exchange, driven by a multi handle that another thread may wake.
 class HttpClient::Transfer {
 public:
+    /// @throws std::runtime_error when there is no libcurl
     Transfer()
+        : m_easy(curl().easy_init())
+        , m_multi(curl().multi_init())
     {
-        initialiseLibrary();
-        m_easy.reset(curl_easy_init());
-        m_multi.reset(curl_multi_init());
         if (!m_easy || !m_multi)
             throw std::bad_alloc();
     }
@@ -154,33 +153,33 @@ private:
         Receipt receipt;
         if (request.body || m_prepared != Prepared{url, request.headers})
             prepare(url, request);
-        curl_easy_setopt(m_easy.get(), CURLOPT_TIMEOUT_MS, static_cast<long>(left));
-        curl_easy_setopt(m_easy.get(), CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(left));
-        curl_easy_setopt(m_easy.get(), CURLOPT_SOCKOPTDATA, &request.prepareSocket);
-        curl_easy_setopt(m_easy.get(), CURLOPT_WRITEDATA, &receipt);
-        curl_easy_setopt(m_easy.get(), CURLOPT_HEADERDATA, &receipt);
+        curl().easy_setopt(m_easy.get(), CURLOPT_TIMEOUT_MS, static_cast<long>(left));
+        curl().easy_setopt(m_easy.get(), CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(left));
+        curl().easy_setopt(m_easy.get(), CURLOPT_SOCKOPTDATA, &request.prepareSocket);
+        curl().easy_setopt(m_easy.get(), CURLOPT_WRITEDATA, &receipt);
+        curl().easy_setopt(m_easy.get(), CURLOPT_HEADERDATA, &receipt);
         const CURLcode result = perform(stop);
         if (result != CURLE_OK)
-            return {{}, QString::fromUtf8(stop.stop_requested() ? "stopped" : curl_easy_strerror(result))};
+            return {{}, QString::fromUtf8(stop.stop_requested() ? "stopped" : curl().easy_strerror(result))};
         return {std::move(receipt.body), std::nullopt};
     }
 
     void prepare(const QUrl &url, const HttpRequest &request)
     {
         CURL *easy = m_easy.get();
-        curl_easy_reset(easy); // keeps the open connections
+        curl().easy_reset(easy); // keeps the open connections
         m_headers = headerList(request.headers);
-        curl_easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
-        curl_easy_setopt(easy, CURLOPT_REQUEST_TARGET, requestTarget(url).constData());
-        curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
-        curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-        curl_easy_setopt(easy, CURLOPT_PROXY, "");
-        curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
-        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
-        curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, openSocket);
-        curl_easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepareSocket);
-        curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, receiveBody);
-        curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, receiveHeaderLine);
+        curl().easy_setopt(easy, CURLOPT_URL, url.toEncoded().constData());
+        curl().easy_setopt(easy, CURLOPT_REQUEST_TARGET, requestTarget(url).constData());
+        curl().easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+        curl().easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+        curl().easy_setopt(easy, CURLOPT_PROXY, "");
+        curl().easy_setopt(easy, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_1));
+        curl().easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
+        curl().easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, openSocket);
+        curl().easy_setopt(easy, CURLOPT_SOCKOPTFUNCTION, prepareSocket);
+        curl().easy_setopt(easy, CURLOPT_WRITEFUNCTION, receiveBody);
+        curl().easy_setopt(easy, CURLOPT_HEADERFUNCTION, receiveHeaderLine);
         m_prepared.reset();
         if (request.body)
             preparePost(*request.body);
@@ -191,37 +190,37 @@ private:
     void preparePost(const QByteArray &body)
     {
         CURL *easy = m_easy.get();
-        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
-        curl_easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, body.constData());
-        curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
-        curl_easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
+        curl().easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
+        curl().easy_setopt(easy, CURLOPT_COPYPOSTFIELDS, body.constData());
+        curl().easy_setopt(easy, CURLOPT_FRESH_CONNECT, 1L);
+        curl().easy_setopt(easy, CURLOPT_FORBID_REUSE, 1L);
     }
 
     CURLcode perform(const std::stop_token &stop)
     {
-        curl_multi_add_handle(m_multi.get(), m_easy.get());
-        const std::stop_callback wake(stop, [this] { curl_multi_wakeup(m_multi.get()); });
+        curl().multi_add_handle(m_multi.get(), m_easy.get());
+        const std::stop_callback wake(stop, [this] { curl().multi_wakeup(m_multi.get()); });
         CURLMcode state = CURLM_OK;
         int running = 1;
         while (state == CURLM_OK && running > 0 && !stop.stop_requested()) {
-            state = curl_multi_perform(m_multi.get(), &running);
+            state = curl().multi_perform(m_multi.get(), &running);
             if (state == CURLM_OK && running > 0)
-                state = curl_multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(timeout.count()), nullptr);
+                state = curl().multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(timeout.count()), nullptr);
         }
         CURLcode result = CURLE_ABORTED_BY_CALLBACK;
         int queued = 0;
-        while (const CURLMsg *message = curl_multi_info_read(m_multi.get(), &queued)) {
+        while (const CURLMsg *message = curl().multi_info_read(m_multi.get(), &queued)) {
             if (message->msg == CURLMSG_DONE)
                 result = message->data.result;
         }
-        curl_multi_remove_handle(m_multi.get(), m_easy.get());
+        curl().multi_remove_handle(m_multi.get(), m_easy.get());
         return result;
     }
 
     std::optional<QUrl> redirectTarget() const
     {
         const char *target = nullptr;
-        curl_easy_getinfo(m_easy.get(), CURLINFO_REDIRECT_URL, &target);
+        curl().easy_getinfo(m_easy.get(), CURLINFO_REDIRECT_URL, &target);
         return target ? std::optional(QUrl::fromEncoded(target)) : std::nullopt;
     }
 
@@ -231,15 +230,18 @@ private:
     std::unique_ptr<CURLM, MultiDeleter> m_multi;
 };
 
-HttpClient::HttpClient()
-    : m_transfer(std::make_unique<Transfer>())
-{
-}
-
+HttpClient::HttpClient() = default;
 HttpClient::~HttpClient() = default;
 
 HttpAnswer HttpClient::exchange(const HttpRequest &request, std::stop_token stop)
 {
+    try {
+        if (!m_transfer)
+            m_transfer = std::make_unique<Transfer>();
+    } catch (const std::runtime_error &missing) {
+        qWarning("%s", missing.what());
+        return {{}, QString::fromLocal8Bit(missing.what())};
+    }
     return m_transfer->run(request, std::move(stop));
 }
 

@@ -38,7 +38,7 @@ public:
     static constexpr std::chrono::milliseconds timeout{5000}; ///< of one exchange, redirects included
     static constexpr qsizetype maximumAnswerSize{4 << 20}; ///< in bytes, heads and bodies together
 
-    /// Connects to nothing yet.
+    /// Neither connects to anything nor loads what it takes: the first exchange does.
     HttpClient();
     ~HttpClient();
     HttpClient(const HttpClient &) = delete;
@@ -51,7 +51,7 @@ public:
 private:
     class Transfer;
 
-    std::unique_ptr<Transfer> m_transfer;
+    std::unique_ptr<Transfer> m_transfer; ///< null until the first exchange
 };
 
 } // namespace tarvo

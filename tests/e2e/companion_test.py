@@ -104,6 +104,8 @@ class Companion(unittest.TestCase):
 
 class CompanionTest(Companion):
     def test_polls_once_a_second_until_unplugged_and_again_when_plugged_in(self):
+        loaded = pathlib.Path(f"/proc/{self.program.pid}/maps").read_text()
+        self.assertNotIn("libcurl", loaded, "nobody needs it yet")
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
         self.until(lambda: len(self.modem.polls()) >= 6)

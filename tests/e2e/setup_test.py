@@ -36,13 +36,13 @@ class SetupTest(companion_test.Companion):
     def tearDown(self):
         pass  # not every test starts the companion
 
-    def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent"):
+    def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent", libraries=""):
         nowhere = {name: str(self.folder / "nowhere") for name in ("XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS")}
         environment = nowhere | {
             "PATH": os.environ["PATH"], "HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.folder / "config"),
             "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root),
             "ASAN_OPTIONS": "verify_asan_link_order=0", "TSAN_OPTIONS": os.environ.get("TSAN_OPTIONS", ""),
-            "DBUS_SESSION_BUS_ADDRESS": bus}
+            "DBUS_SESSION_BUS_ADDRESS": bus, "LD_LIBRARY_PATH": libraries}
         run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
                              check=False)
         self.assertEqual(run.returncode, status, run.stdout)
@@ -97,6 +97,9 @@ class SetupTest(companion_test.Companion):
         self.setup_program("use", DEVICE)
         self.assertEqual(self.marks(status=1)["device"], "broken")
         self.modem.plug("enx1")
+        self.assertEqual(self.marks()["port"], "ok")
+        (self.folder / "libcurl.so.4").touch()
+        self.assertEqual(self.marks(status=1, libraries=str(self.folder))["port"], "broken", "a library that is none")
         self.modem.tell("fault refuse")
         self.assertEqual(self.marks(status=1)["port"], "broken")
         self.setup_program("exclude", DEVICE)
