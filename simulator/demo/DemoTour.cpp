@@ -85,8 +85,8 @@ void DemoTour::recognise()
     m_report.check(u"the modem was told that they are complete"_s, condition.apnReady);
     m_report.check(u"the modem refused nothing"_s, m_world.modem().refusals().isEmpty());
     m_report.check(u"no page was opened"_s, m_world.workspace().openedURLs().isEmpty());
-    m_report.check(u"the tool tip says: \"%1\""_s.arg(toolTip()),
-                   eventually([this] { return toolTip().startsWith(qtTrId("StatusConnected")); }));
+    const bool isConnected = eventually([this] { return toolTip().startsWith(qtTrId("StatusConnected")); });
+    m_report.check(u"the tool tip says: \"%1\""_s.arg(toolTip()), isConnected);
     m_report.takePicture(u"online"_s);
     seeStatusWindow();
     m_report.end();
