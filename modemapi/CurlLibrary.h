@@ -30,7 +30,7 @@ private:
     /// @throws std::runtime_error when the library has no such function
     Symbol find(const char *name) const;
 
-    void *const m_library;
+    void *const m_library; // before what is found in it
 
 public:
     decltype(&curl_easy_cleanup) easy_cleanup = find("curl_easy_cleanup");
