@@ -29,6 +29,7 @@ QString textOrNull(const std::optional<QString> &text)
 ModemClient::ModemClient(Work work, SystemLog &systemLog)
     : m_work(std::move(work))
     , m_systemLog(systemLog)
+    , m_statusPage(modemUrl(getNetInfoAddress()))
 {
 }
 
@@ -94,10 +95,9 @@ ModemClient::WebContent ModemClient::content(const QString &url)
 
 std::optional<QString> ModemClient::statusPage()
 {
-    const QString url = modemUrl(getNetInfoAddress());
-    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !parsed(url).isValid())
+    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !parsed(m_statusPage).isValid())
         return std::nullopt;
-    WebContent page = content(url);
+    WebContent page = content(m_statusPage);
     if (page.error)
         log(u"error: "_s + *page.error);
     else if (!page.text)

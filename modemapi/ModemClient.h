@@ -72,6 +72,7 @@ private:
 
     const Work m_work;
     SystemLog &m_systemLog;
+    const QString m_statusPage; ///< its URL, which is asked for each second
     HttpClient m_http;
     std::pair<QString, QUrl> m_parsed; ///< a URL's text, and the URL
 };

@@ -13,9 +13,13 @@ Clock::TimePoint SteadyClock::now() const
 bool SteadyClock::waitUntil(TimePoint deadline, std::stop_token stop)
 {
     std::mutex mutex;
-    std::condition_variable_any wake;
+    std::condition_variable wake;
+    const std::stop_callback stopped(stop, [&] {
+        const std::scoped_lock lock(mutex);
+        wake.notify_one();
+    });
     std::unique_lock lock(mutex);
-    wake.wait_until(lock, stop, deadline, [] { return false; });
+    wake.wait_until(lock, deadline, [&] { return stop.stop_requested(); });
     return !stop.stop_requested();
 }
 
