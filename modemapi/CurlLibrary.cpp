@@ -14,7 +14,7 @@ constexpr auto libraryName = "libcurl.so.4"; ///< what has the interface of the 
 void *checked(void *found)
 {
     if (!found)
-        throw std::runtime_error(dlerror());
+        throw std::runtime_error(dlerror()); // NOLINT(concurrency-mt-unsafe): each thread has its own in glibc
     return found;
 }
 
