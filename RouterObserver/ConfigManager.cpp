@@ -191,6 +191,7 @@ bool boolValue(const std::optional<QVariant> &value)
     case QMetaType::QString:
         return textAsFlag(value->toString());
     case QMetaType::Bool:
+        return value->toBool();
     case QMetaType::Int:
     case QMetaType::LongLong:
     case QMetaType::Double:

@@ -164,7 +164,7 @@ def start_time(desktop, host, make):
     return (docked - begin) / 1e6
 
 
-def measure_start(build, runs=15):
+def measure_start(build, runs=41):
     with Surroundings(build) as desktop:
         host = Process(desktop, str(build / "bench/bench_tray_host"))
         assert host.line() == "ready"

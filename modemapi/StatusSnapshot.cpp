@@ -1,5 +1,7 @@
 #include "modemapi/StatusSnapshot.h"
 
+#include <utility>
+
 namespace tarvo {
 
 bool SharedSnapshot::update(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change)
@@ -7,7 +9,7 @@ bool SharedSnapshot::update(const Work &work, const std::function<void(StatusSna
     return work.whileAttached([&] {
         StatusSnapshot snapshot = m_snapshot.get();
         change(snapshot);
-        m_snapshot.set(snapshot);
+        m_snapshot.set(std::move(snapshot));
     });
 }
 

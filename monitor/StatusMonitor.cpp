@@ -41,15 +41,14 @@ StatusMonitor::StatusMonitor(Listeners listeners)
 /// the news sequence does to an amount meanwhile is of no concern to listeners.)
 void StatusMonitor::publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change)
 {
-    StatusSnapshot published;
-    bool changed = false;
+    std::optional<StatusSnapshot> changed;
     const bool attached = m_snapshot.update(work, [&](StatusSnapshot &snapshot) {
         change(snapshot);
-        published = snapshot;
-        changed = std::exchange(m_told, snapshot) != snapshot;
+        if (m_told != snapshot)
+            m_told = changed.emplace(snapshot);
     });
     if (attached && changed && m_listeners.changed)
-        m_listeners.changed(work, published);
+        m_listeners.changed(work, *changed);
 }
 
 void StatusMonitor::setAllStatusByUrlContents(const Work &work, const QString &content)
