@@ -1,7 +1,5 @@
 #include "modemapi/StatusSnapshot.h"
 
-#include <utility>
-
 namespace tarvo {
 
 bool SharedSnapshot::update(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change)
@@ -9,7 +7,7 @@ bool SharedSnapshot::update(const Work &work, const std::function<void(StatusSna
     return work.whileAttached([&] {
         StatusSnapshot snapshot = m_snapshot.get();
         change(snapshot);
-        m_snapshot.set(std::move(snapshot));
+        m_snapshot.set(snapshot);
     });
 }
 
