@@ -6,7 +6,7 @@ namespace tarvo {
 
 /// The functions of libcurl that are used, under its own names (libcurl(3)).
 ///
-/// Linked against, the library and the two dozen that it needs itself would make each start a third longer and stay in
+/// Linked against, the library and the two dozen that it needs itself would make each start a quarter longer and stay in
 /// memory without being used for as long as there is no modem.
 class CurlLibrary {
 public:

@@ -7,6 +7,9 @@
 
 namespace tarvo {
 
+/// @return whether @p url is valid and names all that it takes to open it: a scheme, and a host for a page on the web
+bool isWholeAddress(const QUrl &url);
+
 /// The user's desktop: sleep and wake of the machine, and its handlers for addresses and applications.
 /// Used on the main thread only; no operation blocks.
 class Workspace {
@@ -21,7 +24,7 @@ public:
     virtual void addSleepObserver(Handler willSleep, Handler didWake) = 0;
 
     /// Hands @p url to the desktop's handler.
-    /// @param failed  called once when it is no whole URL or nothing opened it: before this returns, or some seconds
+    /// @param failed  called once when it is no whole address or nothing opened it: before this returns, or some seconds
     ///                later, but not after the workspace is gone. Never called when the page opened
     virtual void openURL(const QUrl &url, Handler failed) = 0;
 

@@ -1,6 +1,7 @@
 #include "setup/SettingFindings.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "platform/Workspace.h"
 
 #include <QMetaType>
 #include <QUrl>
@@ -39,8 +40,7 @@ bool isRightType(SettingKind kind, const QVariant &value)
 
 bool isPage(QString page)
 {
-    const QUrl url(page.replace(u"%@"_s, u"192.0.2.1"_s), QUrl::StrictMode);
-    return url.isValid() && !url.isRelative() && (!url.scheme().startsWith(u"http") || !url.host().isEmpty());
+    return isWholeAddress(QUrl(page.replace(u"%@"_s, u"192.0.2.1"_s), QUrl::StrictMode));
 }
 
 bool isModemPath(const QString &path)

@@ -14,10 +14,8 @@ void SimulatedWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 
 void SimulatedWorkspace::openURL(const QUrl &url, Handler failed)
 {
-    if (!url.isValid() || url.isRelative()) {
-        failed();
-        return;
-    }
+    if (!isWholeAddress(url))
+        return failed();
     m_openedURLs.append(url);
     m_failed = std::move(failed);
     if (m_opener && !m_opener(url))

@@ -22,12 +22,6 @@ namespace {
 
 constexpr auto openerPatience = 15s;
 
-bool isComplete(const QUrl &url)
-{
-    const bool needsHost = url.scheme() == u"http" || url.scheme() == u"https";
-    return url.isValid() && !url.isRelative() && !(needsHost && url.host().isEmpty());
-}
-
 /// Starts @p program with @p url as its argument. On a desktop without an opener of its own it stays for as long as the
 /// browser that it has started, or is that browser: so it is left alone, and goes on when we end.
 /// @param listener  at whose end nothing is told any more
@@ -79,11 +73,13 @@ void LogindWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 
 void LogindWorkspace::openURL(const QUrl &url, Handler failed)
 {
+    if (!isWholeAddress(url))
+        return failed();
     closeDescriptorsOnExec();
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
-    if (isComplete(url) && !opener.isEmpty())
+    if (!opener.isEmpty())
         runOpener(opener, url, m_openings, failed);
-    else if (!isComplete(url) || !QDesktopServices::openUrl(url))
+    else if (!QDesktopServices::openUrl(url))
         failed();
 }
 

@@ -30,14 +30,18 @@ class Companion(unittest.TestCase):
     simulator = property(lambda self: sys.argv[2])
 
     def setUp(self):
+        self.make_computer()
+        write(self.folder / "config/tarvo/Config.plist", plistlib.dumps(self.settings).decode())
+        self.start_program()
+
+    def make_computer(self):
+        """A folder, made-up USB devices and a modem, of which nothing is left for the next test."""
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
         self.usb = UsbDevices(self.folder / "devices")
-        write(self.folder / "config/tarvo/Config.plist", plistlib.dumps(self.settings).decode())
         self.modem = Modem(self, "192.168.8")
         self.addCleanup(remove_links)
-        self.start_program()
 
     def open_bus(self):
         """A bus that says nothing. @return its address"""

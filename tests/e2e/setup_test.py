@@ -11,13 +11,12 @@ import socket
 import stat
 import subprocess
 import sys
-import tempfile
 import time
 import unittest
 
 import companion_test
 import plugged_modem
-from plugged_modem import Modem, UsbDevices
+from plugged_modem import Modem
 
 plugged_modem.VENDOR = 0x19D3  # not the example that the shipped settings name
 DEVICE = "19d3:5678"
@@ -25,13 +24,8 @@ DEVICE = "19d3:5678"
 
 class SetupTest(companion_test.Companion):
     def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = pathlib.Path(folder.name)
+        self.make_computer()
         self.config = self.folder / "config/tarvo/Config.plist"
-        self.usb = UsbDevices(self.folder / "devices")
-        self.modem = Modem(self, "192.168.8")
-        self.addCleanup(plugged_modem.remove_links)
 
     def tearDown(self):
         pass  # not every test starts the companion
