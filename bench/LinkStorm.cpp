@@ -136,7 +136,7 @@ public:
            "link set en5 up\nroute add default via 192.168.8.1"_s);
         m_store.emplace(m_log, m_leases);
         m_session = m_store->createSession(u"bench"_s, [](auto &, const auto &) {});
-        m_session->setNotificationPatterns({u".*"_s});
+        m_session->setNotificationPatterns({store::interfaceListKey, store::anyServiceIPv4Pattern});
     }
 
     void run()

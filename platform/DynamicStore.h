@@ -13,7 +13,8 @@ namespace tarvo {
 
 /// Keys of the store and names of the properties in its values.
 ///
-/// The state domain says what the network is like now; the setup domain says what is configured and in which order.
+/// The state domain says what the network is like now; the setup domain says what is configured and in which order. A
+/// pattern is a key with `[^/]+` for any name at one place.
 namespace store {
 
 using Qt::StringLiterals::operator""_s;
@@ -51,16 +52,16 @@ public:
     virtual ~DynamicStoreSession() = default;
 
     /// Asks for the session's callback whenever the value of a key that matches changes.
-    /// @param patterns regular expressions that must match the whole key; they replace earlier ones
+    /// @param patterns  keys, or patterns of keys; they replace earlier ones
     virtual void setNotificationPatterns(const QStringList &patterns) = 0;
 
     /// @return the value of @p key; nil when the store has no such key
     virtual std::optional<QVariantMap> copyValue(const QString &key) const = 0;
 
-    /// @return all entries whose whole key matches any of @p patterns
+    /// @return all entries whose keys match any of @p patterns
     virtual QMap<QString, QVariantMap> copyMultiple(const QStringList &patterns) const = 0;
 
-    /// @return the keys that match @p pattern whole, in the store's order
+    /// @return the keys that match @p pattern, in the store's order
     virtual QStringList copyKeyList(const QString &pattern) const = 0;
 };
 

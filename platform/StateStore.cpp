@@ -1,10 +1,7 @@
 #include "platform/StateStore.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <functional>
-#include <iterator>
 #include <utility>
 
 namespace tarvo {
@@ -27,66 +24,34 @@ QString serviceInterfaceSetupKey(const QString &serviceID)
 
 namespace {
 
-constexpr QStringView anyName = u"[^/]+";
+const QString anyName = u"[^/]+"_s;
 
-bool isSpecial(QChar character)
-{
-    return QStringView(u"\\^$.|?*+()[]{}").contains(character);
-}
-
-bool isPlain(QStringView text)
-{
-    return std::ranges::none_of(text, isSpecial);
-}
-
-/// Keys that a regular expression matches whole. A key matches itself, whatever its characters would mean in a pattern.
-///
-/// Nearly every pattern is a key, or one with any name at a place: an expression is compiled for the others only.
+/// A key, or one that has any name at one place.
 class KeyPattern {
 public:
     explicit KeyPattern(const QString &pattern)
-        : m_pattern(pattern)
-        , m_before(m_pattern.left(m_pattern.indexOf(anyName)))
-        , m_after(m_pattern.mid(m_before.size() + anyName.size()))
-        , m_isPlain(isPlain(m_before) && isPlain(m_after))
-        , m_expression(QRegularExpression::anchoredPattern(pattern))
+        : m_start(pattern.section(anyName, 0, 0))
+        , m_end(pattern.section(anyName, 1))
+        , m_isKey(!pattern.contains(anyName))
     {
     }
 
     /// @return text with which every key that matches begins
-    QStringView start() const
-    {
-        if (m_pattern.contains(u'|'))
-            return {};
-        const auto *const end = std::ranges::find_if(m_pattern, isSpecial);
-        const qsizetype length = std::distance(m_pattern.begin(), end);
-        const bool mayBeAbsent = end != m_pattern.end() && QStringView(u"?*{").contains(*end);
-        return QStringView(m_pattern).first(mayBeAbsent ? std::max<qsizetype>(length - 1, 0) : length);
-    }
+    const QString &start() const { return m_start; }
 
-    bool matches(const QString &key) const
+    bool matches(QStringView key) const
     {
-        if (key == m_pattern)
-            return true;
-        if (m_isPlain)
-            return hasName(key);
-        return m_expression.isValid() && m_expression.match(key).hasMatch();
+        if (m_isKey)
+            return key == m_start;
+        const qsizetype length = key.size() - m_start.size() - m_end.size();
+        return length > 0 && key.startsWith(m_start) && key.endsWith(m_end)
+            && !key.sliced(m_start.size(), length).contains(u'/');
     }
 
 private:
-    /// @return whether @p key has one name, and nothing else, where the pattern has any
-    bool hasName(QStringView key) const
-    {
-        const qsizetype length = key.size() - m_before.size() - m_after.size();
-        return m_before != m_pattern && length > 0 && key.startsWith(m_before) && key.endsWith(m_after)
-            && !key.sliced(m_before.size(), length).contains(u'/');
-    }
-
-    QString m_pattern;
-    QString m_before; ///< what comes before any name, the whole pattern when it has none
-    QString m_after;
-    bool m_isPlain;
-    QRegularExpression m_expression; ///< compiled by its first use
+    QString m_start;
+    QString m_end;
+    bool m_isKey;
 };
 
 bool matchesAny(const QList<KeyPattern> &patterns, const QString &key)
@@ -94,14 +59,13 @@ bool matchesAny(const QList<KeyPattern> &patterns, const QString &key)
     return std::ranges::any_of(patterns, [&](const auto &pattern) { return pattern.matches(key); });
 }
 
-/// Calls @p found with each entry whose whole key matches @p pattern, in key order. Looks only at the keys that begin
-/// like the pattern: most patterns are one key, or nearly so, in a state of thousands.
+/// Calls @p found with each entry whose key matches @p pattern, in key order. Looks only at the keys that begin like the
+/// pattern, in a state of thousands.
 void forEachMatch(const StateStore::Entries &entries, const KeyPattern &pattern,
                   const std::function<void(const QString &key, const QVariantMap &value)> &found)
 {
-    const QStringView start = pattern.start();
-    for (auto entry = entries.lowerBound(start.toString()); entry != entries.cend() && entry.key().startsWith(start);
-         ++entry) {
+    const QString &start = pattern.start();
+    for (auto entry = entries.lowerBound(start); entry != entries.cend() && entry.key().startsWith(start); ++entry) {
         if (pattern.matches(entry.key()))
             found(entry.key(), entry.value());
     }

@@ -32,7 +32,7 @@ public:
     /// Replaces the whole state, and tells of it in the same way.
     void replaceEntries(const Entries &entries);
 
-    /// Tells each session that asked for any of the keys that match @p pattern whole of the pattern itself, once and
+    /// Tells each session that asked for any of the keys that match @p pattern of the pattern itself, once and
     /// although nothing changed: who looks at several entries can then choose among them.
     void announce(const QString &pattern);
 

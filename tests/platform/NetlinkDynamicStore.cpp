@@ -59,7 +59,7 @@ protected:
            "addr add 192.168.8.100/24 dev en5\nlink set en5 up\nroute add default via 192.168.8.1"_s);
         m_store.emplace(m_log, m_leases);
         m_session = m_store->createSession(u"observer"_s, [this](auto &, const auto &keys) { m_told += keys; });
-        m_session->setNotificationPatterns({u".*"_s});
+        m_session->setNotificationPatterns({store::interfaceListKey, store::anyServiceIPv4Pattern});
     }
 
     QString router(const QString &name = u"en5"_s) const

@@ -21,21 +21,18 @@ QVariantMap value(int number)
 TEST(StateStore, PatternsMatchWholeKeys)
 {
     StateStore state;
-    const QStringList keys{u"a/b"_s, u"a/b+c"_s, u"a/bb"_s, u"a/bb/c"_s, u"x"_s};
-    state.replaceEntries({{keys[0], {}}, {keys[1], {}}, {keys[2], {}}, {keys[3], {}}, {keys[4], {}}});
+    for (const char *key : {"a/b", "a/b/c", "a/bb", "a/bb/c", "ab", "x"})
+        state.applyChanges({{QLatin1StringView(key), QVariantMap()}});
     const auto session = state.createSession(u"reader"_s, {});
 
     const std::pair<QString, QStringList> cases[]{
         {u"a/b"_s, {u"a/b"_s}},
-        {u"a/[^/]+"_s, {u"a/b"_s, u"a/b+c"_s, u"a/bb"_s}},
-        {u"a/bb?"_s, {u"a/b"_s, u"a/bb"_s}},
-        {u"a/bb*/c"_s, {u"a/bb/c"_s}},
-        {u"a/bb{0}"_s, {u"a/b"_s}},
-        {u"x|a/b"_s, {u"a/b"_s, u"x"_s}},
-        {u"a/b+c"_s, {u"a/b+c"_s}},
+        {u"a/[^/]+"_s, {u"a/b"_s, u"a/bb"_s}},
+        {u"a/[^/]+/c"_s, {u"a/b/c"_s, u"a/bb/c"_s}},
+        {u"a/b[^/]+"_s, {u"a/bb"_s}},
+        {u"[^/]+"_s, {u"ab"_s, u"x"_s}},
         {u"a"_s, {}},
-        {u"("_s, {}},
-        {u".*"_s, keys},
+        {u".*"_s, {}},
     };
     for (const auto &[pattern, expected] : cases)
         EXPECT_EQ(session->copyKeyList(pattern), expected) << pattern.toStdString();
@@ -47,14 +44,14 @@ TEST(StateStore, TellsEachChangedKeyOnceAndOnlyThose)
     state.replaceEntries({{u"k/1"_s, value(1)}, {u"k/2"_s, value(2)}, {u"k/3"_s, value(3)}});
     QList<QStringList> told;
     const auto session = state.createSession(u"observer"_s, [&](auto &, const auto &keys) { told.append(keys); });
-    session->setNotificationPatterns({u"k/.*"_s});
+    session->setNotificationPatterns({u"k/[^/]+"_s});
 
     state.replaceEntries({{u"k/1"_s, value(1)}, {u"k/2"_s, value(9)}, {u"k/4"_s, value(4)}, {u"other"_s, value(5)}});
     EXPECT_EQ(told, (QList<QStringList>{{u"k/2"_s}, {u"k/3"_s}, {u"k/4"_s}}));
 
     told.clear();
-    state.announce(u"k/[14]"_s);
-    EXPECT_EQ(told, QList<QStringList>{{u"k/[14]"_s}});
+    state.announce(u"k/[^/]+"_s);
+    EXPECT_EQ(told, QList<QStringList>{{u"k/[^/]+"_s}});
 }
 
 TEST(StateStore, ASessionMayBeClosedByItsOwnCallback)
@@ -66,7 +63,7 @@ TEST(StateStore, ASessionMayBeClosedByItsOwnCallback)
         ++calls;
         session.reset();
     });
-    session->setNotificationPatterns({u".*"_s});
+    session->setNotificationPatterns({u"[^/]+"_s});
     state.replaceEntries({{u"1"_s, value(1)}, {u"2"_s, value(2)}});
     EXPECT_EQ(calls, 1);
 }
