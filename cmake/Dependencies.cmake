@@ -34,7 +34,7 @@ if(TARVO_BUILD_TESTS)
   # The test framework.
   find_package(GTest REQUIRED)
   # USB devices that are not there, beside real network interfaces.
-  pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0)
+  pkg_check_modules(UMOCKDEV REQUIRED IMPORTED_TARGET umockdev-1.0 gio-2.0)
   find_program(UMOCKDEV_WRAPPER umockdev-wrapper REQUIRED)
   # The settings' service of the panel that hosts status items in the tests.
   find_program(XFCONFD xfconfd PATHS "/usr/lib/${CMAKE_LIBRARY_ARCHITECTURE}/xfce4/xfconf" REQUIRED)
