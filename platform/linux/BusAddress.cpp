@@ -1,5 +1,6 @@
 #include "platform/linux/BusAddress.h"
 
+#include <QFile>
 #include <QStringList>
 
 namespace tarvo {
@@ -24,7 +25,13 @@ QString systemBusAddress()
 QString sessionBusAddress()
 {
     return addressFrom("DBUS_SESSION_BUS_ADDRESS",
-                       u"unix:path=%1/bus"_s.arg(qEnvironmentVariable("XDG_RUNTIME_DIR", u"/nonexistent"_s)));
+                       addressOfSocket(qEnvironmentVariable("XDG_RUNTIME_DIR", u"/nonexistent"_s) + u"/bus"_s));
+}
+
+QString addressOfSocket(const QString &path)
+{
+    // Of what a URL may hold as it is, an address may not hold "~".
+    return u"unix:path="_s + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("/", "~"));
 }
 
 QList<QByteArray> unixSocketsOf(const QString &address)

@@ -14,6 +14,10 @@ QString systemBusAddress();
 ///         No bus is started for its sake.
 QString sessionBusAddress();
 
+/// @return the address of a bus whose Unix socket is at @p path. It is escaped as the D-Bus specification wants it ("Server
+///         Addresses"): a bus takes no other.
+QString addressOfSocket(const QString &path);
+
 /// @return the Unix sockets that @p address names, as a socket address holds them: a path, or a zero byte and an abstract
 ///         name. What is reached by other means than a Unix socket is left out.
 QList<QByteArray> unixSocketsOf(const QString &address);

@@ -15,12 +15,18 @@ import tempfile
 import threading
 import time
 import unittest
+import urllib.parse
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "simulator"))
 from plugged_modem import VENDOR, Modem, UsbDevices, enter_namespace, ip, remove_links, write  # noqa: E402
 
 CONFIG = {"device_info": {"vendor_ids": [str(VENDOR)]}, "AddRefererIntoHttpHeader": True,
           "IsDisplayNetStatusInToolBar": True, "NeedDisplayWhenDeviceRemoved": True}
+
+
+def bus_address(path):
+    """The address of the bus at a path, escaped as the D-Bus specification says."""
+    return "unix:path=" + urllib.parse.quote(str(path)).replace("~", "%7E")
 
 
 class Companion(unittest.TestCase):
@@ -49,7 +55,7 @@ class Companion(unittest.TestCase):
         self.addCleanup(mute_bus.close)
         mute_bus.bind(str(self.folder / "bus"))
         mute_bus.listen()
-        return f"unix:path={self.folder}/bus"
+        return bus_address(self.folder / "bus")
 
     def start_program(self, session_bus=None):
         bus = self.open_bus()

@@ -33,7 +33,7 @@ class Buses:
     """A message bus with a logind, for the system and the session, and somebody who calls the companion."""
 
     def __init__(self, test):
-        self.address = f"unix:path={test.folder}/bus"
+        self.address = companion_test.bus_address(test.folder / "bus")
         daemon = ["dbus-daemon", f"--config-file={BUS_SETTINGS}", "--nofork", "--print-address", f"--address={self.address}"]
         self.start(test, daemon)
         self.caller = self.start(test, [sys.argv[3], self.address])

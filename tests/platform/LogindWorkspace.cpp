@@ -1,5 +1,6 @@
 #include "platform/linux/LogindWorkspace.h"
 
+#include "platform/linux/BusAddress.h"
 #include "platform/linux/BusConnection.h"
 #include "simulator/RecordingLog.h"
 #include "simulator/SimulatedLogind.h"
@@ -42,8 +43,8 @@ protected:
         return waitFor([&] { return logind_->isLocked() == locked; });
     }
 
-    QTemporaryDir folder_;
-    const QString address_ = u"unix:path=%1/run/bus"_s.arg(folder_.path());
+    QTemporaryDir folder_{QDir::tempPath() + u"/a b+~\u00e9%-XXXXXX"_s};
+    const QString address_ = addressOfSocket(folder_.filePath(u"run/bus"_s));
     RecordingLog log_;
     BusConnection systemBus_{address_};
     std::unique_ptr<Program> bus_;
