@@ -223,6 +223,8 @@ int start(int argc, char **argv, SystemLog &systemLog)
     const SingleInstance instance(u"tarvo"_s);
     if (!instance.isOnly())
         return showRunningInstance();
+    if (const auto &problem = instance.problem())
+        systemLog.write(u"cannot tell whether another instance runs: "_s + *problem);
     return run(application, systemLog);
 }
 
