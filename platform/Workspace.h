@@ -10,7 +10,7 @@ namespace tarvo {
 /// @return whether @p url is valid and names all that it takes to open it: a scheme, and a host for a page on the web
 bool isWholeAddress(const QUrl &url);
 
-/// The user's desktop: sleep and wake of the machine, and its handlers for addresses and applications.
+/// The user's desktop: sleep and wake of the machine, who is in front of it, and its handlers for addresses and applications.
 /// Used on the main thread only; no operation blocks.
 class Workspace {
 public:
@@ -22,6 +22,10 @@ public:
     /// Calls @p willSleep before the machine sleeps, which waits until it returned, and @p didWake after it woke.
     /// Several observers are called in the order in which they came.
     virtual void addSleepObserver(Handler willSleep, Handler didWake) = 0;
+
+    /// Calls @p changed with false when the user's session is no longer the one that is looked at, as another user has come
+    /// to the screen, and with true when it is again. A session is active until something else is told.
+    virtual void addActivityObserver(std::function<void(bool active)> changed) = 0;
 
     /// Hands @p url to the desktop's handler.
     /// @param failed  called once when it is no whole address or nothing opened it: before this returns, or some seconds

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
 #include <QDBusVirtualObject>
 
+#include <optional>
+
 namespace tarvo {
 
-/// A logind on a bus of its own, which lends one lock at a time and never sleeps by itself.
+/// A logind on a bus of its own, with at most one session, which lends one lock at a time and never sleeps by itself.
 class SimulatedLogind final : public QDBusVirtualObject {
 public:
     /// @param ownsName  false makes a stranger, who can only pretend
@@ -15,6 +18,10 @@ public:
 
     /// Tells everybody on the bus that the machine is about to sleep, or has woken. Returns when the bus has passed it on.
     void prepareForSleep(bool sleeping);
+
+    /// Whether the caller's session is the one that is looked at; nil for no session, as there is none at first. Tells
+    /// everybody on the bus. Returns when the bus has passed it on.
+    void setSession(std::optional<bool> active);
 
     /// From now on no call is answered.
     void fallSilent() { m_silent = true; }
@@ -28,11 +35,14 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
+    QDBusMessage answerTo(const QDBusMessage &question);
     QDBusUnixFileDescriptor lendLock();
+    void tell(const QDBusMessage &signal);
 
     QDBusConnection m_bus;
     int m_lock = -1;
     int m_locksLent = 0;
+    std::optional<bool> m_active;
     bool m_silent = false;
 };
 

@@ -12,6 +12,11 @@ void SimulatedWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
     m_observers.emplace_back(std::move(willSleep), std::move(didWake));
 }
 
+void SimulatedWorkspace::addActivityObserver(std::function<void(bool active)> changed)
+{
+    m_activityObservers.push_back(std::move(changed));
+}
+
 void SimulatedWorkspace::openURL(const QUrl &url, Handler failed)
 {
     if (!isWholeAddress(url))
@@ -44,6 +49,12 @@ void SimulatedWorkspace::wake()
 {
     for (const auto &[willSleep, didWake] : m_observers)
         didWake();
+}
+
+void SimulatedWorkspace::setActive(bool active)
+{
+    for (const auto &changed : m_activityObservers)
+        changed(active);
 }
 
 } // namespace tarvo

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -20,6 +21,7 @@ public:
     explicit SimulatedWorkspace(Opener opener = {});
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
+    void addActivityObserver(std::function<void(bool active)> changed) override;
     void openURL(const QUrl &url, Handler failed) override;
     bool launchApplication(const QString &path) override;
 
@@ -30,6 +32,9 @@ public:
     /// Tells the observers that the machine has woken.
     void wake();
 
+    /// Tells the observers whether the user's session is the one that is looked at.
+    void setActive(bool active);
+
     // The valid addresses and the paths that were asked for, the oldest first.
     const QList<QUrl> &openedURLs() const { return m_openedURLs; }
     const QStringList &launchedPaths() const { return m_launchedPaths; }
@@ -37,6 +42,7 @@ public:
 private:
     Opener m_opener;
     std::vector<std::pair<Handler, Handler>> m_observers;
+    std::vector<std::function<void(bool active)>> m_activityObservers;
     QList<QUrl> m_openedURLs;
     Handler m_failed; ///< of the last of them
     QStringList m_launchedPaths;

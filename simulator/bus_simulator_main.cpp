@@ -52,9 +52,12 @@ std::string carryOut(const std::string &command, tarvo::SimulatedLogind &logind,
         return timeToAnswer(bus);
     if (command == "sleep")
         return fallAsleep(logind) ? "ok" : "the lock was not taken, or not given back";
-    if (command != "wake")
+    if (command == "wake")
+        logind.prepareForSleep(false);
+    else if (command == "activate" || command == "deactivate")
+        logind.setSession(command == "activate");
+    else
         return "unknown command";
-    logind.prepareForSleep(false);
     return "ok";
 }
 
@@ -86,6 +89,7 @@ int main(int argc, char **argv)
         return serve(application, arguments.last());
     std::cerr << "Usage: tarvo-bus-simulator BUS-ADDRESS\n"
                  "Is logind on that bus. Lines that it reads from standard input, each of which it answers by one:\n"
-                 "sleep, wake, ask (after how many milliseconds the companion's main thread answers).\n";
+                 "sleep, wake, activate and deactivate (the user's session), ask (after how many milliseconds the "
+                 "companion's main thread answers).\n";
     return 1;
 }

@@ -63,12 +63,21 @@ LogindWorkspace::LogindWorkspace(BusConnection &systemBus, SystemLog &log)
             for (const auto &[willSleep, didWake] : m_observers)
                 didWake();
         })
+    , m_session(systemBus, [this](bool active) {
+        for (const auto &changed : m_activityObservers)
+            changed(active);
+    })
 {
 }
 
 void LogindWorkspace::addSleepObserver(Handler willSleep, Handler didWake)
 {
     m_observers.emplace_back(std::move(willSleep), std::move(didWake));
+}
+
+void LogindWorkspace::addActivityObserver(std::function<void(bool active)> changed)
+{
+    m_activityObservers.push_back(std::move(changed));
 }
 
 void LogindWorkspace::openURL(const QUrl &url, Handler failed)

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "platform/Workspace.h"
+#include "platform/linux/LogindSession.h"
 #include "platform/linux/LogindSleep.h"
 
 #include <QObject>
 
+#include <functional>
 #include <utility>
 #include <vector>
 
 namespace tarvo {
 
-/// The freedesktop.org desktop: sleep and wake from logind, addresses and applications through the desktop's handlers.
+/// The freedesktop.org desktop: sleep, wake and the active session from logind, addresses and applications through the desktop's handlers.
 ///
 /// Opening an address needs a QGuiApplication.
 class LogindWorkspace final : public Workspace {
@@ -19,6 +21,7 @@ public:
     LogindWorkspace(BusConnection &systemBus, SystemLog &log);
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
+    void addActivityObserver(std::function<void(bool active)> changed) override;
     /// Runs `xdg-open` of xdg-utils, whose exit status tells whether the page opened, and without it what Qt knows.
     void openURL(const QUrl &url, Handler failed) override;
     /// @param path  an executable file, which is started directly, or the desktop file of an application, which is
@@ -28,7 +31,9 @@ public:
 
 private:
     std::vector<std::pair<Handler, Handler>> m_observers;
+    std::vector<std::function<void(bool active)>> m_activityObservers;
     LogindSleep m_sleep;
+    LogindSession m_session;
     QObject m_openings; ///< hears what becomes of addresses that were handed over
 };
 

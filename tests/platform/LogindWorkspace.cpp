@@ -15,6 +15,8 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <optional>
+#include <vector>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -110,6 +112,38 @@ TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
     kill(bus_->process(), SIGCONT);
     EXPECT_TRUE(waitFor([&] { return logind_->prepareForSleep(true), !events_.isEmpty(); }));
     EXPECT_EQ(events_, (QStringList{u"late"_s, u"2"_s}));
+}
+
+TEST_F(LogindWorkspaceTest, FollowsWhetherTheSessionIsActive)
+{
+    QDir(folder_.path()).mkdir(u"run"_s);
+    startBus();
+    logind_ = std::make_unique<SimulatedLogind>(address_);
+    const auto workspace = startWorkspace();
+    QList<bool> told;
+    workspace->addActivityObserver([&](bool active) { told.append(active); });
+    ASSERT_TRUE(becomes(true));
+    EXPECT_EQ(told, QList<bool>()) << "without a session it is active";
+
+    logind_->setSession(true);
+    for (const auto &[session, all] :
+         std::vector<std::pair<std::optional<bool>, QList<bool>>>{{false, {false}},
+                                                                  {true, {false, true}},
+                                                                  {false, {false, true, false}},
+                                                                  {{}, {false, true, false, true}}}) {
+        logind_->setSession(session);
+        EXPECT_TRUE(waitFor([&, &expected = all] { return told == expected; })) << all.size();
+    }
+    logind_->setSession(false);
+    EXPECT_TRUE(waitFor([&] { return told.size() == 5; })) << "of a session that is new";
+    logind_.reset();
+    logind_ = std::make_unique<SimulatedLogind>(address_);
+    EXPECT_TRUE(waitFor([&] { return told.size() == 6; })) << "a logind that knows of none";
+    logind_->setSession(false);
+    EXPECT_TRUE(waitFor([&] { return told.size() == 7; }));
+    logind_.reset();
+    EXPECT_TRUE(waitFor([&] { return told.size() == 8; })) << "no logind";
+    EXPECT_TRUE(told.last());
 }
 
 TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOpen)
