@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
@@ -29,16 +31,24 @@ QByteArray escaped(char32_t character)
         return "\\r";
     case U'\t':
         return "\\t";
+    case U'\\':
+        return "\\\\";
     default:
-        return (character < 0x100 ? "\\x" : "\\u")
-            + QByteArray::number(static_cast<uint>(character), 16).rightJustified(character < 0x100 ? 2 : 4, '0');
+        break;
     }
+    const auto [start, digits] = character < 0x100 ? std::pair("\\x", 2)
+        : character < 0x10000                      ? std::pair("\\u", 4)
+                                                   : std::pair("\\U", 8);
+    return start + QByteArray::number(static_cast<uint>(character), 16).rightJustified(digits, '0');
 }
 
 bool needsEscape(char32_t character)
 {
+    if (character == U'\\')
+        return true;
     switch (QChar::category(character)) {
     case QChar::Other_Control:
+    case QChar::Other_Format:
     case QChar::Separator_Line:
     case QChar::Separator_Paragraph:
         return true;

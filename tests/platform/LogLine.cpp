@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 TEST(LogLine, IsOneLineWithoutThePassword)
 {
     const QList<std::pair<QString, QByteArray>> lines{
-        {u"50 % \u00e9 \\n"_s, "50 % \u00e9 \\n"},
+        {u"50 % \u00e9 \\n"_s, "50 % \u00e9 \\\\n"},
+        {u"\u202egpj\u2066 a\u200b\u00ad\ufeff\U000e0061"_s, R"(\u202egpj\u2066 a\u200b\xad\ufeff\U000e0061)"},
         {u"a\nb\r\t\u001b[1m\u0085\u2028\U0001f600"_s, "a\\nb\\r\\t\\x1b[1m\\x85\\u2028\U0001f600"},
         {uR"(default_apn: {"password":"a\"b","u":"x"})"_s, R"(default_apn: {"password":"…","u":"x"})"},
         {uR"(default_apn: {"password" : 1234,"u":"x"})"_s, R"(default_apn: {"password" : "…","u":"x"})"},
