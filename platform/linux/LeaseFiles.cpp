@@ -62,6 +62,7 @@ Lease parseLease(const QByteArray &contents)
 LeaseFiles::LeaseFiles(const QString &root)
     : m_folders{root + u"/systemd/netif/leases"_s, root + u"/NetworkManager/devices"_s}
 {
+    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_watcher, [this] { m_changed(); });
 }
 
 quint32 LeaseFiles::gateway(int interfaceIndex, const HasAddress &hasAddress) const
@@ -77,18 +78,14 @@ quint32 LeaseFiles::gateway(int interfaceIndex, const HasAddress &hasAddress) co
 void LeaseFiles::watch(std::function<void()> changed)
 {
     m_changed = std::move(changed);
+    const QStringList watched = m_watcher.directories();
     if (!m_changed) {
-        m_watcher.reset();
+        if (!watched.isEmpty())
+            m_watcher.removePaths(watched);
         return;
     }
-    if (!m_watcher) {
-        m_watcher = std::make_unique<QFileSystemWatcher>();
-        QObject::connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, m_watcher.get(),
-                         [this] { m_changed(); });
-    }
-    const QStringList watched = m_watcher->directories();
     for (const QString &folder : std::as_const(m_folders)) {
-        if (!watched.contains(folder) && QFileInfo::exists(folder) && m_watcher->addPath(folder))
+        if (!watched.contains(folder) && QFileInfo::exists(folder) && m_watcher.addPath(folder))
             m_changed();
     }
 }

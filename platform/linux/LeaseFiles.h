@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <memory>
+#include <functional>
 
 namespace tarvo {
 
@@ -40,7 +40,7 @@ public:
 private:
     QStringList m_folders;
     std::function<void()> m_changed;
-    std::unique_ptr<QFileSystemWatcher> m_watcher; ///< null while nobody wants it
+    QFileSystemWatcher m_watcher; ///< stays, as the kernel takes long to end one
 };
 
 } // namespace tarvo

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -46,6 +47,19 @@ bool enterOwnNetwork()
         return false;
     QFile asRoot(u"/proc/self/uid_map"_s);
     return asRoot.open(QIODevice::WriteOnly) && asRoot.write(map) == map.size();
+}
+
+/// @return what the kernel tells of each inotify instance of this process, with a line for each path that it watches
+QStringList inotifyInstances()
+{
+    QStringList instances;
+    const QFileInfoList descriptors = QDir(u"/proc/self/fd"_s).entryInfoList(QDir::Files | QDir::System);
+    for (const QFileInfo &descriptor : descriptors) {
+        QFile facts(u"/proc/self/fdinfo/"_s + descriptor.fileName());
+        if (descriptor.symLinkTarget().contains(u"inotify") && facts.open(QIODevice::ReadOnly))
+            instances.append(QString::fromLatin1(facts.readAll()));
+    }
+    return instances;
 }
 
 /// A store in a network namespace of its own, in which en5 has the peer far5.
@@ -147,8 +161,12 @@ TEST_F(NetlinkDynamicStoreTest, FindsTheGatewayOfALeaseWhereThereIsNoRoute)
     writeLease(u"NetworkManager/devices"_s, "[dhcp4]\ndhcp4.ip_address=192.168.8.100\ndhcp4.routers=192.168.8.5\n");
     ip(u"link set en5 mtu 1400"_s);
     EXPECT_TRUE(becomes(u"192.168.8.5"_s)) << "in a folder that came later, with the next event";
+    const QStringList watchers = inotifyInstances();
+    EXPECT_FALSE(watchers.filter(u"inotify wd:"_s).isEmpty());
     ip(u"route add default via 192.168.8.1"_s);
     EXPECT_TRUE(becomes(u"192.168.8.1"_s));
+    EXPECT_EQ(inotifyInstances().size(), watchers.size()) << "to end one takes the kernel long";
+    EXPECT_TRUE(inotifyInstances().filter(u"inotify wd:"_s).isEmpty()) << "nothing is watched";
 }
 
 TEST_F(NetlinkDynamicStoreTest, TakesANameAwayBeforeAnotherLinkHasIt)
