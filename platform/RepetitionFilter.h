@@ -11,7 +11,7 @@ namespace tarvo {
 ///
 /// A line that is the one before is counted instead of written. So are rounds of up to eight lines, from the third time
 /// they come round. The count is told once a minute at most, or when another line comes; after a minute of silence
-/// every line is news. There is no timer: a count waits for the next line.
+/// every line is news. What is pending waits for the next line, or for `finish` to be called.
 class RepetitionFilter {
 public:
     using TimePoint = std::chrono::steady_clock::time_point;
@@ -19,8 +19,11 @@ public:
     /// @return what is to be written now that @p line is said
     QList<QByteArray> pass(const QByteArray &line, TimePoint now);
 
-    /// @return what is still to be written when nothing more will be said
+    /// @return what is still to be written when nothing more is said for a while, or ever
     QList<QByteArray> finish();
+
+    /// @return whether something is still to be written
+    bool isPending() const { return m_rounds > 0 || m_position > 0; }
 
 private:
     /// @return what is to be written now that the next line of a round came again

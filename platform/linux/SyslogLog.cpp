@@ -2,6 +2,8 @@
 
 #include "platform/LogLine.h"
 
+#include <utility>
+
 namespace tarvo {
 
 namespace {
@@ -18,9 +20,12 @@ void writeOrCount(const QByteArray &line, quint64 &lost, const Write &write)
 
 } // namespace
 
-SyslogLog::SyslogLog(const QByteArray &socketPath)
-    : m_syslog(socketPath)
+SyslogLog::SyslogLog(const QByteArray &socketPath, std::chrono::milliseconds patience)
+    : m_patience(patience)
+    , m_syslog(socketPath)
 {
+    m_silence.setSingleShot(true);
+    QObject::connect(&m_silence, &QTimer::timeout, &m_silence, [this] { tellWhatIsPending(); });
 }
 
 SyslogLog::~SyslogLog()
@@ -32,7 +37,23 @@ void SyslogLog::write(const QString &line)
 {
     const QByteArray bytes = logLine(line);
     const std::scoped_lock lock(m_mutex);
-    writeAll(m_repetitions.pass(bytes, std::chrono::steady_clock::now()));
+    m_lastSaid = std::chrono::steady_clock::now();
+    writeAll(m_repetitions.pass(bytes, m_lastSaid));
+    // Not at each line: the thread of the timer would wake up for it.
+    if (m_repetitions.isPending() && !std::exchange(m_awaitsSilence, true))
+        QMetaObject::invokeMethod(
+            &m_silence, [this] { m_silence.start(m_patience); }, Qt::QueuedConnection);
+}
+
+void SyslogLog::tellWhatIsPending()
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto silentFor = std::chrono::steady_clock::now() - m_lastSaid;
+    m_awaitsSilence = m_repetitions.isPending() && silentFor < m_patience;
+    if (m_awaitsSilence)
+        m_silence.start(std::chrono::ceil<std::chrono::milliseconds>(m_patience - silentFor));
+    else
+        writeAll(m_repetitions.finish());
 }
 
 void SyslogLog::writeAll(const QList<QByteArray> &lines)

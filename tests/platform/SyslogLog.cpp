@@ -1,5 +1,7 @@
 #include "platform/linux/SyslogLog.h"
 
+#include "tests/support/VirtualDesktop.h"
+
 #include <QTemporaryDir>
 
 #include <fcntl.h>
@@ -10,9 +12,12 @@
 #include <unistd.h>
 
 #include <array>
+#include <string>
+#include <thread>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -39,6 +44,22 @@ int listenAt(const QByteArray &path)
 }
 
 } // namespace
+
+TEST(SyslogLog, TellsWhatIsPendingAfterSomeSilence)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(u"log"_s).toUtf8();
+    const int syslog = listenAt(path);
+    SyslogLog log(path, 300ms);
+    std::string all;
+    const auto said = [&] { return all += drain(syslog); };
+    for (const char *const repeated : {"1 time", "2 times"}) {
+        std::thread([&] { log.write(u"poll"_s), log.write(u"poll"_s); }).join();
+        EXPECT_FALSE(said().ends_with(repeated));
+        EXPECT_TRUE(waitFor([&] { return said().ends_with(std::string("repeated ") + repeated); }));
+    }
+    close(syslog);
+}
 
 TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
 {
