@@ -51,6 +51,20 @@ float gigabytesOfBytes(float bytes)
     return static_cast<float>(static_cast<double>(bytes) * inverseStep * inverseStep * inverseStep);
 }
 
+/// @return @p gigabytes, unless no modem can have so many or so few
+float plausible(float gigabytes)
+{
+    constexpr float most = 1 << 30; // 2^60 bytes
+    return gigabytes >= 0 && gigabytes <= most ? gigabytes : unknownAmount;
+}
+
+float plausibleSum(float sentBytes, float receivedBytes)
+{
+    if (std::min(sentBytes, receivedBytes) < 0)
+        return unknownAmount;
+    return plausible(gigabytesOfBytes(sentBytes + receivedBytes));
+}
+
 bool isSpace(char character)
 {
     return QByteArrayView(" \t\n\v\f\r").contains(character);
@@ -105,20 +119,26 @@ std::optional<MonthlyUsage> monthlyUsage(const StatusFields &fields)
     const float limit = number(fields.monthlyLimit);
     const float limitBytes = bytesOfGigabytes(limit);
     const float threshold = number(fields.monthlyThreshold);
-    const float used = number(fields.monthlySent) + number(fields.monthlyReceived);
-    return MonthlyUsage{limit,
-                        gigabytesOfBytes(used),
-                        gigabytesOfBytes(limitBytes - used),
-                        used > bytesOfGigabytes(threshold),
-                        used > limitBytes,
-                        threshold};
+    const float sent = number(fields.monthlySent);
+    const float received = number(fields.monthlyReceived);
+    const float used = sent + received;
+    MonthlyUsage usage{.limit = plausible(limit),
+                       .used = plausibleSum(sent, received),
+                       .surplus = unknownAmount,
+                       .thresholdPassed = used > bytesOfGigabytes(threshold),
+                       .limitPassed = used > limitBytes,
+                       .threshold = plausible(threshold)};
+    if (usage.limit != unknownAmount && usage.used != unknownAmount)
+        usage.surplus = gigabytesOfBytes(limitBytes - used);
+    return usage;
 }
 
 ThreeDayUsage threeDayUsage(const StatusFields &fields)
 {
     const float limit = number(fields.threeDayLimit);
-    const float used = number(fields.threeDaySent) + number(fields.threeDayReceived);
-    return {limit, used > bytesOfGigabytes(limit), gigabytesOfBytes(used)};
+    const float sent = number(fields.threeDaySent);
+    const float received = number(fields.threeDayReceived);
+    return {plausible(limit), sent + received > bytesOfGigabytes(limit), plausibleSum(sent, received)};
 }
 
 } // namespace tarvo

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <limits>
 #include <optional>
 
 namespace tarvo {
@@ -28,6 +29,9 @@ struct StatusFields {
 /// Reads the fields from a status page: in the older style, and where that gives nothing or an empty text, in the JSON
 /// style.
 StatusFields readStatusFields(const QString &content);
+
+/// What stands for an amount that no modem can have: one that is below zero, no number, or above 2^60 bytes.
+inline constexpr float unknownAmount = std::numeric_limits<float>::infinity();
 
 /// Data used in a month against its limit and reminder threshold. Amounts in gigabytes of 2^30 bytes.
 struct MonthlyUsage {

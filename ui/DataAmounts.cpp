@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double gigabyte = 1024.0 * 1024.0 * 1024.0;
-constexpr double mostGigabytes = 1e9; // in bytes still far from the largest integer
+constexpr double mostGigabytes = 1 << 30;
 
 /// @return how many decimals leave @p number three digits
 int decimalsFor(double number)
@@ -34,11 +34,16 @@ double unitFor(double bytes)
 
 } // namespace
 
+bool isKnownAmount(double gigabytes)
+{
+    return std::abs(gigabytes) <= mostGigabytes;
+}
+
 QString dataAmount(double gigabytes)
 {
+    if (!isKnownAmount(gigabytes))
+        return u"–"_s;
     const QLocale locale;
-    if (!(std::abs(gigabytes) <= mostGigabytes))
-        return locale.toString(gigabytes, 'g', 3) + u" GB"_s;
     const double bytes = std::abs(gigabytes) * gigabyte;
     const double unit = unitFor(bytes);
     const int decimals = unit == 1 ? 0 : decimalsFor(bytes / unit);
@@ -48,8 +53,10 @@ QString dataAmount(double gigabytes)
 
 QString amountOfLimit(double used, double limit)
 {
-    if (!(limit > 0 && limit <= mostGigabytes && std::abs(used) <= mostGigabytes))
+    if (limit <= 0 || !isKnownAmount(used))
         return dataAmount(used);
+    if (!isKnownAmount(limit))
+        return qtTrId("AmountOfLimit").arg(dataAmount(used), dataAmount(limit));
     const double inUnitOfLimit = used * gigabyte / unitFor(limit * gigabyte);
     const QString number = QLocale().toString(inUnitOfLimit, 'f', decimalsFor(std::abs(inUnitOfLimit)));
     return qtTrId("AmountOfLimit").arg(number, dataAmount(limit));

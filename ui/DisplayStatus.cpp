@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
@@ -11,8 +13,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Puts @p amounts in the place of %1, %2; a text that lacks a placeholder is left without the amount.
+/// @return the text; empty when one of the amounts is not known
 QString withAmounts(QString text, std::initializer_list<float> amounts)
 {
+    if (!std::ranges::all_of(amounts, [](float amount) { return isKnownAmount(static_cast<double>(amount)); }))
+        return {};
     int number = 0;
     for (const float amount : amounts)
         text.replace(u'%' + QString::number(++number), dataAmount(static_cast<double>(amount)));
@@ -56,7 +61,8 @@ constexpr DataLimitNews dataLimitNews[] = {
 
 DisplayStatus shown(QStringView image, const QString &tip, bool seenBefore)
 {
-    return {.image = image.toString(), .tip = tip, .balloonText = seenBefore ? QString() : tip, .isNews = true};
+    return {
+        .image = image.toString(), .tip = tip, .balloonText = seenBefore ? QString() : tip, .isNews = !tip.isEmpty()};
 }
 
 DisplayStatus evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore)

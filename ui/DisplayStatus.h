@@ -28,7 +28,7 @@ struct DisplayStatus {
     QString balloonText{}; ///< what a balloon has to say now; empty for nothing
     bool announcesUpdate = false; ///< the update panel is due
 
-    bool isNews = false; ///< the news are there: this is what was shown before, next time
+    bool isNews = false; ///< the news are there, and can be told: this is what was shown before, next time
     std::optional<bool> clickOpensUpdatePage{}; ///< nil leaves that as it is, as the next
     std::optional<bool> clickOpensLimitPage{};
     /// The amount that remains, once an overrun has been told as such; nil leaves it as it is.

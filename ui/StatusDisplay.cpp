@@ -1,5 +1,6 @@
 #include "ui/StatusDisplay.h"
 
+#include "ui/DataAmounts.h"
 #include "ui/StatusIcon.h"
 #include "ui/WebPages.h"
 
@@ -38,8 +39,9 @@ void StatusDisplay::setSnapshot(const StatusSnapshot &snapshot, std::chrono::sec
 {
     CompanionStatus status = m_status;
     status.snapshot = snapshot;
-    if (snapshot.details.countsMonth)
-        m_usage.add(sincePlugIn, static_cast<double>(snapshot.m_useData));
+    const auto used = static_cast<double>(snapshot.m_useData);
+    if (snapshot.details.countsMonth && isKnownAmount(used))
+        m_usage.add(sincePlugIn, used);
     setStatus(status);
 }
 

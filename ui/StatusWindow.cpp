@@ -170,7 +170,8 @@ void StatusWindow::showAmounts(const CompanionStatus &status)
     const auto fill = [](const Amount &amount, const UsageBar::Amounts &amounts, bool known) {
         const QString text = known ? amountOfLimit(amounts.used, amounts.limit) : u"–"_s;
         amount.text->setText(text);
-        amount.bar->setAmounts(known ? amounts : UsageBar::Amounts(), text);
+        const auto shown = [&](double value) { return known && isKnownAmount(value) ? value : 0; };
+        amount.bar->setAmounts({shown(amounts.used), shown(amounts.reminder), shown(amounts.limit)}, text);
     };
     fill(m_month,
          {static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.details.reminderThreshold),

@@ -93,6 +93,24 @@ TEST(DataUsage, IsNotCountedWhileTheReminderIsOff)
     }
 }
 
+TEST(DataUsage, AmountsThatNoModemCanHaveAreUnknownAndTheFlagsStay)
+{
+    constexpr float none = unknownAmount;
+    const auto most = u"1152921504606846976"_s; // 2^60
+    const std::pair<StatusFields, MonthlyUsage> cases[] = {
+        {monthly(u"1"_s, u"1"_s, most, {}), {1, 1 << 30, 1 - float(1 << 30), true, true, 1}},
+        {monthly(u"1"_s, u"1"_s, most, most), {1, none, none, true, true, 1}},
+        {monthly(u"1"_s, u"1"_s, u"-1"_s, u"5e9"_s), {1, none, none, true, true, 1}},
+        {monthly(u"1"_s, u"1"_s, u"5e9"_s, u"-1"_s), {1, none, none, true, true, 1}},
+        {monthly(u"1e99"_s, u"1e99"_s, u"1e99"_s, {}), {none, none, none, false, false, none}},
+        {monthly(u"-1"_s, u"-1"_s, {}, {}), {none, 0, none, true, true, none}},
+        {monthly(u"1e99"_s, u"0"_s, {}, {}), {none, 0, none, false, false, 0}},
+    };
+    for (const auto &[fields, usage] : cases)
+        EXPECT_EQ(monthlyUsage(fields), usage) << fields.monthlyLimit->toStdString();
+    EXPECT_EQ(threeDayUsage({.threeDayLimit = u"-2"_s, .threeDaySent = u"-1"_s}), (ThreeDayUsage{none, true, none}));
+}
+
 TEST(DataUsage, ThreeDaysAreAlwaysCounted)
 {
     EXPECT_EQ(threeDayUsage({}), (ThreeDayUsage{0, false}));

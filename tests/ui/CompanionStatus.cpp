@@ -13,6 +13,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <limits>
+
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
@@ -60,7 +63,7 @@ TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
     for (const auto &[status, summary] : cases)
         EXPECT_EQ(summaryOf(status), summary);
     const InLanguage german{QLocale(QLocale::German)};
-    EXPECT_EQ(summaryOf(cases[10].first), u"Verbunden · 12,0 von 10,0 GB · Roaming aus"_s);
+    EXPECT_EQ(summaryOf(std::rbegin(cases)->first), u"Verbunden · 12,0 von 10,0 GB · Roaming aus"_s);
 }
 
 TEST(CompanionStatus, TheTipHoldsEachStandingNewsInALine)
@@ -72,6 +75,8 @@ TEST(CompanionStatus, TheTipHoldsEachStandingNewsInALine)
     EXPECT_EQ(tipOf(status),
               u"Connected\nNew firmware is available for your modem.\n"
               "You have used more than your monthly limit of 10.0 GB."_s);
+    status.snapshot.m_totalMonthData = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(tipOf(status), u"Connected\nNew firmware is available for your modem."_s) << "nothing that is not known";
     status.detection = Detection::NoModem;
     EXPECT_EQ(tipOf(status), u"No modem"_s);
 }

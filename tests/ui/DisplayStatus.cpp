@@ -56,8 +56,11 @@ TEST(DisplayStatus, WritesAmountsInTheUsersWay)
     for (const auto &[gigabytes, text] : cases)
         EXPECT_EQ(dataAmount(gigabytes), text);
     EXPECT_EQ(amountOfLimit(1.5, 0), u"1.50 GB"_s);
-    EXPECT_EQ(dataAmount(1e30), u"1E+30 GB"_s);
-    EXPECT_EQ(dataAmount(std::numeric_limits<double>::quiet_NaN()), u"nan GB"_s);
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(dataAmount(1 << 30), u"1.00 EB"_s);
+    for (const double unknown : {1.1 * (1 << 30), infinity, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(dataAmount(unknown), u"–"_s);
+    EXPECT_EQ(amountOfLimit(infinity, 1), u"–"_s);
     QLocale::setDefault(QLocale(QLocale::French));
     EXPECT_EQ(dataAmount(1.5), u"1,50 Go"_s);
     QLocale::setDefault(before);
