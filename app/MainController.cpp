@@ -47,7 +47,7 @@ MainController::MainController(Services services)
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
-               {.answered = [this](const Work &work, bool answered) { modemAnswered(work, answered); },
+               {.answered = [this](const Work &work, auto obstacle) { modemAnswered(work, obstacle); },
                 .pass = [this](ModemClient &client, const QString &page) { pass(client, page); }})
     , m_threads(m_services.systemLog)
 {
@@ -271,11 +271,11 @@ void MainController::pass(ModemClient &client, const QString &page)
     }
 }
 
-void MainController::modemAnswered(const Work &work, bool answered)
+void MainController::modemAnswered(const Work &work, std::optional<Obstacle> obstacle)
 {
-    if (answered)
+    if (!obstacle)
         m_device.noteAnswer();
-    m_monitor.noteAnswer(work, answered);
+    m_monitor.noteAnswer(work, obstacle);
 }
 
 void MainController::snapshotEvaluated(const Work &work)

@@ -89,7 +89,7 @@ private:
     void detect();
     /// The steps that follow each status page that came (polling worker).
     void pass(ModemClient &client, const QString &page);
-    void modemAnswered(const Work &work, bool answered);
+    void modemAnswered(const Work &work, std::optional<Obstacle> obstacle);
     void snapshotEvaluated(const Work &work);
     void resetForReadyDevice();
     void resetForStop();

@@ -148,7 +148,7 @@ def measure_run(build, idle_seconds=20, poll_seconds=60):
         polls, floor_polls = len(modem.polls()) - polls, len(other.polls()) - floor_polls
         yield Row("poll: processor time", cpu / polls, floor_cpu / floor_polls, goal=1.25, unit="ms")
         yield Row("poll: wake-ups", wake_ups / polls, goal=2.2)  # to send, and when the answer is there
-        yield Row("poll: connections to the modem", modem.connections(), goal=1)
+        yield Row("poll: connections to the modem", modem.connections(polls), goal=1)
         memory, floor_memory = ours.memory(), tray.memory()
         for kind, goal in (("RSS", 1.4), ("PSS", 1.35), ("USS", 1.2)):
             yield Row(f"memory while polling: {kind}", memory[kind], floor_memory[kind], goal, "KiB")

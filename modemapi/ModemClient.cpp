@@ -62,28 +62,32 @@ const QUrl &ModemClient::parsed(const QString &text)
     return m_parsed.second;
 }
 
-HttpAnswer ModemClient::exchange(const QString &url, const QList<QByteArray> &headers,
-                                 const std::optional<QByteArray> &body)
+const HttpAnswer &ModemClient::exchange(const QString &url, const QList<QByteArray> &headers,
+                                        const std::optional<QByteArray> &body, Afterwards afterwards)
 {
-    return m_http.exchange({parsed(url), headers, body, m_work.bindSocket()}, m_work.stopToken());
+    m_answer = m_http.exchange({parsed(url), headers, body, m_work.bindSocket(), afterwards}, m_work.stopToken());
+    return m_answer;
 }
 
 std::optional<QString> ModemClient::getContentFormRefererRequest(const QString &url, std::optional<QString> *)
 {
-    const HttpAnswer answer = exchange(url, {refererHeader(url)});
+    return contentWithReferer(url, Afterwards::KeepIfAffordable);
+}
+
+QString ModemClient::contentWithReferer(const QString &url, Afterwards afterwards)
+{
+    const HttpAnswer &answer = exchange(url, {refererHeader(url)}, std::nullopt, afterwards);
     if (answer.data.isEmpty())
         log(u"data is nil"_s);
-    return strictUtf8(answer.data, ByteOrderMark::Drop);
+    return utf8OrLatin1(answer.data);
 }
 
 ModemClient::WebContent ModemClient::plainContent(const QString &url)
 {
-    const HttpAnswer answer = exchange(url, {});
+    const HttpAnswer &answer = exchange(url, {});
     if (answer.error)
         return {std::nullopt, answer.error};
-    if (auto text = strictUtf8(answer.data, ByteOrderMark::Drop))
-        return {std::move(text), std::nullopt};
-    return {std::nullopt, u"the answer is no UTF-8"_s};
+    return {utf8OrLatin1(answer.data), std::nullopt};
 }
 
 ModemClient::WebContent ModemClient::content(const QString &url)
@@ -118,8 +122,10 @@ std::optional<QString> ModemClient::getWebRequestContent(const std::optional<QSt
 std::optional<QString> ModemClient::setWebRequestToServer(const QString &url, const QString &httpBody,
                                                           std::optional<QString> *errorBack)
 {
-    const auto session = getContentFormRefererRequest(
-        modemUrl(u"goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1"_s), nullptr);
+    // A modem that serves one connection at a time would not take the form's beside it.
+    const QString session =
+        contentWithReferer(modemUrl(u"goform/goform_get_cmd_process?cmd=cr_version,wa_inner_version,RD&multi_data=1"_s),
+                           Afterwards::Close);
     const auto crVersion = getModemInfoFromKeyForWeb5(u"cr_version\":"_s, session);
     const auto innerVersion = getModemInfoFromKeyForWeb5(u"wa_inner_version\":"_s, session);
     const auto rd = getModemInfoFromKeyForWeb5(u"RD\":"_s, session);
@@ -129,14 +135,14 @@ std::optional<QString> ModemClient::setWebRequestToServer(const QString &url, co
     }
 
     const QString token = sessionToken(innerVersion.value_or(QString()), crVersion.value_or(QString()), *rd);
-    const HttpAnswer answer =
+    const HttpAnswer &answer =
         exchange(url, {refererHeader(url), "Content-Type: application/x-www-form-urlencoded; charset=utf-8"},
-                 (httpBody + u"&AD="_s + token).toUtf8());
+                 (httpBody + u"&AD="_s + token).toUtf8(), Afterwards::Close);
     if (errorBack)
         *errorBack = answer.error;
     if (answer.data.isEmpty())
         log(u"data is nil"_s);
-    return strictUtf8(answer.data, ByteOrderMark::Drop);
+    return utf8OrLatin1(answer.data);
 }
 
 bool ModemClient::setWebRequestWithId(const std::optional<QString> &command)

@@ -2,6 +2,7 @@
 
 #include "attachment/Attachment.h"
 #include "modemapi/HttpClient.h"
+#include "modemapi/Obstacle.h"
 
 #include <QString>
 #include <QUrl>
@@ -13,7 +14,9 @@ namespace tarvo {
 
 class SystemLog;
 
-/// Asks one modem, over a connection of its own that is tied to the modem's interface.
+/// Asks one modem, over connections that are tied to the modem's interface.
+///
+/// Answers are read as UTF-8, or as ISO 8859-1 when they are no UTF-8.
 ///
 /// For one thread at a time; every request blocks that thread, for five seconds at most. When the work for the modem is
 /// over, requests end at once and nothing more is logged.
@@ -32,15 +35,17 @@ public:
 
     /// Fetches the status page in the configured way. @return its text; nil, with a line in the log, when there is none
     std::optional<QString> statusPage();
+    /// @return what stands in the way, given that the last answer was no status page; nothing else depends on it
+    Obstacle obstacle() const { return obstacleOf(m_answer); }
 
     /// Sends the set form @p httpBody, extended by the session token, to @p url.
     /// @param errorBack  set to the transport's error text; may be null
-    /// @return the answer; empty when nothing came back; nil when it is no UTF-8; a fixed failure text when the modem
-    ///         gives no session
+    /// @return the answer; empty when nothing came back; a fixed failure text when the modem gives no session; nil when
+    ///         there is no text, which does not happen at present
     std::optional<QString> setWebRequestToServer(const QString &url, const QString &httpBody,
                                                  std::optional<QString> *errorBack);
     /// Fetches @p url with itself as the "Referer" header. Errors are logged, never handed back in @p errorBack.
-    /// @return the answer; empty when nothing came back; nil when it is no UTF-8
+    /// @return the answer; empty when nothing came back; never nil at present
     std::optional<QString> getContentFormRefererRequest(const QString &url, std::optional<QString> *errorBack);
     /// Runs the get command @p command, which may carry further query parts.
     /// @return the answer; nil for a nil command or when there is no text
@@ -64,8 +69,11 @@ private:
 
     QString modemUrl(const QString &path) const;
     const QUrl &parsed(const QString &text);
-    HttpAnswer exchange(const QString &url, const QList<QByteArray> &headers,
-                        const std::optional<QByteArray> &body = std::nullopt);
+    /// @return the answer, until the next exchange
+    const HttpAnswer &exchange(const QString &url, const QList<QByteArray> &headers,
+                               const std::optional<QByteArray> &body = std::nullopt,
+                               Afterwards afterwards = Afterwards::KeepIfAffordable);
+    QString contentWithReferer(const QString &url, Afterwards afterwards);
     WebContent plainContent(const QString &url);
     /// Reads @p url with or without a "Referer", as the settings say.
     WebContent content(const QString &url);
@@ -74,6 +82,7 @@ private:
     SystemLog &m_systemLog;
     const QString m_statusPage; ///< its URL, which is asked for each second
     HttpClient m_http;
+    HttpAnswer m_answer; ///< the last one
     std::pair<QString, QUrl> m_parsed; ///< a URL's text, and the URL
 };
 

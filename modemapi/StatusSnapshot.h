@@ -2,6 +2,7 @@
 
 #include "attachment/Attachment.h"
 #include "attachment/Guarded.h"
+#include "modemapi/Obstacle.h"
 
 #include <functional>
 #include <optional>
@@ -52,7 +53,9 @@ struct StatusSnapshot {
     float m_totalMonthData = 0; ///< the monthly limit
     float m_totalThreeData = 0; ///< the three-day limit
 
-    std::optional<bool> answering{}; ///< false after two failed reads in a row; nil before the modem's first answer
+    /// Gives its status page: false after two failed reads in a row; nil before the first answer.
+    std::optional<bool> answering{};
+    std::optional<Obstacle> obstacle{}; ///< why not; nil unless `answering` is false
     ModemDetails details{};
 
     /// @return whether any data limit or reminder is passed

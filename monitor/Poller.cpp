@@ -81,7 +81,8 @@ void Poller::updateModemStatus(ModemClient &client)
     const std::optional<QString> page = client.statusPage();
     if (client.work().isOver())
         return;
-    m_steps.answered(client.work(), page && !page->isEmpty());
+    const bool isAnswered = page && !page->isEmpty();
+    m_steps.answered(client.work(), isAnswered ? std::nullopt : std::optional(client.obstacle()));
     if (page)
         m_steps.pass(client, *page);
 }

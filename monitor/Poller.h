@@ -1,6 +1,7 @@
 #pragma once
 
 #include "attachment/Attachment.h"
+#include "modemapi/Obstacle.h"
 #include "platform/Clock.h"
 
 #include <QObject>
@@ -9,6 +10,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tarvo {
 
@@ -21,8 +23,8 @@ class Poller {
 public:
     /// What follows a read of the page, on the worker.
     struct Steps {
-        /// Told whether there was an answer.
-        std::function<void(const Work &work, bool answered)> answered{};
+        /// Told what stood in the way of the status page; nil when it came.
+        std::function<void(const Work &work, std::optional<Obstacle> obstacle)> answered{};
         /// Runs when there was one, an empty one included where the settings let it pass.
         std::function<void(ModemClient &client, const QString &page)> pass{};
     };

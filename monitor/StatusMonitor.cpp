@@ -74,15 +74,15 @@ void StatusMonitor::evaluate(const Work &work, const QString &content)
     });
 }
 
-void StatusMonitor::noteAnswer(const Work &work, bool answered)
+void StatusMonitor::noteAnswer(const Work &work, std::optional<Obstacle> obstacle)
 {
     constexpr int failuresThatCount = 2;
     publish(work, [&](StatusSnapshot &snapshot) {
-        m_failures = answered ? 0 : m_failures + 1;
-        if (answered)
-            snapshot.answering = true;
-        else if (m_failures >= failuresThatCount)
-            snapshot.answering = false;
+        m_failures = obstacle ? m_failures + 1 : 0;
+        if (obstacle && m_failures < failuresThatCount)
+            return;
+        snapshot.answering = !obstacle;
+        snapshot.obstacle = obstacle;
     });
 }
 
@@ -117,6 +117,7 @@ void StatusMonitor::resetForReadyDevice()
     snapshot.haveNewVersionFlag_ = false;
     snapshot.haveDataLimitFlag_ = false;
     snapshot.answering.reset();
+    snapshot.obstacle.reset();
     m_snapshot.reset(snapshot);
     m_failures = 0;
 }

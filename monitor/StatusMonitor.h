@@ -28,8 +28,9 @@ public:
 
     /// Turns the status page @p content into the snapshot (polling worker).
     void setAllStatusByUrlContents(const Work &work, const QString &content);
-    /// The modem answered, or did not (polling worker). It counts as not answering after two failures in a row.
-    void noteAnswer(const Work &work, bool answered);
+    /// The modem gave its status page, or @p obstacle stood in the way (polling worker). It counts as not answering after
+    /// two failures in a row.
+    void noteAnswer(const Work &work, std::optional<Obstacle> obstacle);
     /// Keeps in `isAutoConnectOn_` whether @p dialMode means that the modem dials by itself. @return the same
     bool isAutoConnect(const Work &work, const std::optional<QString> &dialMode);
 

@@ -16,4 +16,10 @@ std::optional<QString> strictUtf8(QByteArrayView bytes, ByteOrderMark mark)
     return decoder.hasError() ? std::nullopt : std::optional(std::move(text));
 }
 
+QString utf8OrLatin1(QByteArrayView bytes)
+{
+    std::optional<QString> text = strictUtf8(bytes, ByteOrderMark::Drop);
+    return text ? *std::move(text) : QString::fromLatin1(bytes);
+}
+
 } // namespace tarvo

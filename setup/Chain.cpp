@@ -86,13 +86,25 @@ void addDevice(Chain &chain, const ChainFacts &facts)
     chain.add("gateway", !device.network.gateway.isEmpty(), gatewayAdvice(device));
 }
 
+UserText pageAdvice(std::optional<Obstacle> obstacle, const QString &gateway, const QString &page)
+{
+    if (obstacle == Obstacle::Busy)
+        return {"FixBusy", {gateway}};
+    if (obstacle == Obstacle::WantsPassword)
+        return {"FixPassword", {gateway}};
+    if (obstacle == Obstacle::WantsHttps)
+        return {"FixHttps", {gateway}};
+    return obstacle == Obstacle::OtherPage ? UserText{"FixOtherPage", {page}} : UserText{"FixNoPage", {page}};
+}
+
 void addModem(Chain &chain, const ChainFacts &facts)
 {
     const Device device = deviceToCheck(facts.devices).value_or(Device());
     const ModemFacts modem = facts.modem.value_or(ModemFacts());
     const auto told = [&](bool holds) { return facts.modem ? std::optional(holds) : std::nullopt; };
-    chain.add("port", told(modem.answers), {"FixNoAnswer", {device.network.gateway}});
-    chain.add("page", told(modem.hasPage), {"FixNoPage", {facts.statusPage}});
+    const bool isSilent = modem.obstacle == Obstacle::Silence;
+    chain.add("port", told(modem.answers), {isSilent ? "FixBusy" : "FixNoAnswer", {device.network.gateway}});
+    chain.add("page", told(modem.hasPage), pageAdvice(modem.obstacle, device.network.gateway, facts.statusPage));
     const bool needed = !chain.isBroken();
     chain.addBeside("connection", needed, told(modem.connection.has_value()), {"FixNoConnection", {facts.statusPage}});
     chain.addBeside("data", needed, told(modem.missingFields.isEmpty()),

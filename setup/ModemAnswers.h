@@ -1,5 +1,7 @@
 #pragma once
 
+#include "modemapi/Obstacle.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -11,11 +13,12 @@ namespace tarvo {
 /// What a gateway answered, as far as it tells a modem.
 struct ModemFacts {
     bool answers = false; ///< something serves HTTP there
-    bool hasPage = false; ///< the status page has text
+    bool hasPage = false; ///< the status page has fields of one
     std::optional<QString> connection{}; ///< the connection status; nil when the page has no such field
     QStringList missingFields{}; ///< of those about data and roaming
     bool takesCommands = false; ///< a get command brought a field
     std::optional<bool> givesSession{}; ///< nil when it was not asked for one
+    std::optional<Obstacle> obstacle{}; ///< what stands in the way of the status page; nil when it has fields
 
     bool operator==(const ModemFacts &) const = default;
 
@@ -28,6 +31,9 @@ QString statusPagePath(const QVariantMap &settings);
 
 /// @return the connection status in @p page, read as @p settings say; nil when there is none
 std::optional<QString> connectionStatus(const QString &page, const QVariantMap &settings);
+
+/// @return whether @p page has any field of a status page, read as @p settings say
+bool hasStatusFields(const QString &page, const QVariantMap &settings);
 
 /// @return the fields about data and roaming that @p page does not have in either style
 QStringList missingDataFields(const QString &page);

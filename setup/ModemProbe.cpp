@@ -3,8 +3,7 @@
 #include "RouterObserver/ConfigManager.h"
 #include "modemapi/AnswerFields.h"
 #include "modemapi/HttpClient.h"
-
-#include <QStringDecoder>
+#include "platform/StrictUtf8.h"
 
 namespace tarvo {
 
@@ -23,23 +22,19 @@ public:
     {
     }
 
-    /// @return whether anything came, its text aside
-    bool fetch(const QString &path, Referer referer = Referer::AsConfigured)
+    void fetch(const QString &path, Referer referer = Referer::AsConfigured)
     {
         const QString url = u"http://%1/%2"_s.arg(m_question.gateway, path);
-        HttpRequest request{.url = QUrl(url), .headers = {}, .body = {}, .prepareSocket = m_question.prepareSocket};
+        HttpRequest request{.url = QUrl(url),
+                            .headers = {},
+                            .body = {},
+                            .prepareSocket = m_question.prepareSocket,
+                            .afterwards = Afterwards::Close};
         if (referer == Referer::Send || boolValue(m_question.settings.value(u"AddRefererIntoHttpHeader"_s)))
             request.headers.append("Referer: " + url.toUtf8());
-        const HttpAnswer answer = m_client.exchange(request, m_stop);
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-        m_text = decoder(answer.data);
-        if (decoder.hasError())
-            m_text.clear();
-        return !answer.error;
+        m_answer = m_client.exchange(request, m_stop);
+        m_text = utf8OrLatin1(m_answer.data);
     }
-
-    /// @return the text that came last; empty when it was none
-    const QString &text() const { return m_text; }
 
     std::optional<QString> command(const QString &names, const QString &field, Referer referer = Referer::AsConfigured)
     {
@@ -50,8 +45,11 @@ public:
     ModemFacts askForPage()
     {
         ModemFacts facts;
-        facts.answers = fetch(statusPagePath(m_question.settings));
-        facts.hasPage = !m_text.trimmed().isEmpty();
+        fetch(statusPagePath(m_question.settings));
+        facts.answers = m_answer.status != 0;
+        facts.hasPage = hasStatusFields(m_text, m_question.settings);
+        if (!facts.hasPage)
+            facts.obstacle = obstacleOf(m_answer);
         facts.connection = connectionStatus(m_text, m_question.settings);
         facts.missingFields = missingDataFields(m_text);
         if (facts.hasPage)
@@ -63,7 +61,8 @@ private:
     const ModemQuestion &m_question;
     const std::stop_token &m_stop;
     HttpClient m_client;
-    QString m_text;
+    HttpAnswer m_answer; ///< the last one
+    QString m_text; ///< its text; empty when it has none
 };
 
 } // namespace

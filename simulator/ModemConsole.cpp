@@ -79,11 +79,11 @@ QString setFault(ModemServer &server, const QString &words)
     const auto kind = faultKind(name.section(u'=', 0, 0));
     if (!kind)
         return u"unknown fault"_s;
-    ModemFault fault{.kind = *kind, .part = words.section(u' ', 1).toUtf8(), .location = "/redirected"};
+    ModemFault fault{.kind = *kind, .part = words.section(u' ', 1).toUtf8(), .text = "/redirected"};
     if (fault.kind == FaultKind::SlowAnswer && !detail.isEmpty())
         fault.delay = std::chrono::milliseconds(detail.toInt());
     if (fault.kind == FaultKind::Redirect && !detail.isEmpty())
-        fault.location = detail.toUtf8();
+        fault.text = detail.toUtf8();
     server.setFault(fault);
     return u"ok"_s;
 }

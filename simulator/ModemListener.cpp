@@ -44,13 +44,14 @@ public:
         socket->setParent(this);
         connect(socket, &QTcpSocket::readyRead, this, &Connection::read);
         connect(socket, &QTcpSocket::bytesWritten, this, &Connection::writeOn);
-        connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+        connect(socket, &QTcpSocket::disconnected, this, [this] { m_owner.forget(this); });
     }
 
-private:
     void read()
     {
         m_buffer += m_socket->readAll();
+        if (m_owner.m_fault.kind == FaultKind::OneConnection && m_owner.m_connections.first() != this)
+            return;
         ReceivedRequest request;
         TakeResult result;
         while ((result = takeRequest(m_buffer, request)) == TakeResult::Taken) {
@@ -62,6 +63,7 @@ private:
             m_socket->abort();
     }
 
+private:
     void serve(const ReceivedRequest &request)
     {
         const ModemFault fault = m_owner.m_fault;
@@ -76,6 +78,7 @@ private:
     {
         switch (fault.kind) {
         case FaultKind::None:
+        case FaultKind::OneConnection:
         case FaultKind::Refuse:
             m_socket->write(wholeAnswer(reply));
             return;
@@ -111,7 +114,10 @@ private:
             return;
         case FaultKind::Redirect:
             reply = {.status = 307, .body = {}};
-            m_socket->write(wholeAnswer(reply, "Location: " + fault.location + "\r\n"));
+            m_socket->write(wholeAnswer(reply, "Location: " + fault.text + "\r\n"));
+            return;
+        case FaultKind::Verbatim:
+            m_socket->write(fault.text);
             return;
         }
     }
@@ -193,7 +199,15 @@ void ModemListener::close()
 void ModemListener::accept()
 {
     while (QTcpSocket *socket = m_server.nextPendingConnection())
-        new Connection(*this, socket, ++m_accepted);
+        m_connections.append(new Connection(*this, socket, ++m_accepted));
+}
+
+void ModemListener::forget(Connection *connection)
+{
+    m_connections.removeOne(connection);
+    connection->deleteLater();
+    if (!m_connections.isEmpty())
+        m_connections.first()->read(); // it may have waited for that
 }
 
 } // namespace tarvo

@@ -3,6 +3,7 @@
 #include "simulator/ModemServer.h"
 
 #include <QHostAddress>
+#include <QList>
 #include <QObject>
 #include <QTcpServer>
 
@@ -33,6 +34,7 @@ private:
     class Connection;
 
     void accept();
+    void forget(Connection *connection);
 
     SimulatedModem &m_modem;
     const QHostAddress m_address;
@@ -40,6 +42,7 @@ private:
     QTcpServer m_server{this};
     ModemFault m_fault;
     quint64 m_accepted = 0;
+    QList<Connection *> m_connections; ///< that are open, the oldest first
 };
 
 } // namespace tarvo

@@ -24,6 +24,7 @@ std::optional<FaultKind> faultKind(const QString &name)
         {u"close"_s, FaultKind::CloseAtOnce},
         {u"reset"_s, FaultKind::ResetAtOnce},
         {u"close-kept"_s, FaultKind::CloseKeptAlive},
+        {u"one"_s, FaultKind::OneConnection},
         {u"redirect"_s, FaultKind::Redirect},
         {u"refuse"_s, FaultKind::Refuse},
     };

@@ -31,16 +31,18 @@ enum class FaultKind {
     CloseAtOnce, ///< closes instead of answering
     ResetAtOnce, ///< resets the connection instead of answering
     CloseKeptAlive, ///< answers a connection's first request and closes at the next
+    OneConnection, ///< serves one connection at a time, and the others when that is closed
     Redirect, ///< sends the client to another address, as the same request
+    Verbatim, ///< sends a text of one's own, head and all
     Refuse, ///< closes all connections and takes no new ones
 };
 
 /// A fault and the requests that it befalls.
 struct ModemFault {
     FaultKind kind = FaultKind::None; ///< `None` ends an earlier fault
-    QByteArray part{}; ///< only requests that hold this; empty for all. Not for `Refuse`
+    QByteArray part{}; ///< only requests that hold this; empty for all. Not for `Refuse` and `OneConnection`
     std::chrono::milliseconds delay{2000}; ///< of `SlowAnswer`
-    QByteArray location{}; ///< of `Redirect`
+    QByteArray text{}; ///< where `Redirect` points to, or what `Verbatim` sends
 };
 
 /// @return the fault's kind for a name such as "slow" or "half"; nil when the name is unknown

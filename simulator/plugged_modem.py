@@ -128,9 +128,10 @@ class Modem:
         """The times, in seconds, at which the status page was asked for."""
         return [r["time"] / 1000 for r in self.requests() if r["target"].startswith("/logo_data.asp")]
 
-    def connections(self):
-        """How many connections the requests for the status page came over."""
-        return len({r["connection"] for r in self.requests() if r["target"].startswith("/logo_data.asp")})
+    def connections(self, polls):
+        """How many connections the last POLLS requests for the status page came over."""
+        pages = [r["connection"] for r in self.requests() if r["target"].startswith("/logo_data.asp")]
+        return len(set(pages[-polls:]))
 
 
 def enter_namespace():

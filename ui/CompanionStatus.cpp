@@ -50,12 +50,30 @@ QString withoutModem(SettingsProblem problem)
     return qtTrId("StatusNoModem");
 }
 
+QString obstacleText(Obstacle obstacle)
+{
+    switch (obstacle) {
+    case Obstacle::WantsPassword:
+        return qtTrId("StatusWantsPassword");
+    case Obstacle::Busy:
+        return qtTrId("StatusBusy");
+    case Obstacle::WantsHttps:
+        return qtTrId("StatusWantsHttps");
+    case Obstacle::OtherPage:
+        return qtTrId("StatusOtherPage");
+    case Obstacle::NoAnswer:
+    case Obstacle::Silence:
+        break;
+    }
+    return qtTrId("StatusNotAnswering");
+}
+
 QString attachedSummary(const StatusSnapshot &snapshot)
 {
     if (!snapshot.answering)
         return qtTrId("StatusModemFound");
     if (!*snapshot.answering)
-        return qtTrId("StatusNotAnswering");
+        return obstacleText(snapshot.obstacle.value_or(Obstacle::NoAnswer));
     QString summary = connectionText(snapshot.details);
     const auto add = [&](const QString &part) { summary = qtTrId("StatusAnd").arg(summary, part); };
     if (snapshot.details.countsMonth)

@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>صفحة المودم «%1» فارغة. صحح «صفحة الحالة» في الإعدادات.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>صفحة المودم «%1» ليست صفحة حالة. صحح «صفحة الحالة» في الإعدادات.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>المودم على %1 مشغول ببرنامج آخر. أغلق صفحاته في المتصفح وحاول مرة أخرى. إن لم يفد ذلك فافصله ثم وصّله من جديد.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>يطلب المودم على %1 كلمة مرور قبل أن يخبر بحالته. سجّل الدخول في صفحاته أو أوقف ذلك هناك.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>يجيب المودم على %1 عبر https فقط، وهذا غير مدعوم. اسمح في صفحاته بالإجابة عبر http أيضًا.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>لا تذكر صفحة المودم «%1» حالة الاتصال. صحح الصفحة أو اسم الحقل في الإعدادات.</translation>

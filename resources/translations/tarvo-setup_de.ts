@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>Die Seite „%1“ des Modems ist leer. Berichtigen Sie „Statusseite“ in den Einstellungen.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>Die Seite „%1“ des Modems ist keine Statusseite. Berichtigen Sie „Statusseite“ in den Einstellungen.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>Das Modem unter %1 ist mit einem anderen Programm beschäftigt. Schließen Sie seine Seiten im Browser und versuchen Sie es noch einmal. Hilft das nicht, ziehen Sie es ab und schließen Sie es wieder an.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>Das Modem unter %1 verlangt ein Passwort, bevor es seinen Zustand nennt. Melden Sie sich auf seinen Seiten an oder schalten Sie das dort ab.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>Das Modem unter %1 antwortet nur über https, was nicht unterstützt wird. Lassen Sie es auf seinen Seiten auch über http antworten.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>Die Seite „%1“ des Modems nennt keinen Verbindungsstatus. Berichtigen Sie die Seite oder den Namen des Feldes in den Einstellungen.</translation>

@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>La página «%1» del módem está vacía. Corrija «Página de estado» en los ajustes.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>La página «%1» del módem no es una página de estado. Corrija «Página de estado» en los ajustes.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>El módem en %1 está ocupado con otro programa. Cierre sus páginas en el navegador y vuelva a intentarlo. Si no ayuda, desconéctelo y vuelva a conectarlo.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>El módem en %1 pide una contraseña antes de indicar su estado. Inicie sesión en sus páginas o desactive eso allí.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>El módem en %1 solo responde por https, lo que no se admite. Haga en sus páginas que responda también por http.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>La página «%1» del módem no indica el estado de la conexión. Corrija la página o el nombre del campo en los ajustes.</translation>

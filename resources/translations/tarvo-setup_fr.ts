@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>La page « %1 » du modem est vide. Corrigez « Page d’état » dans les réglages.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>La page « %1 » du modem n’est pas une page d’état. Corrigez « Page d’état » dans les réglages.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>Le modem à l’adresse %1 est occupé par un autre programme. Fermez ses pages dans le navigateur et réessayez. Si cela ne suffit pas, débranchez-le et rebranchez-le.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>Le modem à l’adresse %1 demande un mot de passe avant d’indiquer son état. Connectez-vous sur ses pages, ou désactivez cela.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>Le modem à l’adresse %1 ne répond qu’en https, ce qui n’est pas pris en charge. Autorisez aussi http sur ses pages.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>La page « %1 » du modem n’indique pas l’état de la connexion. Corrigez la page ou le nom du champ dans les réglages.</translation>

@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>La pagina “%1” del modem è vuota. Correggi “Pagina di stato” nelle impostazioni.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>La pagina “%1” del modem non è una pagina di stato. Correggi “Pagina di stato” nelle impostazioni.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>Il modem all’indirizzo %1 è occupato con un altro programma. Chiudi le sue pagine nel browser e riprova. Se non basta, scollegalo e ricollegalo.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>Il modem all’indirizzo %1 chiede una password prima di indicare il suo stato. Accedi sulle sue pagine o disattiva la richiesta.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>Il modem all’indirizzo %1 risponde solo tramite https, che non è supportato. Abilita anche http sulle sue pagine.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>La pagina “%1” del modem non indica lo stato della connessione. Correggi la pagina o il nome del campo nelle impostazioni.</translation>

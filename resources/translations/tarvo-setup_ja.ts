@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>モデムのページ「%1」は空です。設定の「状態ページ」を直してください。</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>モデムのページ「%1」は状態ページではありません。設定の「状態ページ」を直してください。</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>%1 のモデムは別のプログラムが使用中です。ブラウザーでモデムのページを閉じて、もう一度試してください。それでもだめなら、モデムを抜いて、もう一度接続してください。</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>%1 のモデムは、状態を知らせる前にパスワードを求めます。モデムのページでログインするか、そこで要求を無効にしてください。</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>%1 のモデムは https でのみ応答しますが、https には対応していません。モデムのページで http でも応答するようにしてください。</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>モデムのページ「%1」に接続状態がありません。設定でページまたはフィールド名を直してください。</translation>

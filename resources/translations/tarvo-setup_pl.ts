@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>Strona „%1” modemu jest pusta. Popraw „Strona stanu” w ustawieniach.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>Strona „%1” modemu nie jest stroną stanu. Popraw „Strona stanu” w ustawieniach.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>Modem pod adresem %1 jest zajęty przez inny program. Zamknij jego strony w przeglądarce i spróbuj ponownie. Jeśli to nie pomoże, odłącz go i podłącz ponownie.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>Modem pod adresem %1 wymaga hasła, zanim poda swój stan. Zaloguj się na jego stronach albo wyłącz to tam.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>Modem pod adresem %1 odpowiada tylko przez https, co nie jest obsługiwane. Włącz na jego stronach także http.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>Strona „%1” modemu nie podaje stanu połączenia. Popraw stronę lub nazwę pola w ustawieniach.</translation>

@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>A página “%1” do modem está vazia. Corrija “Página de estado” nos ajustes.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>A página “%1” do modem não é uma página de estado. Corrija “Página de estado” nos ajustes.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>O modem em %1 está ocupado com outro programa. Feche as páginas dele no navegador e tente de novo. Se não ajudar, desconecte-o e conecte-o de novo.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>O modem em %1 pede uma senha antes de informar seu estado. Entre nas páginas dele ou desative isso lá.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>O modem em %1 responde apenas por https, o que não é suportado. Permita também http nas páginas dele.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>A página “%1” do modem não informa o estado da conexão. Corrija a página ou o nome do campo nos ajustes.</translation>

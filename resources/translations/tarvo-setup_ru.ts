@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>Страница модема «%1» пуста. Исправьте «Страница состояния» в параметрах.</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>Страница модема «%1» — не страница состояния. Исправьте «Страница состояния» в параметрах.</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>Модем по адресу %1 занят другой программой. Закройте его страницы в браузере и попробуйте ещё раз. Если это не поможет, отключите его и подключите снова.</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>Модем по адресу %1 требует пароль, прежде чем сообщить своё состояние. Войдите на его страницах или отключите это там.</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>Модем по адресу %1 отвечает только по https, что не поддерживается. Разрешите на его страницах и http.</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>Страница модема «%1» не сообщает состояние соединения. Исправьте страницу или имя поля в параметрах.</translation>

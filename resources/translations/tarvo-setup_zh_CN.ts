@@ -211,6 +211,22 @@
         <source>The modem’s page “%1” is empty. Correct “Status page” in the settings.</source>
         <translation>调制解调器的页面“%1”是空的。请在选项中更正“状态页”。</translation>
     </message>
+    <message id="FixOtherPage">
+        <source>The modem’s page “%1” is no status page. Correct “Status page” in the settings.</source>
+        <translation>调制解调器的页面“%1”不是状态页。请在选项中更正“状态页”。</translation>
+    </message>
+    <message id="FixBusy">
+        <source>The modem at %1 is busy with another program. Close its pages in the browser and try again. If that does not help, unplug it and plug it in again.</source>
+        <translation>位于 %1 的调制解调器正被其他程序占用。请关闭浏览器中它的页面，然后重试。如果仍不行，请拔下再重新插入。</translation>
+    </message>
+    <message id="FixPassword">
+        <source>The modem at %1 asks for a password before it tells its status. Log in on its pages, or switch that off there.</source>
+        <translation>位于 %1 的调制解调器要求输入密码后才显示状态。请在它的页面上登录，或在那里关闭此要求。</translation>
+    </message>
+    <message id="FixHttps">
+        <source>The modem at %1 answers over https only, which is not supported. Have it answer over http as well, on its pages.</source>
+        <translation>位于 %1 的调制解调器只通过 https 应答，而 https 不受支持。请在它的页面上也允许 http。</translation>
+    </message>
     <message id="FixNoConnection">
         <source>The modem’s page “%1” tells no connection status. Correct the page or the name of the field in the settings.</source>
         <translation>调制解调器的页面“%1”没有给出连接状态。请在选项中更正页面或字段名称。</translation>

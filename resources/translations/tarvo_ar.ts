@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>المودم لا يستجيب</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>يطلب المودم كلمة مرور</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>المودم مشغول</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>يطلب المودم https وهو غير مدعوم</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>لا يستجيب المودم بصفحة حالة</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>غير متصل</translation>

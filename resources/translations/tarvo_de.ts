@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>Das Modem antwortet nicht</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>Das Modem verlangt ein Passwort</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>Das Modem ist beschäftigt</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>Das Modem verlangt https, was nicht unterstützt wird</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>Das Modem antwortet nicht mit einer Statusseite</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Nicht verbunden</translation>

@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>The modem does not answer</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>The modem asks for a password</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>The modem is busy</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>The modem wants https, which is not supported</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>The modem does not answer with a status page</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Not connected</translation>

@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>El módem no responde</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>El módem pide una contraseña</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>El módem está ocupado</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>El módem exige https, que no se admite</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>El módem no responde con una página de estado</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>No conectado</translation>

@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>Le modem ne répond pas</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>Le modem demande un mot de passe</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>Le modem est occupé</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>Le modem exige https, qui n’est pas pris en charge</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>Le modem ne répond pas par une page d’état</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Non connecté</translation>

@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>Il modem non risponde</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>Il modem chiede una password</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>Il modem è occupato</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>Il modem richiede https, che non è supportato</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>Il modem non risponde con una pagina di stato</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Non connesso</translation>

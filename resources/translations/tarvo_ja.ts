@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>モデムが応答しません</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>モデムがパスワードを求めています</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>モデムが使用中です</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>モデムは https を求めますが、対応していません</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>モデムが状態ページを返しません</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>未接続</translation>

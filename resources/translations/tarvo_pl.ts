@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>Modem nie odpowiada</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>Modem wymaga hasła</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>Modem jest zajęty</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>Modem wymaga https, co nie jest obsługiwane</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>Modem nie odpowiada stroną stanu</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Brak połączenia</translation>

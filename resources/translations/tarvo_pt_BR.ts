@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>O modem não responde</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>O modem pede uma senha</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>O modem está ocupado</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>O modem exige https, que não é suportado</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>O modem não responde com uma página de estado</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Não conectado</translation>

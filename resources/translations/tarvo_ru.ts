@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>Модем не отвечает</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>Модем требует пароль</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>Модем занят</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>Модем требует https, что не поддерживается</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>Модем не отвечает страницей состояния</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>Не подключено</translation>

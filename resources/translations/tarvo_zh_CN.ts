@@ -87,6 +87,22 @@
         <source>The modem does not answer</source>
         <translation>调制解调器没有应答</translation>
     </message>
+    <message id="StatusWantsPassword">
+        <source>The modem asks for a password</source>
+        <translation>调制解调器要求输入密码</translation>
+    </message>
+    <message id="StatusBusy">
+        <source>The modem is busy</source>
+        <translation>调制解调器正忙</translation>
+    </message>
+    <message id="StatusWantsHttps">
+        <source>The modem wants https, which is not supported</source>
+        <translation>调制解调器要求 https，但不受支持</translation>
+    </message>
+    <message id="StatusOtherPage">
+        <source>The modem does not answer with a status page</source>
+        <translation>调制解调器没有返回状态页</translation>
+    </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>
         <translation>未连接</translation>

@@ -150,9 +150,8 @@ void ModemPanel::addFaults(QFormLayout &form)
     for (const auto &[name, kind] : faults())
         box->addItem(name);
     form.addRow(u"Fault"_s, box);
-    connect(box, &QComboBox::currentIndexChanged, this, [this](int index) {
-        m_world.server().setFault({.kind = faults()[index].second, .location = "/elsewhere"});
-    });
+    connect(box, &QComboBox::currentIndexChanged, this,
+            [this](int index) { m_world.server().setFault({.kind = faults()[index].second, .text = "/elsewhere"}); });
 }
 
 void ModemPanel::refresh()

@@ -1,5 +1,6 @@
 #include "modemapi/HttpClient.h"
 
+#include "modemapi/Obstacle.h"
 #include "simulator/ModemServer.h"
 #include "simulator/ReceivedRequest.h"
 #include "simulator/SimulatedModem.h"
@@ -38,22 +39,120 @@ protected:
 TEST_F(Http, KeepsItsConnectionBetweenReadsButNeverPostsOnAnOldOne)
 {
     modem.setFixedAnswer("logo", "page");
-    EXPECT_EQ(get(url()).data, "page");
-    EXPECT_EQ(get(url()).data, "page");
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(get(url()).data, "page");
     EXPECT_EQ(post("a=b").error, std::nullopt);
     const auto requests = modem.requests();
-    ASSERT_EQ(requests.size(), 3);
-    EXPECT_EQ(requests[0].connection, requests[1].connection);
-    EXPECT_NE(requests[1].connection, requests[2].connection);
-    EXPECT_EQ(requests[2].method, "POST");
-    EXPECT_EQ(requests[2].body, "a=b");
-    EXPECT_EQ(requests[2].header("Expect"), std::nullopt);
+    ASSERT_EQ(requests.size(), 5);
+    EXPECT_NE(requests[1].connection, requests[0].connection) << "whether the server can do without the first";
+    EXPECT_EQ(requests[2].connection, requests[0].connection);
+    EXPECT_EQ(requests[3].connection, requests[0].connection);
+    EXPECT_EQ(requests[3].header("Connection"), std::nullopt);
+    EXPECT_EQ(requests[3].header("Accept-Encoding"), std::nullopt);
+    EXPECT_NE(requests[4].connection, requests[0].connection);
+    EXPECT_EQ(requests[4].method, "POST");
+    EXPECT_EQ(requests[4].body, "a=b");
+    EXPECT_EQ(requests[4].header("Connection"), "close");
+    EXPECT_EQ(requests[4].header("Expect"), std::nullopt);
 
     const auto openDescriptors = [] { return QDir(u"/proc/self/fd"_s).count(); };
     const auto before = openDescriptors();
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(post("a=b").error, std::nullopt);
     EXPECT_TRUE(eventually([&] { return openDescriptors() <= before; })) << "a post's connection is closed";
+}
+
+TEST_F(Http, LeavesTheOnlyConnectionOfAServerToOthers)
+{
+    server.setFault({FaultKind::OneConnection});
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_FALSE(get(url()).error);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_FALSE(get(url()).error);
+        EXPECT_FALSE(post("form").error);
+        EXPECT_FALSE(HttpClient().exchange({url(), {}, {}, {}}, {}).error);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 4s) << "found out once, within a second";
+    EXPECT_EQ(modem.requests("form").size(), 4);
+}
+
+TEST_F(Http, ClosesTheConnectionBeforeTheAnswerIsUsed)
+{
+    server.setFault({FaultKind::OneConnection});
+    EXPECT_FALSE(get(url()).error);
+    EXPECT_FALSE(client.exchange({url(), {}, {}, {}, Afterwards::Close}, {}).error);
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_FALSE(post("form").error);
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, 900ms);
+    const auto requests = modem.requests();
+    EXPECT_EQ(requests[0].connection, requests[1].connection) << "the one that was open";
+    EXPECT_FALSE(get(url()).error);
+    EXPECT_EQ(modem.requests().last().header("Connection"), std::nullopt) << "nothing was open beside which to try";
+}
+
+TEST_F(Http, KeepsNoConnectionOnceAConnectHadToWait)
+{
+    for (int i = 0; i < 3; ++i)
+        EXPECT_FALSE(get(url()).error);
+    EXPECT_EQ(modem.requests()[0].connection, modem.requests()[2].connection);
+    const auto slowly = [](int) {
+        std::this_thread::sleep_for(600ms); // what takes its time before the connection is there
+        return true;
+    };
+    EXPECT_FALSE(client.exchange({url(), {}, "form", slowly}, {}).error);
+    EXPECT_FALSE(get(url()).error);
+    EXPECT_FALSE(get(url()).error);
+    const auto requests = modem.requests();
+    EXPECT_NE(requests[4].connection, requests[0].connection);
+    EXPECT_NE(requests[5].connection, requests[4].connection);
+}
+
+TEST_F(Http, TellsWhatAnAnswerSaysOfItself)
+{
+    const QByteArray form = "<FORM><input  type = \"Password\"></FORM>";
+    const QByteArray stranger = "http://u:p@192.0.2.1/x?number=7";
+    const auto answer = [](const QByteArray &head, const QByteArray &body = {}) {
+        return "HTTP/1.1 " + head + "\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size())
+            + "\r\n\r\n" + body;
+    };
+    const std::tuple<QByteArray, int, Obstacle> cases[] = {
+        {answer("200 OK", "{}"), 200, Obstacle::OtherPage},
+        {answer("200 OK", " \n"), 200, Obstacle::NoAnswer},
+        {answer("200 OK\r\nContent-Type: text/html", form), 200, Obstacle::WantsPassword},
+        {answer("200 OK", form), 200, Obstacle::WantsPassword},
+        {answer("200 OK\r\nContent-Type: text/plain", "type=password"), 200, Obstacle::OtherPage},
+        {answer("401 No", "{}"), 401, Obstacle::WantsPassword},
+        {answer("403 No"), 403, Obstacle::WantsPassword},
+        {answer("404 No"), 404, Obstacle::OtherPage},
+        {answer("503 No", "<html>"), 503, Obstacle::Busy},
+        {answer("301 No\r\nLocation: https://" + server.authority().toLatin1()), 301, Obstacle::WantsHttps},
+        {answer("302 No\r\nLocation: " + stranger), 302, Obstacle::OtherPage},
+        {answer("302 No\r\nLocation: " + stranger + "/Login.html"), 302, Obstacle::OtherPage},
+        {answer("302 No\r\nLocation: http://192.0.2.1/Login.html"), 302, Obstacle::WantsPassword},
+    };
+    for (const auto &[text, status, obstacle] : cases) {
+        server.setFault({.kind = FaultKind::Verbatim, .text = text});
+        const HttpAnswer got = get(url());
+        EXPECT_EQ(got.status, status) << text.constData();
+        EXPECT_EQ(obstacleOf(got), obstacle) << text.constData();
+        EXPECT_EQ(got.error.has_value(), !got.redirect.isEmpty());
+    }
+    server.setFault({.kind = FaultKind::Verbatim, .text = answer("302 No\r\nLocation: " + stranger)});
+    EXPECT_EQ(get(url()).error, u"redirected to http://192.0.2.1"_s) << "nothing that is secret, or new each time";
+    server.setFault({FaultKind::CloseAtOnce});
+    EXPECT_EQ(obstacleOf(get(url())), Obstacle::Silence);
+    server.setFault({FaultKind::Refuse});
+    EXPECT_EQ(obstacleOf(get(url())), Obstacle::NoAnswer);
+}
+
+TEST_F(Http, DecodesWhatIsCompressedUnasked)
+{
+    const QByteArray zipped(
+        "\x1f\x8b\x08\x00\x00\x00\x00\x00\x02\x03\x2b\x48\x4c\x4f\x05\x00\x20\xb6\x0a\x14\x04\x00\x00\x00", 24);
+    server.setFault({.kind = FaultKind::Verbatim,
+                     .text = "HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: "
+                         + QByteArray::number(zipped.size()) + "\r\n\r\n" + zipped});
+    EXPECT_EQ(get(url()).data, "page");
 }
 
 TEST_F(Http, SendsTheAddressAsItIs)
@@ -113,6 +212,10 @@ TEST_F(Http, FollowsRedirectsOfReadsOnTheSameServerOnly)
 
     server.setFault({FaultKind::Redirect, "old", 0ms, url().toEncoded()});
     EXPECT_EQ(get(url(u"old"_s)).data, "page");
+    server.setFault({FaultKind::Redirect, "old", 0ms, "http://user:password@" + url().toEncoded().mid(7)});
+    EXPECT_EQ(get(url(u"old"_s)).data, "page");
+    EXPECT_EQ(modem.requests().last().header("Authorization"), std::nullopt);
+    EXPECT_EQ(get(url(u"old"_s)).redirect, url());
     server.setFault({FaultKind::Redirect, {}, 0ms, url().toEncoded()});
     EXPECT_TRUE(get(url()).error) << "a redirect in a circle ends";
 
@@ -127,6 +230,9 @@ TEST_F(Http, OnlySpeaksHttp)
     EXPECT_TRUE(get(QUrl(u"file:///etc/hostname"_s)).error);
     EXPECT_TRUE(get(QUrl(u"ftp://127.0.0.1/"_s)).error);
     EXPECT_TRUE(get(QUrl()).error);
+    const HttpAnswer secure = get(QUrl(u"https://%1/"_s.arg(server.authority())));
+    EXPECT_FALSE(secure.connected);
+    EXPECT_TRUE(secure.error && secure.error->startsWith(u"Unsupported protocol"));
 }
 
 TEST_F(Http, IgnoresTheProxyOfTheEnvironment)
@@ -158,5 +264,7 @@ TEST_F(Http, AStopEndsATransferThatWouldNeverEnd)
 TEST_F(Http, AModemThatSaysNothingIsGivenUp)
 {
     server.setFault({FaultKind::NoAnswer});
-    EXPECT_TRUE(get(url()).error);
+    const HttpAnswer answer = get(url());
+    EXPECT_TRUE(answer.error);
+    EXPECT_EQ(obstacleOf(answer), Obstacle::Silence);
 }

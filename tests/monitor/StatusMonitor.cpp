@@ -43,12 +43,22 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 {
     StatusMonitor monitor({});
-    const std::pair<bool, std::optional<bool>> cases[] = {{false, std::nullopt}, {true, true},   {false, true},
-                                                          {false, false},        {false, false}, {true, true}};
-    for (const auto &[answered, answering] : cases) {
-        monitor.noteAnswer(client.work(), answered);
-        EXPECT_EQ(monitor.snapshot().get().answering, answering);
+    constexpr auto silent = Obstacle::NoAnswer;
+    constexpr auto busy = Obstacle::Busy;
+    using Known = std::pair<std::optional<bool>, std::optional<Obstacle>>;
+    const std::pair<std::optional<Obstacle>, Known> cases[] = {
+        {silent, {}},          {{}, {true, {}}}, {silent, {true, {}}}, {silent, {false, silent}},
+        {busy, {false, busy}}, {{}, {true, {}}}, {busy, {true, {}}},
+    };
+    for (const auto &[obstacle, known] : cases) {
+        monitor.noteAnswer(client.work(), obstacle);
+        const StatusSnapshot shown = monitor.snapshot().get();
+        EXPECT_EQ(Known(shown.answering, shown.obstacle), known);
     }
+    monitor.noteAnswer(client.work(), busy);
+    monitor.resetForReadyDevice();
+    EXPECT_EQ(monitor.snapshot().get().answering, std::nullopt);
+    EXPECT_EQ(monitor.snapshot().get().obstacle, std::nullopt);
 }
 
 TEST(ModemDetails, AreWhatThePageTells)

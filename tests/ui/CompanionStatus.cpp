@@ -40,6 +40,11 @@ CompanionStatus attached(std::optional<bool> answering, const ModemDetails &deta
             .snapshot = {.m_useData = 12, .m_totalMonthData = 10, .answering = answering, .details = details}};
 }
 
+CompanionStatus hindered(Obstacle obstacle)
+{
+    return {.detection = Detection::Attached, .snapshot = {.answering = false, .obstacle = obstacle}};
+}
+
 } // namespace
 
 TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
@@ -55,6 +60,12 @@ TEST(CompanionStatus, SaysWhatIsKnownAndNothingElse)
         {attached(std::nullopt), u"Modem found"_s},
         {attached(true), u"Modem found"_s},
         {attached(false, {.connected = true}), u"The modem does not answer"_s},
+        {hindered(Obstacle::NoAnswer), u"The modem does not answer"_s},
+        {hindered(Obstacle::Silence), u"The modem does not answer"_s},
+        {hindered(Obstacle::Busy), u"The modem is busy"_s},
+        {hindered(Obstacle::WantsPassword), u"The modem asks for a password"_s},
+        {hindered(Obstacle::WantsHttps), u"The modem wants https, which is not supported"_s},
+        {hindered(Obstacle::OtherPage), u"The modem does not answer with a status page"_s},
         {attached(true, {.connected = false}), u"Not connected"_s},
         {attached(true, {.connected = false, .sim = SimState::Missing}), u"Not connected: no SIM card"_s},
         {attached(true, {.connected = true, .roamingAllowed = false, .countsMonth = true}),
