@@ -107,6 +107,14 @@ StatusFields readStatusFields(const QString &content)
     return fields;
 }
 
+bool hasStatusField(const QString &content)
+{
+    return std::ranges::any_of(fieldNames, [&](const auto &field) {
+        const QString &name = field.first;
+        return getModemInfoFromKey(name + u": "_s, content) || getModemInfoFromKeyForWeb5(name + u"\":"_s, content);
+    });
+}
+
 bool isRoaming(const StatusFields &fields)
 {
     return fields.roamingSetting == u"on"_s;

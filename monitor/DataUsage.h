@@ -30,6 +30,9 @@ struct StatusFields {
 /// style.
 StatusFields readStatusFields(const QString &content);
 
+/// @return whether @p content has any of these fields, be its text empty
+bool hasStatusField(const QString &content);
+
 /// What stands for an amount that no modem can have: one that is below zero, no number, or above 2^60 bytes.
 inline constexpr float unknownAmount = std::numeric_limits<float>::infinity();
 

@@ -23,6 +23,13 @@ SimState simState(const std::optional<QString> &mainState)
 
 } // namespace
 
+bool isStatusPage(const QString &content)
+{
+    return hasStatusField(content) || getConnectionStatusWithWebContent(content)
+        || getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content)
+        || getModemInfoFromKeyForWeb5(u"dial_mode\":"_s, content);
+}
+
 ModemDetails readModemDetails(const QString &content, const StatusFields &fields)
 {
     ModemDetails details;

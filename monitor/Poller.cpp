@@ -1,6 +1,7 @@
 #include "monitor/Poller.h"
 
 #include "modemapi/ModemClient.h"
+#include "monitor/ModemDetails.h"
 #include "monitor/RepeatingTimer.h"
 #include "platform/SystemLog.h"
 
@@ -81,7 +82,7 @@ void Poller::updateModemStatus(ModemClient &client)
     const std::optional<QString> page = client.statusPage();
     if (client.work().isOver())
         return;
-    const bool isAnswered = page && !page->isEmpty();
+    const bool isAnswered = page && isStatusPage(*page);
     m_steps.answered(client.work(), isAnswered ? std::nullopt : std::optional(client.obstacle()));
     if (page)
         m_steps.pass(client, *page);

@@ -25,7 +25,8 @@ public:
     struct Steps {
         /// Told what stood in the way of the status page; nil when it came.
         std::function<void(const Work &work, std::optional<Obstacle> obstacle)> answered{};
-        /// Runs when there was one, an empty one included where the settings let it pass.
+        /// Runs when there was a page, one that is no status page included, and an empty one where the settings let it
+        /// pass.
         std::function<void(ModemClient &client, const QString &page)> pass{};
     };
 

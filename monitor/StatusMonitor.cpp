@@ -55,8 +55,11 @@ void StatusMonitor::setAllStatusByUrlContents(const Work &work, const QString &c
 {
     bool known = false; // nearly always: the same page makes nothing else of the snapshot that it made
     work.whileAttached([&] { known = content == m_content && m_snapshot.get() == m_evaluated; });
-    if (!known)
+    if (!known) {
+        if (!isStatusPage(content))
+            return;
         evaluate(work, content);
+    }
     if (m_listeners.evaluated && !work.isOver())
         m_listeners.evaluated(work);
 }

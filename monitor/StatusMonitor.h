@@ -26,7 +26,7 @@ public:
     /// @return the snapshot that all parts read; lives as long as this object
     SharedSnapshot &snapshot() { return m_snapshot; }
 
-    /// Turns the status page @p content into the snapshot (polling worker).
+    /// Turns the status page @p content into the snapshot; what is no status page changes nothing (polling worker).
     void setAllStatusByUrlContents(const Work &work, const QString &content);
     /// The modem gave its status page, or @p obstacle stood in the way (polling worker). It counts as not answering after
     /// two failures in a row.

@@ -61,6 +61,27 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
     EXPECT_EQ(monitor.snapshot().get().obstacle, std::nullopt);
 }
 
+TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
+{
+    int evaluated = 0;
+    StatusMonitor monitor({.evaluated = [&](const Work &) { ++evaluated; }});
+    monitor.setAllStatusByUrlContents(client.work(), u"last_three_days_tx_bytes: '1'"_s);
+    const StatusSnapshot before = monitor.snapshot().get();
+    EXPECT_TRUE(before.isHaveDataLimitExceedForThreedays_);
+    for (const QString &page : {u""_s, u"{}"_s, u"<html>busy</html>"_s, u"{\"result\":\"failure\"}"_s}) {
+        monitor.setAllStatusByUrlContents(client.work(), page);
+        EXPECT_EQ(monitor.snapshot().get(), before);
+    }
+    EXPECT_EQ(evaluated, 1);
+    for (const QString &page : {u"flow_reminder_switch: ''"_s, u"{\"last_three_days_rx_bytes\":\"\"}"_s,
+                                u"pppstate: 'on'"_s, u"\"modem_main_state\":\"\""_s, u"\"dial_mode\":\"\""_s}) {
+        EXPECT_TRUE(isStatusPage(page)) << page.toStdString();
+        monitor.setAllStatusByUrlContents(client.work(), page);
+        EXPECT_FALSE(monitor.snapshot().get().isHaveDataLimitExceedForThreedays_);
+    }
+    EXPECT_EQ(evaluated, 6);
+}
+
 TEST(ModemDetails, AreWhatThePageTells)
 {
     EXPECT_EQ(readModemDetails({}, {}), ModemDetails());
