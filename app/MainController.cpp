@@ -126,11 +126,18 @@ void MainController::detect()
     if (m_attachment)
         m_display.setDetection(Detection::Attached);
     else if (routerObserver_ && routerObserver_->hasSupportedInterface())
-        m_display.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
+        waitForModem();
     else if (unknown)
         m_display.setDetection(Detection::NotSetUp, *unknown);
     else
         m_display.setDetection(Detection::NoModem);
+}
+
+void MainController::waitForModem()
+{
+    m_display.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
+    if (!std::exchange(m_preparesHttp, true))
+        m_threads.start(&HttpClient::prepare);
 }
 
 bool MainController::windowShouldClose() const

@@ -87,6 +87,8 @@ private:
     std::optional<QString> router() const;
     /// Tells the display what is detected.
     void detect();
+    /// A supported modem is there and has no address yet, which leaves time to prepare.
+    void waitForModem();
     /// The steps that follow each status page that came (polling worker).
     void pass(ModemClient &client, const QString &page);
     void modemAnswered(const Work &work, std::optional<Obstacle> obstacle);
@@ -115,6 +117,7 @@ private:
     Poller m_poller;
 
     bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
+    bool m_preparesHttp = false; ///< a modem has been waited for
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps
     ThreadGroup m_threads; ///< its destructor waits for the threads that use all of the above
     std::unique_ptr<Attachment> m_attachment; ///< to the modem that is polled; null when none is

@@ -234,6 +234,7 @@ int main(int argc, char **argv)
 {
     if (const auto status = answerArguments(argc, argv))
         return *status;
+    qunsetenv("SSLKEYLOGFILE"); // libcurl makes that file as soon as it is loaded, though no TLS is ever spoken
     SyslogLog systemLog;
     const QtMessages messages(systemLog);
     const int status = start(argc, argv, systemLog);

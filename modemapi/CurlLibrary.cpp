@@ -27,9 +27,9 @@ const CurlLibrary &CurlLibrary::shared()
 }
 
 CurlLibrary::CurlLibrary()
-    : m_library(checked(dlopen(libraryName, RTLD_LAZY | RTLD_NODELETE)))
+    : m_library(checked(dlopen(libraryName, RTLD_NOW | RTLD_NODELETE)))
 {
-    global_init(CURL_GLOBAL_DEFAULT);
+    global_init(CURL_GLOBAL_NOTHING); // no TLS is ever spoken
 }
 
 CurlLibrary::Symbol CurlLibrary::find(const char *name) const

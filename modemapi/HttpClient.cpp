@@ -1,5 +1,6 @@
 #include "modemapi/HttpClient.h"
 
+#include "modemapi/CurlLibrary.h"
 #include "modemapi/CurlTransfer.h"
 
 #include <algorithm>
@@ -92,6 +93,14 @@ private:
     /// The server answers others while our connection is open; nil until that was tried.
     std::optional<bool> m_canBeKept;
 };
+
+void HttpClient::prepare()
+{
+    try {
+        CurlLibrary::shared();
+    } catch (const std::runtime_error &) { // told by who needs it
+    }
+}
 
 HttpClient::HttpClient() = default;
 HttpClient::~HttpClient() = default;

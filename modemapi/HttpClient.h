@@ -55,6 +55,9 @@ public:
     static constexpr std::chrono::milliseconds timeout{5000}; ///< of one exchange, redirects included
     static constexpr qsizetype maximumAnswerSize{4 << 20}; ///< in bytes, heads and bodies together
 
+    /// Loads what exchanges take, if that is possible, so that the first one need not: takes a while. Any thread.
+    static void prepare();
+
     /// Neither connects to anything nor loads what it takes: the first exchange does.
     HttpClient();
     ~HttpClient();

@@ -120,6 +120,7 @@ QStringList textsOf(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    qunsetenv("SSLKEYLOGFILE"); // libcurl makes that file as soon as it is loaded, though no TLS is ever spoken
     QCoreApplication::setApplicationName(u"tarvo-setup"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     const Command command = commandFrom(textsOf(argc, argv));

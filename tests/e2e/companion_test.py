@@ -64,7 +64,8 @@ class Companion(unittest.TestCase):
             "ASAN_OPTIONS": "verify_asan_link_order=0:quarantine_size_mb=8", "QT_QPA_PLATFORM": "offscreen",
             "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
             "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": session_bus or bus, "DBUS_SYSTEM_BUS_ADDRESS": bus}
+            "DBUS_SESSION_BUS_ADDRESS": session_bus or bus, "DBUS_SYSTEM_BUS_ADDRESS": bus,
+            "SSLKEYLOGFILE": str(self.folder / "keys")}
         self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
@@ -106,6 +107,9 @@ class Companion(unittest.TestCase):
     def descriptors(self):
         return len(os.listdir(f"/proc/{self.program.pid}/fd"))
 
+    def has_loaded(self, library):
+        return library in pathlib.Path(f"/proc/{self.program.pid}/maps").read_text()
+
     def memory(self):
         """What was resident at most, in KiB."""
         status = pathlib.Path(f"/proc/{self.program.pid}/status").read_text()
@@ -114,10 +118,10 @@ class Companion(unittest.TestCase):
 
 class CompanionTest(Companion):
     def test_polls_once_a_second_until_unplugged_and_again_when_plugged_in(self):
-        loaded = pathlib.Path(f"/proc/{self.program.pid}/maps").read_text()
-        self.assertNotIn("libcurl", loaded, "nobody needs it yet")
+        self.assertFalse(self.has_loaded("libcurl"), "nobody needs it yet")
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1")
+        self.assertFalse((self.folder / "keys").exists(), "no TLS is ever spoken")
         self.until(lambda: len(self.modem.polls()) >= 6)
         polls = self.modem.polls()
         self.assertGreater(polls[5] - polls[0], 4.5)
@@ -127,6 +131,12 @@ class CompanionTest(Companion):
         self.until(lambda: "DeviceRemoved,stopGetModemStatus" in self.log)
         self.modem.plug("enx1")
         self.until_ready(self.modem, "enx1", times=2)
+
+    def test_loads_what_requests_take_while_the_modem_has_no_address(self):
+        self.usb.add("enx2", 9999)
+        ip("link add enx2 index 9999 type veth peer name far", "link set enx2 up")
+        self.until(lambda: self.has_loaded("libcurl"))
+        self.assertNotIn("ECMReady", self.log)
 
     def test_a_link_that_went_down_is_ready_again_when_it_has_a_router(self):
         self.modem.plug("enx1")
