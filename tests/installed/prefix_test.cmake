@@ -1,0 +1,18 @@
+# Fails when an installation writes outside of the prefix that it is given, but for what /usr has in /etc.
+# Usage: cmake -D BUILD=FOLDER -D SCRATCH=FOLDER -P prefix_test.cmake
+set(ENV{DESTDIR} "${SCRATCH}")
+foreach(prefix IN ITEMS "/opt/a place" /usr)
+  file(REMOVE_RECURSE "${SCRATCH}")
+  execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${prefix}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+  file(GLOB_RECURSE outside RELATIVE "${SCRATCH}${prefix}" "${SCRATCH}/*")
+  list(FILTER outside INCLUDE REGEX "^\\.\\.")
+  if(prefix STREQUAL /usr)
+    list(REMOVE_ITEM outside ../etc/xdg/autostart/io.github.tarvo.Tarvo.desktop)
+  elseif(NOT EXISTS "${SCRATCH}${prefix}/etc/xdg/autostart/io.github.tarvo.Tarvo.desktop")
+    message(SEND_ERROR "${prefix} has no autostart entry")
+  endif()
+  if(outside)
+    message(SEND_ERROR "outside of ${prefix} are ${outside}")
+  endif()
+endforeach()
+file(REMOVE_RECURSE "${SCRATCH}")
