@@ -63,6 +63,9 @@ bool DemoTour::run()
 void DemoTour::start()
 {
     m_report.begin(u"The companion starts; no modem is plugged in"_s);
+    const QSize smallest = m_window.minimumSizeHint();
+    m_report.check(u"the demo's window fits a screen of 1920 x 1080 pixels at 200 %"_s,
+                   smallest.width() <= 960 && smallest.height() <= 540 - 2 * 30); // beside a panel and a title
     m_report.check(u"it says that it is up"_s, m_world.systemLog().contains(u"Tarvo init success"_s));
     m_report.check(u"the icon shows \"ready\""_s, eventually([this] { return image() == u"ready"; }));
     const CustomView *icon = m_world.statusBar().icon();

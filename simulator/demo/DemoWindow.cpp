@@ -7,6 +7,9 @@
 #include "simulator/demo/ModemPanel.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -16,12 +19,33 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace {
+
+constexpr QSize comfortable(1000, 640);
+constexpr QSize frame(0, 40); // what a window manager draws around the window, at most
+
+/// @return @p content, which scrolls where the screen is lower than it
+QScrollArea *scrolling(QWidget *content)
+{
+    auto *area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setMinimumWidth(content->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    return area;
+}
+
+} // namespace
+
 DemoWindow::DemoWindow(DemoWorld &world)
     : m_modem(new ModemPanel(world))
     , m_companion(new CompanionPanel(world))
     , m_apns(new ApnPanel(world))
 {
-    auto *controls = new QVBoxLayout;
+    auto *controlled = new QWidget;
+    auto *controls = new QVBoxLayout(controlled);
+    controls->setContentsMargins({});
     controls->addWidget(new DevicePanel(world));
     controls->addWidget(m_modem);
     controls->addStretch();
@@ -30,11 +54,11 @@ DemoWindow::DemoWindow(DemoWorld &world)
     views->addWidget(m_apns, 1);
     views->addWidget(new ActivityPanel(world), 4);
     auto *layout = new QHBoxLayout(this);
-    layout->addLayout(controls);
+    layout->addWidget(scrolling(controlled));
     layout->addLayout(views, 1);
 
     setWindowTitle(u"Tarvo with a simulated modem"_s);
-    resize(1000, 640);
+    resize(comfortable.boundedTo(screen()->availableSize() - frame));
     connect(&m_refreshing, &QTimer::timeout, this, &DemoWindow::refresh);
     m_refreshing.start(250ms);
 }
