@@ -7,11 +7,11 @@
 #include "platform/linux/Compositing.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopStatusBar.h"
-#include "platform/linux/InheritedDescriptors.h"
 #include "platform/linux/LeaseFiles.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
 #include "platform/linux/QtMessages.h"
+#include "platform/linux/Restart.h"
 #include "platform/linux/SessionBusForQt.h"
 #include "platform/linux/SingleInstance.h"
 #include "platform/linux/SocketBinding.h"
@@ -28,8 +28,6 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include <unistd.h>
-
 #include <chrono>
 #include <cstdlib>
 #include <optional>
@@ -40,13 +38,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString applicationId = u"io.github.tarvo.Tarvo"_s;
-constexpr int startOver = 75; // what the event loop returns when the program shall begin anew
 
 /// Begins anew, as only a new process can show its icon in a host of a session bus that came late; not at once, lest a bus
 /// in trouble keeps the program busy.
 void startOverLater(QApplication &application)
 {
-    QTimer::singleShot(std::chrono::seconds(10), &application, [] { QApplication::exit(startOver); });
+    QTimer::singleShot(std::chrono::seconds(10), &application, [] { QApplication::exit(Restart::exitStatus); });
 }
 
 /// @return the program that makes the settings, beside this one or in the PATH; empty when it is not installed
@@ -189,10 +186,11 @@ int run(QApplication &application, SystemLog &systemLog)
 {
     logSettings(systemLog);
     Surroundings surroundings(application, systemLog);
+    Restart restart;
     MainController controller(surroundings.services());
     const ApplicationService service(
         surroundings.sessionBus(), applicationId,
-        {.activate = [&] { controller.showStatus(); }, .restart = [] { QApplication::exit(startOver); }},
+        {.activate = [&] { controller.showStatus(); }, .restart = [&restart] { restart.request(); }},
         publishedProperties());
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
@@ -228,6 +226,14 @@ int start(int argc, char **argv, SystemLog &systemLog)
     return run(application, systemLog);
 }
 
+/// All is written to the log when this returns.
+int startWithLog(int argc, char **argv)
+{
+    SyslogLog systemLog;
+    const QtMessages messages(systemLog);
+    return start(argc, argv, systemLog);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -235,12 +241,9 @@ int main(int argc, char **argv)
     if (const auto status = answerArguments(argc, argv))
         return *status;
     qunsetenv("SSLKEYLOGFILE"); // libcurl makes that file as soon as it is loaded, though no TLS is ever spoken
-    SyslogLog systemLog;
-    const QtMessages messages(systemLog);
-    const int status = start(argc, argv, systemLog);
-    if (status != startOver)
+    const int status = startWithLog(argc, argv);
+    if (status != Restart::exitStatus)
         return status;
-    closeDescriptorsOnExec();
-    execvp(argv[0], argv);
+    Restart::execute(argv);
     return EXIT_FAILURE;
 }

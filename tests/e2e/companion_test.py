@@ -63,7 +63,8 @@ class Companion(unittest.TestCase):
         bus = self.open_bus()
         self.environment = surroundings.environment(self.folder, self.usb, session_bus or bus) | {
             "DBUS_SYSTEM_BUS_ADDRESS": bus, "SSLKEYLOGFILE": str(self.folder / "keys")}
-        self.program = subprocess.Popen([sys.argv[1]], env=self.environment, stderr=subprocess.PIPE, text=True)
+        self.program = subprocess.Popen(["tarvo"], executable=sys.argv[1], env=self.environment, stderr=subprocess.PIPE,
+                                        text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
         reader.start()

@@ -78,8 +78,9 @@ class SetupTest(companion_test.Companion):
         with self.config.open("a") as settings:
             settings.write("\n")
         self.assertEqual(self.marks(status=1, bus=address)["companion"], "broken")
-        self.setup_program("exclude", "19d3:1", bus=address)  # has it start again
+        self.setup_program("exclude", "19d3:1", bus=address)  # has it start again, though no PATH leads to it
         self.until(lambda: self.marks(status=1, bus=address)["companion"] == "ok")
+        self.assertEqual(pathlib.Path(f"/proc/{self.program.pid}/comm").read_text(), "tarvo\n")
         self.quit()
 
     def test_says_where_the_chain_is_broken(self):

@@ -44,7 +44,8 @@ TEST_F(SingleInstanceTest, IsRefusedToTheSecondButNotAfterACrash)
         EXPECT_TRUE(first.isOnly());
         EXPECT_FALSE(SingleInstance(u"tarvo"_s).isOnly());
         EXPECT_TRUE(SingleInstance(u"another"_s).isOnly());
-        EXPECT_EQ(std::system(("! ls -l /proc/self/fd | grep -F '" + m_path + "'").constData()), 0) << "a child holds the lock";
+        EXPECT_EQ(std::system(("! ls -l /proc/self/fd | grep -F '" + m_path + "'").constData()), 0)
+            << "a child holds the lock";
     }
     EXPECT_TRUE(SingleInstance(u"tarvo"_s).isOnly());
 }
