@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QSocketNotifier>
 
+#include <dlfcn.h>
+
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -20,6 +22,7 @@ namespace {
 constexpr std::chrono::milliseconds patience{500}; // with the first answer, before the bus counts as none
 constexpr int maxAttempts = 5;
 constexpr std::chrono::seconds firstPause{1};
+constexpr long maxMessageSize = 64 << 10;
 
 const QString busService = u"org.freedesktop.DBus"_s;
 const QString busPath = u"/org/freedesktop/DBus"_s;
@@ -34,6 +37,18 @@ QString socketPathOf(const QString &address)
 {
     const QList<QByteArray> sockets = unixSocketsOf(address);
     return !sockets.isEmpty() && sockets.first().startsWith('/') ? QFile::decodeName(sockets.first()) : QString();
+}
+
+/// Has the connection end when a message comes that is larger than any that is meant for us, before it is kept.
+///
+/// Qt has no name for this limit of the library that it speaks to the bus with; the library's own is 128 MiB.
+void boundMessages(const QDBusConnection &bus)
+{
+    using SetMaxMessageSize = void (*)(void *connection, long size);
+    static const auto setMaxMessageSize =
+        reinterpret_cast<SetMaxMessageSize>(dlsym(RTLD_DEFAULT, "dbus_connection_set_max_message_size"));
+    if (setMaxMessageSize)
+        setMaxMessageSize(bus.internalPointer(), maxMessageSize);
 }
 
 QString nearestFolder(const QString &path)
@@ -158,6 +173,7 @@ void BusConnection::greet()
     auto bus = QDBusConnection::connectToPeer(m_address, m_name);
     if (!bus.isConnected())
         return disconnected();
+    boundMessages(bus);
     bus.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s, u"Disconnected"_s, this,
                 SLOT(disconnected()));
     callBus(u"Hello"_s, {}, this, [this](const QDBusMessage &answer) {

@@ -23,6 +23,8 @@ namespace tarvo {
 /// A bus that listens but does not answer counts as none until it answers. One that is not there is tried again a few
 /// times, each after a longer while. From then on nothing wakes up until something happens where the bus puts its socket.
 ///
+/// A message of more than 64 KiB is refused before it is kept: it ends the connection, which is then made again.
+///
 /// Qt's own connections to a bus wait for its greeting, and some operations on them for a name's owner. So this is a
 /// plain connection of Qt's to a peer: the greeting and the match rules are sent here, as calls like any other.
 class BusConnection final : public QObject {
