@@ -3,9 +3,9 @@
 #include "RouterObserver/PropertyList.h"
 #include "RouterObserver/SettingFile.h"
 #include "platform/Assertion.h"
+#include "platform/WholeFile.h"
 
 #include <QMetaType>
-#include <QSaveFile>
 #include <QVariantList>
 
 #include <algorithm>
@@ -172,10 +172,7 @@ void ConfigManager::flush() const
     const auto bytes = configDict_ ? writePropertyList(*configDict_) : std::nullopt;
     if (!bytes)
         return;
-    QSaveFile file(*settingPath_); // keeps the permissions of the file it replaces
-    if (!file.open(QIODevice::WriteOnly) || file.write(*bytes) != bytes->size())
-        return;
-    file.commit();
+    writeWholeFile(*settingPath_, *bytes);
 }
 
 bool isText(const QVariant &value, const QString &text)

@@ -1,10 +1,11 @@
 #include "setup/Autostart.h"
 
+#include "platform/WholeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tarvo {
@@ -111,11 +112,10 @@ QString Autostart::set(bool on) const
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart"_s;
     const QByteArray entry = withStartAtLogin(startableEntry(entryPaths()), on);
-    QSaveFile file(folder + u'/' + QFileInfo(entryPaths().value(0)).fileName());
-    if (!QDir().mkpath(folder) || !file.open(QIODevice::WriteOnly) || file.write(entry) != entry.size()
-        || !file.commit())
-        return u"%1: %2"_s.arg(file.fileName(), file.errorString());
-    return {};
+    const QString path = folder + u'/' + QFileInfo(entryPaths().value(0)).fileName();
+    QDir().mkpath(folder); // where that fails, so does the writing
+    const QString problem = writeWholeFile(path, entry);
+    return problem.isEmpty() ? problem : u"%1: %2"_s.arg(path, problem);
 }
 
 } // namespace tarvo

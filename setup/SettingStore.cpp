@@ -1,16 +1,21 @@
 #include "setup/SettingStore.h"
 
 #include "RouterObserver/SettingFile.h"
+#include "platform/FolderLock.h"
+#include "platform/WholeFile.h"
 #include "setup/SettingKeys.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMetaType>
-#include <QSaveFile>
 #include <QStandardPaths>
 
-#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <system_error>
 
 namespace tarvo {
 
@@ -19,6 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostBackups = 100;
+constexpr std::chrono::seconds patience{5}; // a change takes far less
 
 bool isIdentifier(const QVariant &value)
 {
@@ -35,32 +41,54 @@ QStringList identifierTexts(const QVariantMap &settings, const QStringList &path
     return texts;
 }
 
-/// Moves the file at @p path aside, or copies it where that can be done.
-/// @return where it is then; empty when it cannot be kept
-QString keepBeside(const QString &path)
+bool isThere(const QString &path)
+{
+    return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+}
+
+/// @return the first name beside @p path that no backup has; empty when there are too many
+QString freeBackup(const QString &path)
 {
     for (int i = 0; i < mostBackups; ++i) {
         const QString backup = path + (i == 0 ? u".bak"_s : u".bak%1"_s.arg(i));
-        if (QFileInfo::exists(backup))
-            continue;
-        const bool kept = (QFileInfo(path).isFile() && QFile::copy(path, backup)) || QFile::rename(path, backup);
-        return kept ? backup : QString();
+        if (!isThere(backup))
+            return backup;
     }
     return {};
 }
 
+QString rename(const QString &from, const QString &to)
+{
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
+        ? QString()
+        : u"%1: %2"_s.arg(from, QString::fromStdString(std::generic_category().message(errno)));
+}
+
+/// Moves what is at @p path aside, which takes no room on the disk.
+SettingsWritten keepBeside(const QString &path)
+{
+    if (!isThere(path))
+        return {};
+    const QString backup = freeBackup(path);
+    const QString problem = rename(path, backup);
+    return {.problem = problem, .backup = problem.isEmpty() ? backup : QString()};
+}
+
 QString writeFile(const QString &path, const QByteArray &bytes)
 {
+    constexpr QFile::Permissions usersAlone = QFile::ReadOwner | QFile::WriteOwner;
     const bool isNew = !QFileInfo::exists(path);
-    if (!QDir().mkpath(QFileInfo(path).path()))
-        return u"%1: the folder cannot be made"_s.arg(QFileInfo(path).path());
-    QSaveFile file(path);
-    const bool isOpen = file.open(QIODevice::WriteOnly);
-    if (isOpen && isNew)
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    if (!isOpen || file.write(bytes) != bytes.size() || !file.commit())
-        return u"%1: %2"_s.arg(path, file.errorString());
-    return {};
+    const QString problem = writeWholeFile(path, bytes, isNew ? std::optional(usersAlone) : std::nullopt);
+    return problem.isEmpty() ? problem : u"%1: %2"_s.arg(path, problem);
+}
+
+/// Makes the folder of the user's settings, and keeps other programs from changing them.
+/// @return why that cannot be done; empty when it is
+QString claimSettings(FolderLock &lock)
+{
+    const QString folder = QFileInfo(userSettingsPath()).path();
+    QDir().mkpath(folder); // where that fails, so does the writing
+    return lock.take(folder, patience) ? QString() : qtTrId("SettingsBeingChanged").arg(folder);
 }
 
 /// Settings to start a change from.
@@ -88,17 +116,16 @@ SettingFileReading readInForce(const std::optional<QString> &path)
     return {shipped, readPropertyList(shipped)};
 }
 
-/// Writes the user's own file, after the one that was there has been kept beside it if @p keep says so.
+/// Writes the user's own file in place of the one that is there, or of the one that is kept beside it then.
 SettingsWritten write(const QByteArray &bytes, bool keep)
 {
-    SettingsWritten written;
     const QString path = userSettingsPath();
-    if (keep && QFileInfo::exists(path)) {
-        written.backup = keepBeside(path);
-        if (written.backup.isEmpty())
-            return {.problem = u"%1: it cannot be kept beside a new one"_s.arg(path)};
-    }
+    SettingsWritten written = keep ? keepBeside(path) : SettingsWritten();
+    if (!written.problem.isEmpty())
+        return written;
     written.problem = writeFile(path, bytes);
+    if (!written.problem.isEmpty() && !written.backup.isEmpty() && rename(written.backup, path).isEmpty())
+        written.backup.clear();
     return written;
 }
 
@@ -145,6 +172,9 @@ SettingChange excludeDevice(DeviceId device)
 
 SettingsWritten changeSettings(const SettingChange &change, Damaged damaged)
 {
+    FolderLock lock;
+    if (const QString problem = claimSettings(lock); !problem.isEmpty())
+        return {.problem = problem};
     const auto path = findSettingFile();
     const SettingFileReading reading = readInForce(path);
     if (!reading.values.root && damaged == Damaged::Refuse)
@@ -152,7 +182,7 @@ SettingsWritten changeSettings(const SettingChange &change, Damaged damaged)
     const Source source = sourceFrom(reading);
     const auto changed = source.text ? change(*source.text) : std::nullopt;
     if (!changed)
-        return {.problem = u"%1: it cannot be changed as wanted"_s.arg(path.value_or(userSettingsPath()))};
+        return {.problem = qtTrId("CannotBeChanged").arg(path.value_or(userSettingsPath()))};
     if (path == userSettingsPath() && changed->toBytes() == reading.bytes)
         return {};
     SettingsWritten written = write(changed->toBytes(), source.replacesFile && path == userSettingsPath());
@@ -162,7 +192,9 @@ SettingsWritten changeSettings(const SettingChange &change, Damaged damaged)
 
 SettingsWritten resetSettings()
 {
-    return write(shippedSettingsFile(), true);
+    FolderLock lock;
+    const QString problem = claimSettings(lock);
+    return problem.isEmpty() ? keepBeside(userSettingsPath()) : SettingsWritten{.problem = problem};
 }
 
 } // namespace tarvo

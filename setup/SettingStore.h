@@ -48,10 +48,10 @@ struct SettingsWritten {
 };
 
 /// Changes the file in force, or the shipped settings where there is none, and writes the user's own file. It is written
-/// whole or not at all; a link is followed, a new file is the user's alone.
+/// whole or not at all; a link is followed, a new file is the user's alone. Several programs may do so at once.
 SettingsWritten changeSettings(const SettingChange &change, Damaged damaged);
 
-/// Writes the shipped settings into the user's own file, keeping the one that was there beside it.
+/// Takes the user's own file away, keeping it beside where it was, so that the computer's settings are in force.
 SettingsWritten resetSettings();
 
 } // namespace tarvo

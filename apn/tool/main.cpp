@@ -4,12 +4,12 @@
 #include "apn/tool/FolderReport.h"
 #include "apn/tool/ProfileSigner.h"
 #include "apn/tool/ProfileSource.h"
+#include "platform/WholeFile.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextStream>
 
 #include <cstdio>
@@ -49,10 +49,8 @@ std::optional<QByteArray> readFile(const QString &path)
 
 int writeFile(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return fail(path, file.errorString());
-    return inOrder;
+    const QString problem = writeWholeFile(path, bytes);
+    return problem.isEmpty() ? inOrder : fail(path, problem);
 }
 
 /// @return what is wrong with @p path as the place for @p source; empty when nothing is

@@ -172,8 +172,8 @@
         <translation>لا يوجد ملف إعدادات بعد. اختر المودم من قائمة الأجهزة.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>لا يمكن استخدام %1: %2. ارجع إلى الإعدادات الأصلية؛ يُحفظ الملف بجانب الجديد.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>لا يمكن استخدام %1: %2. ارجع إلى الإعدادات الأصلية؛ يُحفظ الملف.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>أنهِ Tarvo ثم شغّله من جديد ليقرأها.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: برنامج آخر يغيّر هذه الإعدادات. حاول مرة أخرى.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>لا يمكن تغيير %1 بهذه الطريقة.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>شُغّل Tarvo.</translation>
@@ -352,8 +360,8 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
         <translation>البدء من جديد</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>أتريد الرجوع إلى الإعدادات الأصلية المرفقة مع Tarvo؟ يُحفظ ملفك بجانب الجديد.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>أتريد الرجوع إلى الإعدادات الأصلية المرفقة مع Tarvo؟ يُحفظ ملفك.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>Es gibt noch keine Einstellungsdatei. Wählen Sie Ihr Modem in der Liste der Geräte aus.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 kann nicht verwendet werden: %2. Kehren Sie zu den mitgelieferten Einstellungen zurück; die Datei bleibt neben der neuen erhalten.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 kann nicht verwendet werden: %2. Kehren Sie zu den mitgelieferten Einstellungen zurück; die Datei bleibt erhalten.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Beenden Sie Tarvo und starten Sie es neu, damit es sie liest.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: Ein anderes Programm ändert gerade diese Einstellungen. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 kann nicht so geändert werden.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo wurde gestartet.</translation>
@@ -352,8 +360,8 @@ Die Einstellungen können nicht gelesen werden. Mit den mitgelieferten Einstellu
         <translation>Neu beginnen</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Zu den Einstellungen zurückkehren, mit denen Tarvo geliefert wird? Ihre Datei bleibt neben der neuen erhalten.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Zu den Einstellungen zurückkehren, mit denen Tarvo geliefert wird? Ihre Datei bleibt erhalten.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

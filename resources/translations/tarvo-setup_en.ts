@@ -172,8 +172,8 @@
         <translation>There is no settings file yet. Choose your modem in the list of devices.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Quit Tarvo and start it again, so that it reads them.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: another program is changing these settings. Try again.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 cannot be changed in this way.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo has been started.</translation>
@@ -352,8 +360,8 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
         <translation>Start Afresh</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Go back to the settings that Tarvo is shipped with? Your file is kept.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

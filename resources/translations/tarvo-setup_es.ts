@@ -172,8 +172,8 @@
         <translation>Aún no hay archivo de ajustes. Elija su módem en la lista de dispositivos.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 no se puede usar: %2. Vuelva a los ajustes incluidos; el archivo se conserva junto al nuevo.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 no se puede usar: %2. Vuelva a los ajustes incluidos; el archivo se conserva.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Salga de Tarvo y vuelva a iniciarlo para que los lea.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: otro programa está cambiando estos ajustes. Inténtelo de nuevo.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 no se puede cambiar de esta manera.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo se ha iniciado.</translation>
@@ -352,8 +360,8 @@ Los ajustes no se pueden leer. ¿Empezar de nuevo con los ajustes incluidos? El 
         <translation>Empezar de nuevo</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>¿Volver a los ajustes incluidos con Tarvo? Su archivo se conserva junto al nuevo.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>¿Volver a los ajustes incluidos con Tarvo? Su archivo se conserva.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

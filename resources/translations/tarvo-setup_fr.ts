@@ -172,8 +172,8 @@
         <translation>Il n’y a pas encore de fichier de réglages. Choisissez votre modem dans la liste des périphériques.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 est inutilisable : %2. Revenez aux réglages fournis ; le fichier est conservé à côté du nouveau.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 est inutilisable : %2. Revenez aux réglages fournis ; le fichier est conservé.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Quittez Tarvo et relancez-le pour qu’il les lise.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1 : un autre programme modifie ces réglages. Réessayez.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 ne peut pas être modifié ainsi.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo a été lancé.</translation>
@@ -352,8 +360,8 @@ Les réglages ne peuvent pas être lus. Repartir des réglages fournis ? Le fich
         <translation>Repartir de zéro</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Revenir aux réglages fournis avec Tarvo ? Votre fichier est conservé à côté du nouveau.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Revenir aux réglages fournis avec Tarvo ? Votre fichier est conservé.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>Non c’è ancora un file delle impostazioni. Scegli il tuo modem nell’elenco dei dispositivi.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 non si può usare: %2. Torna alle impostazioni fornite; il file viene conservato accanto al nuovo.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 non si può usare: %2. Torna alle impostazioni fornite; il file viene conservato.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Esci da Tarvo e avvialo di nuovo, perché le legga.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: un altro programma sta modificando queste impostazioni. Riprova.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 non si può modificare in questo modo.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo è stato avviato.</translation>
@@ -352,8 +360,8 @@ Le impostazioni non si possono leggere. Ricominciare dalle impostazioni fornite?
         <translation>Ricomincia</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Tornare alle impostazioni fornite con Tarvo? Il tuo file viene conservato accanto al nuovo.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Tornare alle impostazioni fornite con Tarvo? Il tuo file viene conservato.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>設定ファイルがまだありません。デバイスの一覧でモデムを選んでください。</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 は使えません: %2。出荷時の設定に戻してください。このファイルは新しいファイルの隣に残ります。</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 は使えません: %2。出荷時の設定に戻してください。このファイルは残ります。</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>設定を読み込むよう、Tarvo を終了して起動し直してください。</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: 別のプログラムがこの設定を変更しています。もう一度お試しください。</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 はこのようには変更できません。</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo を起動しました。</translation>
@@ -352,8 +360,8 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
         <translation>やり直す</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Tarvo の出荷時の設定に戻しますか？ 今のファイルは新しいファイルの隣に残ります。</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Tarvo の出荷時の設定に戻しますか？ 今のファイルは残ります。</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>Nie ma jeszcze pliku ustawień. Wybierz swój modem z listy urządzeń.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>Nie można użyć %1: %2. Wróć do dostarczonych ustawień; plik zostanie zachowany obok nowego.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>Nie można użyć %1: %2. Wróć do dostarczonych ustawień; plik zostanie zachowany.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Zakończ Tarvo i uruchom go ponownie, aby je odczytał.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: inny program zmienia właśnie te ustawienia. Spróbuj ponownie.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>Nie można zmienić %1 w ten sposób.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo został uruchomiony.</translation>
@@ -352,8 +360,8 @@ Nie można odczytać ustawień. Zacząć od nowa od dostarczonych ustawień? Pli
         <translation>Zacznij od nowa</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Wrócić do ustawień dostarczonych z Tarvo? Twój plik zostanie zachowany obok nowego.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Wrócić do ustawień dostarczonych z Tarvo? Twój plik zostanie zachowany.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>Ainda não há arquivo de ajustes. Escolha seu modem na lista de dispositivos.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 não pode ser usado: %2. Volte aos ajustes fornecidos; o arquivo é guardado ao lado do novo.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 não pode ser usado: %2. Volte aos ajustes fornecidos; o arquivo é guardado.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Saia do Tarvo e inicie-o de novo para que ele os leia.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: outro programa está alterando estes ajustes. Tente de novo.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 não pode ser alterado desta forma.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>O Tarvo foi iniciado.</translation>
@@ -352,8 +360,8 @@ Os ajustes não podem ser lidos. Recomeçar com os ajustes fornecidos? O arquivo
         <translation>Recomeçar</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Voltar aos ajustes fornecidos com o Tarvo? Seu arquivo é guardado ao lado do novo.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Voltar aos ajustes fornecidos com o Tarvo? Seu arquivo é guardado.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

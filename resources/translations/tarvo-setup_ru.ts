@@ -172,8 +172,8 @@
         <translation>Файла параметров ещё нет. Выберите свой модем в списке устройств.</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 нельзя использовать: %2. Вернитесь к исходным параметрам; файл сохранится рядом с новым.</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 нельзя использовать: %2. Вернитесь к исходным параметрам; файл сохранится.</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>Завершите Tarvo и запустите снова, чтобы он их прочитал.</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1: эти параметры сейчас меняет другая программа. Повторите попытку.</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 нельзя изменить таким образом.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo запущен.</translation>
@@ -352,8 +360,8 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
         <translation>Начать заново</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>Вернуться к параметрам, с которыми поставляется Tarvo? Ваш файл сохранится рядом с новым.</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>Вернуться к параметрам, с которыми поставляется Tarvo? Ваш файл сохранится.</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

@@ -172,8 +172,8 @@
         <translation>还没有选项文件。请在设备列表中选择您的调制解调器。</translation>
     </message>
     <message id="FixUnreadable">
-        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept beside the new one.</source>
-        <translation>%1 无法使用：%2。请恢复为自带选项；该文件会保留在新文件旁边。</translation>
+        <source>%1 cannot be used: %2. Go back to the shipped settings; the file is kept.</source>
+        <translation>%1 无法使用：%2。请恢复为自带选项；该文件会保留。</translation>
     </message>
     <message id="FixNoDevice">
         <source>No USB network device is plugged in. Plug your modem in.</source>
@@ -327,6 +327,14 @@
         <source>Quit Tarvo and start it again, so that it reads them.</source>
         <translation>请退出 Tarvo 并重新启动，使其读取选项。</translation>
     </message>
+    <message id="SettingsBeingChanged">
+        <source>%1: another program is changing these settings. Try again.</source>
+        <translation>%1：另一个程序正在更改这些选项。请重试。</translation>
+    </message>
+    <message id="CannotBeChanged">
+        <source>%1 cannot be changed in this way.</source>
+        <translation>%1 无法这样更改。</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo 已启动。</translation>
@@ -352,8 +360,8 @@ The settings cannot be read. Start afresh from the shipped settings? The file is
         <translation>重新开始</translation>
     </message>
     <message id="AskReset">
-        <source>Go back to the settings that Tarvo is shipped with? Your file is kept beside the new one.</source>
-        <translation>要恢复为 Tarvo 自带的选项吗？您的文件会保留在新文件旁边。</translation>
+        <source>Go back to the settings that Tarvo is shipped with? Your file is kept.</source>
+        <translation>要恢复为 Tarvo 自带的选项吗？您的文件会保留。</translation>
     </message>
     <message id="ShippedSettings">
         <source>Shipped Settings</source>

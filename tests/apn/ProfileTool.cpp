@@ -2,6 +2,7 @@
 #include "apn/tool/FolderReport.h"
 #include "apn/tool/ProfileSource.h"
 #include "tests/apn/ProfileFolder.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"
 
 #include <QProcess>
@@ -77,5 +78,8 @@ TEST(ProfileTool, PacksWhatTheCompanionReads)
     EXPECT_EQ(run({u"check"_s, folder.path({})}), 1) << "there is no list";
     EXPECT_EQ(run(pack + QStringList{folder.path(u"names.json"_s)}), 1) << "a list has its own name";
     EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);
+    const FullDisk full;
+    EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 1);
+    EXPECT_TRUE(tool.readAllStandardError().contains("A.xml: "));
     EXPECT_EQ(decryptApnFile(packed), record) << "and nothing was written over";
 }

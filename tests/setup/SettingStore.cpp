@@ -2,6 +2,7 @@
 
 #include "RouterObserver/PropertyList.h"
 #include "setup/SettingKeys.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"
 
 #include <QDir>
@@ -9,6 +10,9 @@
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
+
+#include <thread>
+#include <vector>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -58,9 +62,13 @@ TEST_F(SettingStoreTest, MakesTheUsersFileOfTheShippedOne)
     EXPECT_EQ(changeSettings(useDevice({0x12d1, 7}), Damaged::Refuse).problem, QString());
     EXPECT_EQ(identifiersAt(settingsInForce().values, exclusionsPath), QStringList());
 
+    const QByteArray last = read(path_);
     EXPECT_EQ(resetSettings().backup, path_ + u".bak"_s);
-    EXPECT_EQ(read(path_), shippedSettingsFile());
-    EXPECT_EQ(resetSettings().backup, path_ + u".bak1"_s) << "no backup is written over";
+    EXPECT_EQ(read(path_ + u".bak"_s), last);
+    EXPECT_FALSE(QFile::exists(path_)) << "which would hide what the administrator set";
+    EXPECT_EQ(resetSettings().backup, QString()) << "there is nothing to take away";
+    ASSERT_TRUE(QFile::link(u"nowhere"_s, path_) && QFile::link(u"nowhere"_s, path_ + u".bak1"_s));
+    EXPECT_EQ(resetSettings().backup, path_ + u".bak2"_s) << "no backup is written over";
 }
 
 TEST_F(SettingStoreTest, StartsFromTheFileInForceAndFollowsALink)
@@ -107,4 +115,36 @@ TEST_F(SettingStoreTest, TurnsTheBinaryFormIntoXmlAndKeepsIt)
     EXPECT_TRUE(read(path_).startsWith("<?xml"));
     EXPECT_EQ(settingsInForce().values.value(u"x"_s), QVariant(true));
     EXPECT_EQ(vendors(), QStringList{u"1"_s});
+}
+
+TEST_F(SettingStoreTest, KeepsWhatIsThereWhenTheDiskIsFull)
+{
+    for (const QByteArray &before : {plist("<key>mine</key><true/>"), "damaged"_ba}) {
+        write(path_, before);
+        const FullDisk full;
+        const SettingsWritten written = changeSettings(useDevice({1, 1}), Damaged::StartAfresh);
+        EXPECT_TRUE(written.problem.startsWith(path_ + u": "_s)) << written.problem.toStdString();
+        EXPECT_EQ(written.backup, QString());
+        EXPECT_EQ(read(path_), before);
+        EXPECT_EQ(QDir(QFileInfo(path_).path()).entryList(QDir::Files), QStringList{u"Config.plist"_s});
+    }
+    const FullDisk full;
+    EXPECT_EQ(read(resetSettings().backup), "damaged") << "moving takes no room";
+}
+
+TEST_F(SettingStoreTest, LosesNoneOfChangesThatAreMadeAtOnce)
+{
+    std::vector<std::thread> programs;
+    QStringList expected;
+    for (quint16 vendor = 1; vendor <= 8; ++vendor) {
+        expected.append(QString::number(vendor));
+        programs.emplace_back([vendor] {
+            EXPECT_EQ(changeSettings(useDevice({vendor, 1}), Damaged::Refuse).problem, QString());
+        });
+    }
+    for (std::thread &program : programs)
+        program.join();
+    QStringList found = vendors();
+    found.sort();
+    EXPECT_EQ(found, expected);
 }

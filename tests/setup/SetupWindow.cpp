@@ -7,6 +7,7 @@
 #include "simulator/SimulatedModem.h"
 #include "simulator/SimulatedUsbNetworkDevices.h"
 #include "tests/support/DesktopEnvironment.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"
 
 #include <QCheckBox>
@@ -202,6 +203,11 @@ TEST(Autostart, IsSwitchedInTheUsersCopyOfTheEntry)
     QFile hidden(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/tarvo.desktop"_s);
     ASSERT_TRUE(hidden.open(QIODevice::WriteOnly) && hidden.write("[Desktop Entry]\nHidden=true\n") > 0);
     hidden.close();
+    {
+        const FullDisk full;
+        EXPECT_NE(Autostart().set(true), QString());
+    }
+    EXPECT_EQ(Autostart().isOn(), false) << "the entry is as it was";
     EXPECT_EQ(Autostart().set(true), QString());
     ASSERT_TRUE(hidden.open(QIODevice::ReadOnly));
     EXPECT_TRUE(hidden.readAll().contains("Exec=tarvo")) << "an entry that says only that it is hidden";
