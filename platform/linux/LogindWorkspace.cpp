@@ -1,6 +1,7 @@
 #include "platform/linux/LogindWorkspace.h"
 
 #include "platform/linux/InheritedDescriptors.h"
+#include "platform/linux/OpenerSession.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -23,9 +24,10 @@ namespace {
 constexpr auto openerPatience = 15s;
 
 /// Starts @p program with @p url as its argument. On a desktop without an opener of its own it stays for as long as the
-/// browser that it has started, or is that browser: so it is left alone, and goes on when we end.
+/// browser that it has started, or is that browser: so it is left alone, and goes on when we end. One that shows nothing
+/// in time is stuck, as before a bus that says nothing.
 /// @param listener  at whose end nothing is told any more
-/// @param failed    called when the program could not be started, or said in time that it failed
+/// @param failed    called when the program could not be started, said in time that it failed, or was stuck
 void runOpener(const QString &program, const QUrl &url, QObject &listener, const Workspace::Handler &failed)
 {
     auto *const process = new QProcess; // whose destructor would end it
@@ -43,9 +45,12 @@ void runOpener(const QString &program, const QUrl &url, QObject &listener, const
         process->deleteLater();
         failed();
     });
-    QTimer::singleShot(openerPatience, &listener, [process = QPointer(process), &listener] {
-        if (process)
-            process->disconnect(&listener);
+    QTimer::singleShot(openerPatience, &listener, [process = QPointer(process), &listener, failed] {
+        if (!process)
+            return;
+        process->disconnect(&listener);
+        if (endSessionWithoutWindows(static_cast<pid_t>(process->processId())))
+            failed();
     });
     process->start(program, {QString::fromLatin1(url.toEncoded())});
 }

@@ -183,6 +183,37 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOp
     EXPECT_EQ(failures, 8) << "an incomplete address is told of at once";
 }
 
+TEST_F(LogindWorkspaceTest, EndsAnOpenerThatShowsNothing)
+{
+    LogindWorkspace workspace(systemBus_, log_);
+    QFile file(folder_.filePath(u"xdg-open"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\necho $$ >> \"$0.out\"\nLD_PRELOAD=$LIBRARY sleep 1000\nexit 1\n");
+    file.close();
+    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder_.path().toUtf8() + ":/bin:/usr/bin");
+    int failures = 0;
+    QList<QByteArray> processes;
+    for (const char *const library : {"libxcb.so.1", ""}) { // a browser is told by such a one
+        qputenv("LIBRARY", library);
+        workspace.openURL(QUrl(u"http://192.168.0.1/"_s), [&] { ++failures; });
+        EXPECT_TRUE(waitFor([&] {
+            QFile output(file.fileName() + u".out"_s);
+            processes = output.open(QIODevice::ReadOnly) ? output.readAll().split('\n') : processes;
+            return !processes.isEmpty() && processes.last().isEmpty() && processes.size() == (*library ? 2 : 3);
+        }));
+    }
+    ASSERT_EQ(processes.size(), 3);
+    const auto isThere = [&](int index) { return kill(-processes[index].toInt(), 0) == 0; };
+    EXPECT_TRUE(waitFor([&] { return failures > 0; }) || waitFor([&] { return failures > 0; })) << "in some seconds";
+    EXPECT_EQ(failures, 1);
+    EXPECT_TRUE(waitFor([&] { return !isThere(1); })) << "with all that it has started";
+    EXPECT_TRUE(isThere(0)) << "it stays for as long as the browser";
+    kill(-processes[0].toInt(), SIGKILL);
+    qputenv("PATH", path);
+}
+
 TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
 {
     LogindWorkspace workspace(systemBus_, log_);
