@@ -10,7 +10,7 @@ namespace tarvo {
 struct DesktopFacts {
     std::optional<bool> showsIcons{}; ///< there is a tray
     std::optional<bool> showsNotifications{};
-    std::optional<bool> opensPages{}; ///< there is a handler for web addresses
+    std::optional<bool> opensPages{}; ///< there is a web browser
     std::optional<bool> runsApplication{}; ///< the application that was asked for has its name on the session bus
     QVariantMap applicationProperties{}; ///< what that application tells of itself there
 

@@ -1,13 +1,12 @@
 #include "platform/linux/DesktopFactsReader.h"
 
 #include "platform/linux/ApplicationService.h"
+#include "platform/linux/WebBrowsers.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
@@ -99,17 +98,6 @@ bool hasXTray()
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
-std::optional<bool> opensPages()
-{
-    if (!qEnvironmentVariableIsEmpty("BROWSER") || !qEnvironmentVariableIsEmpty("DEFAULT_BROWSER"))
-        return true;
-    QProcess question;
-    question.start(u"xdg-mime"_s, {u"query"_s, u"default"_s, u"x-scheme-handler/http"_s});
-    if (question.waitForFinished(2 * answerTimeout) && question.exitCode() == 0)
-        return !question.readAllStandardOutput().trimmed().isEmpty();
-    return std::nullopt;
-}
-
 bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -130,7 +118,7 @@ DesktopFacts readDesktopFacts(const QString &applicationName)
     if (!hasDisplay())
         return facts;
     facts.showsIcons = (bus.isConnected() && hostsNotifierItems(bus)) || hasXTray();
-    facts.opensPages = opensPages();
+    facts.opensPages = isWebBrowserInstalled();
     return facts;
 }
 
