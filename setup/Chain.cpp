@@ -145,6 +145,21 @@ void addCompanion(Chain &chain, const ChainFacts &facts)
 
 } // namespace
 
+QString markText(Mark mark)
+{
+    switch (mark) {
+    case Mark::Ok:
+        return qtTrId("MarkOk");
+    case Mark::Broken:
+        return qtTrId("MarkBroken");
+    case Mark::Unknown:
+        return qtTrId("MarkUnknown");
+    case Mark::Skipped:
+        return qtTrId("MarkSkipped");
+    }
+    return {};
+}
+
 QString Check::title() const
 {
     return qtTrId(("Check_" + id).constData());

@@ -23,6 +23,9 @@ enum class Mark {
     Skipped, ///< it is not needed, or a link before it is broken
 };
 
+/// @return what @p mark says, in the user's language
+QString markText(Mark mark);
+
 /// One link of the chain from the settings to the running companion.
 struct Check {
     QByteArray id; ///< never changes, for programs

@@ -5,9 +5,11 @@
 #include "setup/Survey.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -22,10 +24,10 @@ void print(const QString &text)
     QTextStream(stdout) << text << Qt::flush;
 }
 
-int fail(const QString &problem, int status = exit_status::failed)
+int fail(const QString &problem)
 {
     QTextStream(stderr) << u"tarvo-setup: "_s << problem << Qt::endl;
-    return status;
+    return exit_status::failed;
 }
 
 /// Runs the event loop until @p start's argument was called. @return what that was called with
@@ -70,28 +72,28 @@ int check(const Command &command, Survey &survey)
     return isWhole(checks) ? exit_status::inOrder : exit_status::failed;
 }
 
-int show(const Command &, Survey &)
+int show(const Command &command, Survey &)
 {
     const SettingsInForce settings = settingsInForce();
     if (settings.path.isEmpty())
-        return fail(u"there is no file of settings"_s);
+        return fail(qtTrId("FixNoSettings"));
     if (!settings.problem.isEmpty())
-        return fail(settings.path + u": "_s + settings.problem);
-    print(settings.path + u'\n' + settingsAsText(settings.values));
+        return fail(qtTrId("FixUnreadable").arg(settings.path, settings.problem));
+    print(command.asJson ? QString::fromUtf8(settingsAsJson(settings))
+                         : settings.path + u'\n' + settingsAsText(settings.values));
     return exit_status::inOrder;
 }
 
-QString restartLine(ActionResult result)
+QString restartText(ActionResult result)
 {
     switch (result) {
     case ActionResult::Done:
-        return u"The companion starts again with these settings.\n"_s;
+        return qtTrId("CompanionRestarts");
     case ActionResult::NotRunning:
-        return u"The companion is not running; it will read these settings when it starts.\n"_s;
+        return qtTrId("CompanionNotRunning");
     case ActionResult::NoBus:
-        return u"There is no session bus to tell the companion: quit it and start it again.\n"_s;
     case ActionResult::Failed:
-        return u"The companion did not answer: quit it and start it again.\n"_s;
+        return qtTrId("CompanionUntold");
     }
     return {};
 }
@@ -100,34 +102,45 @@ QString restartLine(ActionResult result)
 int finish(const SettingsWritten &written, Survey &survey)
 {
     if (!written.problem.isEmpty())
-        return fail(written.problem
-                    + (written.isDamaged ? u"; --force starts from the shipped settings"_s : QString()));
-    print(u"The settings are in %1\n"_s.arg(userSettingsPath()));
+        return fail(qtTrId("NotSaved").arg(written.problem)
+                    + (written.isDamaged ? u' ' + qtTrId("ForceStartsAfresh") : QString()));
+    const QString path = settingsInForce().path;
+    print((path.isEmpty() ? qtTrId("FixNoSettings") : qtTrId("SettingsAreIn").arg(path)) + u'\n');
     if (written.fromBinary)
-        print(u"They had the binary form and have the XML form now.\n"_s);
+        print(qtTrId("WasBinary") + u'\n');
     if (!written.backup.isEmpty())
-        print(u"What was there before is in %1\n"_s.arg(written.backup));
-    print(restartLine(waitFor<ActionResult>([&](auto deliver) { survey.restartCompanion(std::move(deliver)); })));
+        print(qtTrId("OldFileKept").arg(written.backup) + u'\n');
+    const auto result = waitFor<ActionResult>([&](auto deliver) { survey.restartCompanion(std::move(deliver)); });
+    print(restartText(result) + u'\n');
     return exit_status::inOrder;
 }
 
-int change(const Command &command, Survey &survey, SettingChange (*changeFor)(DeviceId))
+int change(const Command &command, Survey &survey, const SettingChange &change)
 {
-    const auto device = deviceIdFrom(command.words.value(1));
-    if (!device)
-        return fail(u"a device is VENDOR:PRODUCT, both hexadecimal, as lsusb and the list show it"_s,
-                    exit_status::wrongUse);
-    return finish(changeSettings(changeFor(*device), command.force ? Damaged::StartAfresh : Damaged::Refuse), survey);
+    return finish(changeSettings(change, command.force ? Damaged::StartAfresh : Damaged::Refuse), survey);
+}
+
+bool isPluggedIn(DeviceId device, const Survey &survey)
+{
+    return std::ranges::any_of(survey.devices({}), [device](const Device &there) {
+        return DeviceId{there.usb.vendor, there.usb.product} == device;
+    });
 }
 
 int use(const Command &command, Survey &survey)
 {
-    return change(command, survey, useDevice);
+    const DeviceId device = command.device;
+    if (isNoModem(device) && !command.force)
+        return fail(qtTrId("NeedsForce").arg(command.words[1]));
+    const int status = change(command, survey, useDevice(device));
+    if (status == exit_status::inOrder && !isPluggedIn(device, survey))
+        print(qtTrId("NotPluggedIn").arg(command.words[1]) + u'\n');
+    return status;
 }
 
 int exclude(const Command &command, Survey &survey)
 {
-    return change(command, survey, excludeDevice);
+    return change(command, survey, excludeDevice(command.device));
 }
 
 int reset(const Command &, Survey &survey)
@@ -137,15 +150,16 @@ int reset(const Command &, Survey &survey)
 
 struct Operation {
     QString name;
-    qsizetype operands;
+    qsizetype operands; ///< devices
+    bool hasJson;
     int (*run)(const Command &, Survey &);
 };
 
 const Operation *operationOf(const QStringList &words)
 {
     static const Operation operations[] = {
-        {u"list"_s, 0, list}, {u"check"_s, 0, check},     {u"show"_s, 0, show},
-        {u"use"_s, 1, use},   {u"exclude"_s, 1, exclude}, {u"reset"_s, 0, reset},
+        {u"list"_s, 0, true, list}, {u"check"_s, 0, true, check},      {u"show"_s, 0, true, show},
+        {u"use"_s, 1, false, use},  {u"exclude"_s, 1, false, exclude}, {u"reset"_s, 0, false, reset},
     };
     for (const Operation &operation : operations) {
         if (operation.name == words.value(0) && operation.operands == words.size() - 1)
@@ -166,9 +180,24 @@ void describe(QCommandLineParser &parser)
                                      "  reset                   goes back to the shipped settings"_s);
     parser.addOption({{u"h"_s, u"help"_s}, u"Show this help."_s});
     parser.addOption({{u"v"_s, u"version"_s}, u"Show the version."_s});
-    parser.addOption({u"json"_s, u"Print JSON (list, check)."_s});
-    parser.addOption({u"force"_s, u"Start from the shipped settings where the present ones are damaged."_s});
+    parser.addOption({u"json"_s, u"Print JSON (list, check, show)."_s});
+    parser.addOption({u"force"_s,
+                      u"Start from the shipped settings where the present ones are damaged, and use even a device that "
+                      "can be none."_s});
     parser.addPositionalArgument(u"command"_s, u"What to do."_s, u"[command]"_s);
+}
+
+/// @return what is wrong with a command that is to be run; empty when nothing is
+QString errorIn(const Command &command)
+{
+    const Operation *const operation = operationOf(command.words);
+    if (!operation && !command.words.isEmpty())
+        return u"%1: see tarvo-setup --help"_s.arg(command.words.join(u' '));
+    if (command.asJson && !(operation && operation->hasJson))
+        return u"--json is for list, check and show"_s;
+    if (operation && operation->operands == 1 && !deviceIdFrom(command.words[1]))
+        return u"a device is VENDOR:PRODUCT, both hexadecimal, as lsusb and the list show it"_s;
+    return {};
 }
 
 } // namespace
@@ -185,14 +214,16 @@ Command commandFrom(const QStringList &arguments)
         command.output = parser.helpText().replace(u"<executable_name>"_s, u"tarvo-setup"_s);
     else if (parser.isSet(u"version"_s))
         command.output = u"tarvo-setup "_s + QStringLiteral(TARVO_VERSION "\n");
-    else if (!command.words.isEmpty() && !operationOf(command.words))
-        command.error = u"%1: see tarvo-setup --help"_s.arg(command.words.join(u' '));
+    else
+        command.error = errorIn(command);
+    command.device = deviceIdFrom(command.words.value(1)).value_or(DeviceId());
     return command;
 }
 
 int runCommand(const Command &command, Survey &survey)
 {
-    return operationOf(command.words)->run(command, survey);
+    const int status = operationOf(command.words)->run(command, survey);
+    return std::ferror(stdout) == 0 ? status : fail(qtTrId("OutputLost"));
 }
 
 } // namespace tarvo

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "setup/Devices.h"
+
 #include <QString>
 #include <QStringList>
-
-#include <optional>
 
 namespace tarvo {
 
@@ -19,6 +19,7 @@ inline constexpr int wrongUse = 2;
 /// What the program was asked for on its command line.
 struct Command {
     QStringList words{}; ///< the command and its operands; empty for the window
+    DeviceId device{}; ///< the operand, where the command has one
     bool asJson = false;
     bool force = false;
     QString output{}; ///< to be printed instead of anything else, such as help

@@ -2,6 +2,7 @@
 
 #include "setup/SettingKeys.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -47,6 +48,19 @@ Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings)
     return supported ? Support::Supported : Support::Unsupported;
 }
 
+QString supportText(Support support)
+{
+    switch (support) {
+    case Support::Supported:
+        return qtTrId("DeviceSupported");
+    case Support::Excluded:
+        return qtTrId("DeviceExcluded");
+    case Support::Unsupported:
+        return qtTrId("DeviceUnsupported");
+    }
+    return {};
+}
+
 std::optional<Device> deviceToCheck(const QList<Device> &devices)
 {
     std::optional<Device> furthest;
@@ -64,6 +78,11 @@ std::optional<DeviceId> deviceIdFrom(const QString &text)
     if (!match.hasMatch())
         return std::nullopt;
     return DeviceId{match.captured(1).toUShort(nullptr, 16), match.captured(2).toUShort(nullptr, 16)};
+}
+
+bool isNoModem(DeviceId device)
+{
+    return device.vendor == 0 || device.vendor == 0xffff || QString::number(device.vendor) == exampleVendor;
 }
 
 } // namespace tarvo

@@ -34,6 +34,9 @@ struct Device {
 
 Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings);
 
+/// @return what @p support says, in the user's language
+QString supportText(Support support);
+
 /// @return the supported one among @p devices that has come furthest on its way to a gateway, the first of several;
 ///         nil when none is supported
 std::optional<Device> deviceToCheck(const QList<Device> &devices);
@@ -48,5 +51,8 @@ struct DeviceId {
 
 /// Reads `VENDOR:PRODUCT`, both hexadecimal. @return nil when @p text is something else
 std::optional<DeviceId> deviceIdFrom(const QString &text);
+
+/// @return whether @p device names no maker: what stands for none, and the example of the shipped settings
+bool isNoModem(DeviceId device);
 
 } // namespace tarvo

@@ -2,6 +2,7 @@
 
 #include "setup/SettingKeys.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -61,28 +62,27 @@ QJsonObject deviceAsJson(const ListedDevice &listed)
 
 QString networkAsText(const Device &device)
 {
-    QStringList parts{u"interface "_s + device.usb.interfaceName};
-    if (!device.usb.driver.isEmpty())
-        parts[0] += u" (%1)"_s.arg(device.usb.driver);
-    parts.append(device.network.isUp ? u"up"_s : u"down"_s);
-    for (const QString &address : device.network.addresses)
-        parts.append(u"address "_s + address);
-    parts.append(device.network.gateway.isEmpty() ? u"no gateway"_s : u"gateway "_s + device.network.gateway);
+    const auto &[usb, network, support] = device;
+    QStringList parts{usb.driver.isEmpty() ? usb.interfaceName : u"%1 (%2)"_s.arg(usb.interfaceName, usb.driver)};
+    if (!network.isUp)
+        parts.append(qtTrId("LinkDown"));
+    parts.append(network.addresses);
+    parts.append(network.gateway.isEmpty() ? qtTrId("DeviceNoGateway") : qtTrId("DeviceGateway").arg(network.gateway));
     return parts.join(u", "_s);
 }
 
 QString stateAsText(const ListedDevice &listed)
 {
-    QString text = supportName(listed.device.support);
+    QString text = supportText(listed.device.support);
     if (listed.isModem)
-        text += *listed.isModem ? u", answers like a modem"_s : u", does not answer like a modem"_s;
+        text += u", "_s + (*listed.isModem ? qtTrId("DeviceIsModem") : qtTrId("DeviceIsNoModem"));
     return text;
 }
 
 QString valueAsText(const QVariant &value)
 {
     if (!value.isValid())
-        return u"(absent)"_s;
+        return u"-"_s;
     return QString::fromUtf8(QJsonDocument(QJsonArray{QJsonValue::fromVariant(value)}).toJson(QJsonDocument::Compact))
         .sliced(1)
         .chopped(1);
@@ -101,14 +101,14 @@ QByteArray devicesAsJson(const QList<ListedDevice> &devices)
 QString devicesAsText(const QList<ListedDevice> &devices)
 {
     if (devices.isEmpty())
-        return u"no USB network device is plugged in\n"_s;
+        return qtTrId("NoDevices") + u'\n';
     QString text;
     for (const ListedDevice &listed : devices) {
         const QString id = listed.device.identifier();
         text += u"%1  %2\n    %3\n    %4\n"_s.arg(id, listed.device.name(), networkAsText(listed.device),
                                                   stateAsText(listed));
         if (listed.device.support != Support::Supported)
-            text += u"    to use it: tarvo-setup use %1\n"_s.arg(id);
+            text += u"    "_s + qtTrId("UseCommand").arg(u"tarvo-setup use "_s + id) + u'\n';
     }
     return text;
 }
@@ -130,11 +130,18 @@ QString checksAsText(const QList<Check> &checks)
 {
     QString text;
     for (const Check &check : checks) {
-        text += u"%1  %2\n"_s.arg(markName(check.mark), -7).arg(check.title());
+        text += u"%1: %2\n"_s.arg(check.title(), markText(check.mark));
         for (const QString &line : QStringList{check.advice.shown()} + check.details)
-            text += line.isEmpty() ? QString() : u"         "_s + line + u'\n';
+            text += line.isEmpty() ? QString() : u"    "_s + line + u'\n';
     }
     return text;
+}
+
+QByteArray settingsAsJson(const SettingsInForce &settings)
+{
+    return QJsonDocument(
+               QJsonObject{{u"path"_s, settings.path}, {u"settings"_s, QJsonObject::fromVariantMap(settings.values)}})
+        .toJson();
 }
 
 QString settingsAsText(const QVariantMap &settings)

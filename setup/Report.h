@@ -2,6 +2,7 @@
 
 #include "setup/Chain.h"
 #include "setup/Devices.h"
+#include "setup/SettingStore.h"
 
 #include <QByteArray>
 #include <QList>
@@ -23,12 +24,14 @@ struct ListedDevice {
 // The JSON forms are documented in tarvo-setup(1), and programs rely on them.
 
 QByteArray devicesAsJson(const QList<ListedDevice> &devices);
+/// In the user's language.
 QString devicesAsText(const QList<ListedDevice> &devices);
 
 QByteArray checksAsJson(const QList<Check> &checks);
 /// In the user's language, a line for each link.
 QString checksAsText(const QList<Check> &checks);
 
+QByteArray settingsAsJson(const SettingsInForce &settings);
 /// A line for each setting: its key and its value.
 QString settingsAsText(const QVariantMap &settings);
 

@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>لا يمكن تغيير %1 بهذه الطريقة.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>مع ‎--force تكون الإعدادات الأصلية هي البداية.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>مطفأة</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>لاستخدامه: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 ليس رقم أي مودم. يعرض الأمر «tarvo-setup list» رقم جهازك؛ ومع ‎--force يُقبل على أي حال.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>لا يوجد جهاز %1 موصول.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>تعذّرت كتابة المخرجات.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>الإعدادات السارية موجودة في %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>شُغّل Tarvo.</translation>

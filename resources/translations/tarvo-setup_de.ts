@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 kann nicht so geändert werden.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>Mit --force wird mit den mitgelieferten Einstellungen neu begonnen.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>zum Verwenden: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 ist die Nummer keines Modems. „tarvo-setup list“ zeigt Ihre; mit --force wird sie trotzdem genommen.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>Es ist kein Gerät %1 angeschlossen.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>Die geltenden Einstellungen stehen in %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo wurde gestartet.</translation>

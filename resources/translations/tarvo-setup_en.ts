@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 cannot be changed in this way.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>With --force, the shipped settings are the start.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>switched off</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>to use it: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>No device %1 is plugged in.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>The output could not be written.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>The settings in force are in %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo has been started.</translation>

@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 no se puede cambiar de esta manera.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>Con --force se parte de los ajustes incluidos.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>desactivada</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>para usarlo: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 no es el número de ningún módem. «tarvo-setup list» muestra el suyo; con --force se acepta de todos modos.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>No hay ningún dispositivo %1 conectado.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>No se pudo escribir la salida.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>Los ajustes vigentes están en %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo se ha iniciado.</translation>

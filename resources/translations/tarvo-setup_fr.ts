@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 ne peut pas être modifié ainsi.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>Avec --force, on repart des réglages fournis.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>désactivée</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>pour l’utiliser : %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 n’est le numéro d’aucun modem. « tarvo-setup list » montre le vôtre ; avec --force, il est pris quand même.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>Aucun appareil %1 n’est branché.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>La sortie n’a pas pu être écrite.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>Les réglages en vigueur sont dans %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo a été lancé.</translation>

@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 non si può modificare in questo modo.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>Con --force si riparte dalle impostazioni fornite.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>disattivata</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>per usarlo: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 non è il numero di nessun modem. “tarvo-setup list” mostra il tuo; con --force viene preso lo stesso.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>Nessun dispositivo %1 è collegato.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>Impossibile scrivere l’output.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>Le impostazioni in vigore sono in %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo è stato avviato.</translation>

@@ -335,6 +335,34 @@
         <source>%1 cannot be changed in this way.</source>
         <translation>Nie można zmienić %1 w ten sposób.</translation>
     </message>
+    <message id="ForceStartsAfresh">
+        <source>With --force, the shipped settings are the start.</source>
+        <translation>Z --force punktem wyjścia są dostarczone ustawienia.</translation>
+    </message>
+    <message id="LinkDown">
+        <source>switched off</source>
+        <translation>wyłączony</translation>
+    </message>
+    <message id="UseCommand">
+        <source>to use it: %1</source>
+        <translation>aby go używać: %1</translation>
+    </message>
+    <message id="NeedsForce">
+        <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
+        <translation>%1 nie jest numerem żadnego modemu. „tarvo-setup list” pokaże Twój; z --force zostanie mimo to przyjęty.</translation>
+    </message>
+    <message id="NotPluggedIn">
+        <source>No device %1 is plugged in.</source>
+        <translation>Żadne urządzenie %1 nie jest podłączone.</translation>
+    </message>
+    <message id="OutputLost">
+        <source>The output could not be written.</source>
+        <translation>Nie można było zapisać wyjścia.</translation>
+    </message>
+    <message id="SettingsAreIn">
+        <source>The settings in force are in %1.</source>
+        <translation>Obowiązujące ustawienia są w %1.</translation>
+    </message>
     <message id="CompanionStarted">
         <source>Tarvo has been started.</source>
         <translation>Tarvo został uruchomiony.</translation>

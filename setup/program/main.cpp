@@ -18,6 +18,9 @@
 #include <QStandardPaths>
 #include <QTextStream>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -116,11 +119,22 @@ QStringList textsOf(int argc, char **argv)
     return texts;
 }
 
+int printed(const QString &output)
+{
+    QTextStream(stdout) << output << Qt::flush;
+    if (std::ferror(stdout) == 0)
+        return exit_status::inOrder;
+    QTextStream(stderr) << u"tarvo-setup: the output cannot be written"_s << Qt::endl;
+    return exit_status::failed;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     qunsetenv("SSLKEYLOGFILE"); // libcurl makes that file as soon as it is loaded, though no TLS is ever spoken
+    if (fcntl(STDOUT_FILENO, F_GETFD) == -1)
+        open("/dev/full", O_WRONLY); // or else a file that is opened later is taken for the output
     QCoreApplication::setApplicationName(u"tarvo-setup"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
     const Command command = commandFrom(textsOf(argc, argv));
@@ -128,9 +142,8 @@ int main(int argc, char **argv)
         QTextStream(stderr) << u"tarvo-setup: "_s << command.error << Qt::endl;
         return exit_status::wrongUse;
     }
-    QTextStream(stdout) << command.output << Qt::flush;
     if (!command.output.isEmpty())
-        return exit_status::inOrder;
+        return printed(command.output);
     if (!command.words.isEmpty())
         return runInTerminal(argc, argv, command);
     if (hasDisplay())

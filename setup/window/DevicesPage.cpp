@@ -32,19 +32,6 @@ Mark markOf(const ListedDevice &listed)
     return Mark::Unknown;
 }
 
-QString supportText(Support support)
-{
-    switch (support) {
-    case Support::Supported:
-        return qtTrId("DeviceSupported");
-    case Support::Excluded:
-        return qtTrId("DeviceExcluded");
-    case Support::Unsupported:
-        return qtTrId("DeviceUnsupported");
-    }
-    return {};
-}
-
 QString answerText(const ListedDevice &listed)
 {
     if (listed.device.network.gateway.isEmpty())

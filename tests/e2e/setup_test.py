@@ -30,12 +30,16 @@ class SetupTest(companion_test.Companion):
     def tearDown(self):
         pass  # not every test starts the companion
 
-    def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent", libraries=""):
-        environment = surroundings.environment(self.folder, self.usb, bus) | {"LD_LIBRARY_PATH": libraries}
-        run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=subprocess.PIPE, text=True, timeout=60,
-                             check=False)
-        self.assertEqual(run.returncode, status, run.stdout)
-        return json.loads(run.stdout) if "--json" in arguments else run.stdout
+    def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent", libraries="", output=subprocess.PIPE,
+                      language="en"):
+        environment = surroundings.environment(self.folder, self.usb, bus) | {
+            "LD_LIBRARY_PATH": libraries, "LANGUAGE": language}
+        run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=output, stderr=subprocess.PIPE, text=True,
+                             timeout=60, check=False)
+        self.assertEqual(run.returncode, status, run)
+        if arguments[0] != "check":
+            self.assertEqual(bool(run.stderr), status != 0, run)
+        return json.loads(run.stdout) if "--json" in arguments and status < 2 else run.stdout
 
     def marks(self, status=0, **options):
         checks = self.setup_program("check", "--json", status=status, **options)["checks"]
@@ -93,15 +97,41 @@ class SetupTest(companion_test.Companion):
         self.modem.tell("fault refuse")
         self.assertEqual(self.marks(status=1)["port"], "broken")
         self.setup_program("exclude", DEVICE)
-        self.assertIn("excluded", self.setup_program("list"))
+        self.assertIn("Left alone", self.setup_program("list"))
         self.assertEqual(self.marks(status=1)["device"], "broken")
         self.config.write_text("<plist>")
         self.setup_program("use", DEVICE, status=1)
         self.setup_program("use", DEVICE, "--force")
         self.assertIn("vendor_ids: [\"6611\"]", self.setup_program("show"))
+        shown = self.setup_program("show", "--json")
+        self.assertEqual(shown["path"], str(self.config))
+        self.assertEqual(shown["settings"]["device_info"]["vendor_ids"], ["6611"])
         self.setup_program("reset")
         self.assertFalse(self.config.exists())
-        self.setup_program("use", "nonsense", status=2)
+
+    def test_refuses_what_it_cannot_do(self):
+        for arguments in ("use nonsense", f"use {DEVICE} --json", "exclude 1:1 --json", "reset --json", "--json", "show 1"):
+            self.setup_program(*arguments.split(), status=2)
+        for device in ("0:0", "ffff:ffff", "1234:5678"):
+            self.setup_program("use", device, status=1)
+            self.assertFalse(self.config.exists())
+            self.setup_program("use", device, "--force")
+            self.setup_program("reset")
+        with open("/dev/full", "w", encoding="ascii") as full:
+            for arguments in ("list", "--help"):
+                self.setup_program(*arguments.split(), status=1, output=full)
+
+    def test_speaks_one_language_at_a_time(self):
+        self.assertIn("No device 19d3:1 is plugged in.", self.setup_program("use", "19d3:1"))
+        self.modem.plug("enx1")
+        self.assertNotIn("plugged in", self.setup_program("use", DEVICE))
+        for arguments, english, german in (("list", "answers like a modem", "antwortet wie ein Modem"),
+                                           ("use 19d3:2", "in force", "Die geltenden Einstellungen stehen in"),
+                                           ("check", "In order", "In Ordnung")):
+            self.assertIn(english, self.setup_program(*arguments.split()))
+            output = self.setup_program(*arguments.split(), language="de")
+            self.assertIn(german, output)
+            self.assertNotIn(english, output)
 
     def test_does_not_wait_for_a_bus_that_says_nothing(self):
         with socket.socket(socket.AF_UNIX) as silent:
