@@ -62,4 +62,20 @@ void SimulatedNotificationService::CloseNotification(uint identifier)
     m_shown.remove(identifier);
 }
 
+QString SimulatedNotificationService::GetServerInformation(QString &vendor, QString &version,
+                                                           QString &specification) const
+{
+    vendor = u"simulator"_s;
+    version = u"1"_s;
+    specification = u"1.2"_s;
+    return m_name;
+}
+
+void SimulatedNotificationService::expire(uint identifier)
+{
+    constexpr uint expired = 1;
+    m_shown.remove(identifier);
+    Q_EMIT NotificationClosed(identifier, expired);
+}
+
 } // namespace tarvo

@@ -29,8 +29,12 @@ public:
     void refuse() { m_refuses = true; }
     /// From now on no notification is answered.
     void fallSilent() { m_silent = true; }
-    /// The user chooses the action @p key of the last notification.
-    void choose(const QString &key) { Q_EMIT ActionInvoked(m_last, key); }
+    /// Is called @p name when asked from now on.
+    void setName(const QString &name) { m_name = name; }
+    /// The user chooses the action @p key of the notification @p identifier.
+    void choose(uint identifier, const QString &key) { Q_EMIT ActionInvoked(identifier, key); }
+    /// The notification @p identifier has been long enough on the screen.
+    void expire(uint identifier);
     /// @return the actions of the last notification: keys and labels in turn
     const QStringList &actions() const { return m_actions; }
 
@@ -41,12 +45,14 @@ public:
 
 Q_SIGNALS:
     void ActionInvoked(uint identifier, const QString &key);
+    void NotificationClosed(uint identifier, uint reason);
 
 public Q_SLOTS:
     // The names are the interface's.
     uint Notify(const QString &application, uint replaces, const QString &icon, const QString &summary,
                 const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout);
     void CloseNotification(uint identifier);
+    QString GetServerInformation(QString &vendor, QString &version, QString &specification) const;
 
 private:
     QDBusConnection m_bus;
@@ -55,6 +61,7 @@ private:
     uint m_last = 40;
     bool m_refuses = false;
     bool m_silent = false;
+    QString m_name;
     QStringList m_actions;
 };
 

@@ -43,19 +43,29 @@ private:
 class NotificationBalloon final : public Balloon {
 public:
     /// @param otherwise  shows the message in another way when the service turns it down
-    NotificationBalloon(Notifications &notifications, const Notification &notification, Otherwise otherwise)
+    /// @param appeared   told when one or the other has been shown
+    NotificationBalloon(Notifications &notifications, const Notification &notification, Otherwise otherwise,
+                        std::function<void()> appeared)
         : m_notifications(notifications)
+        , m_kind(notification.kind)
     {
-        notifications.show(notification, [this, otherwise = std::move(otherwise)] { m_replacement = otherwise(); });
+        notifications.show(notification,
+                           [this, otherwise = std::move(otherwise), appeared = std::move(appeared)](bool shown) {
+                               if (!shown)
+                                   m_replacement = otherwise();
+                               if (appeared)
+                                   appeared();
+                           });
     }
 
     // The notification stays where the desktop keeps such things; only nothing comes in its place any more.
-    ~NotificationBalloon() override { m_notifications.forgetFailure(); }
+    ~NotificationBalloon() override { m_notifications.forgetAnswer(m_kind); }
 
     bool isUnderPointer() const override { return m_replacement && m_replacement->isUnderPointer(); }
 
 private:
     Notifications &m_notifications;
+    const QString m_kind;
     std::unique_ptr<Balloon> m_replacement;
 };
 
@@ -104,7 +114,10 @@ BalloonPresenter::BalloonPresenter(Surroundings surroundings)
     ballooonTextField_ = interface.ballooonTextField_;
 }
 
-BalloonPresenter::~BalloonPresenter() = default;
+BalloonPresenter::~BalloonPresenter()
+{
+    withdraw(); // their action leads to who may be gone
+}
 
 void BalloonPresenter::toggleAttachedWindowAtPoint(const std::optional<QString> &text, const BalloonExtras &extras)
 {
@@ -128,25 +141,31 @@ void BalloonPresenter::close()
         std::exchange(m_closed, {})();
 }
 
-void BalloonPresenter::withdraw() const
+void BalloonPresenter::withdraw()
 {
-    if (m_with.notifications)
-        m_with.notifications->close();
+    for (const QString &kind : std::exchange(m_notified, {}))
+        m_with.notifications->close(kind);
 }
 
 std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const BalloonExtras &extras)
 {
     const std::optional<QRect> iconFrame = m_with.iconFrame ? m_with.iconFrame() : std::nullopt;
-    if (iconFrame || !m_with.notifications || !m_with.notifications->available())
-        return showWindow(text, iconFrame);
-    const Notification notification{.title = extras.title.isEmpty() ? u"Tarvo"_s : extras.title,
+    if (iconFrame || !m_with.notifications || !m_with.notifications->available()) {
+        auto window = showWindow(text, iconFrame);
+        if (extras.appeared)
+            extras.appeared();
+        return window;
+    }
+    m_notified.insert(extras.kind);
+    const Notification notification{.kind = extras.kind,
+                                    .title = extras.title.isEmpty() ? u"Tarvo"_s : extras.title,
                                     .text = text,
                                     .iconName = u"io.github.tarvo.Tarvo"_s,
                                     .image = extras.image,
                                     .openLabel = extras.openLabel,
-                                    .opened = m_with.clicked};
-    return std::make_unique<NotificationBalloon>(*m_with.notifications, notification,
-                                                 [this, text] { return showWindow(text, std::nullopt); });
+                                    .opened = extras.opened};
+    return std::make_unique<NotificationBalloon>(
+        *m_with.notifications, notification, [this, text] { return showWindow(text, std::nullopt); }, extras.appeared);
 }
 
 void BalloonPresenter::listenTo(const OvAttachedWindow &window)

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 
 class QLabel;
 class QWidget;
@@ -18,11 +19,14 @@ class Balloon;
 class Notifications;
 class OvAttachedWindow;
 
-/// What is shown beside a balloon's text where the desktop has room for it.
+/// What goes with a balloon's text where the desktop has room for it.
 struct BalloonExtras {
+    QString kind{}; ///< a notification takes the place of the last one of its kind
     QString title{};
     QImage image{};
-    QString openLabel{}; ///< of the action that leads to the news' page; empty where there is none
+    QString openLabel{}; ///< of the notification's action; empty where there is none
+    std::function<void()> opened{}; ///< the user has chosen that action
+    std::function<void()> appeared{}; ///< the balloon has come onto the screen; not called when it was closed before
 };
 
 /// Shows short messages in the way that the desktop allows: in a balloon that points at the icon where the icon's place
@@ -35,7 +39,7 @@ public:
         std::function<bool()> isScreenComposited{}; ///< whether windows may be translucent; empty means no
         /// Tells where the icon is, in global coordinates with y downwards; nil when that is not known.
         std::function<std::optional<QRect>()> iconFrame{};
-        std::function<void()> clicked{}; ///< the user has clicked a balloon, or the action of a notification
+        std::function<void()> clicked{}; ///< the user has clicked a balloon
     };
 
     explicit BalloonPresenter(Surroundings surroundings);
@@ -51,8 +55,8 @@ public:
     /// Closes the balloon, but not under the pointer: then as soon as that has left it.
     /// @param closed  called when it has been closed, in whatever way; at once when none is shown
     void dismiss(std::function<void()> closed);
-    /// Takes back the notification that is left of the last balloon.
-    void withdraw() const;
+    /// Takes back the notifications that are left of earlier balloons.
+    void withdraw();
 
 private:
     void close();
@@ -64,6 +68,7 @@ private:
     std::unique_ptr<QWidget> balloonView_;
     QLabel *ballooonTextField_ = nullptr;
     std::function<void()> m_closed; ///< told when the balloon that is being dismissed has been closed
+    std::set<QString> m_notified; ///< the kinds of the notifications that may be left
     QObject m_context; ///< what is queued for it ends with the presenter
     std::unique_ptr<Balloon> attachedWindow; ///< the balloon while it is shown
 };

@@ -136,7 +136,7 @@ void NewsSequence::displayNews(const Work &work, int type)
     const DisplayStatus status = evaluate(work, type);
     if (!status.balloonText.isEmpty()) {
         statusDisplayFlowFinishFlag_ = false;
-        if (showBalloon(work, status, type)) {
+        if (showBalloon(work, gone, status, type)) {
             pause(gone, 3s);
             closeBalloon(gone);
         }
@@ -144,34 +144,40 @@ void NewsSequence::displayNews(const Work &work, int type)
     pause(work.stopToken(), 2s);
 }
 
-BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image) const
+BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image, int type) const
 {
     constexpr int imageSize = 64;
-    return {.title = news.page == Page::Firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
+    return {.kind = u"news %1"_s.arg(type),
+            .title = news.page == Page::Firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
             .image = imageNamed(image).pixmap(imageSize).toImage(),
-            .openLabel = m_with.pages.clickPage() == Page::None ? QString() : qtTrId("NewsOpen")};
+            .openLabel = m_with.pages.canOpen(news.page) ? qtTrId("NewsOpen") : QString(),
+            .opened = [this, page = news.page] { m_with.pages.open(page); }};
 }
 
-bool NewsSequence::showBalloon(const Work &work, const DisplayStatus &status, int type)
+bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status,
+                               int type)
 {
     const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
     work.whileAttached([&] {
         m_shownImage = status.image;
         m_toldClick.reset(); // what is told with the news is that of one step
     });
-    const auto shown = std::make_shared<Latch>();
-    work.post(m_with.mainThread, [this, status, news, shown] {
+    const auto asked = std::make_shared<Latch>();
+    const auto appeared = std::make_shared<Latch>();
+    work.post(m_with.mainThread, [this, status, news, type, asked, appeared] {
         m_with.icon.setStatusImage(status.image);
         if (m_with.balloon.isShown())
             m_with.balloon.toggleAttachedWindowAtPoint(news.text);
-        m_with.balloon.toggleAttachedWindowAtPoint(news.text, extrasOf(news, status.image));
+        BalloonExtras extras = extrasOf(news, status.image, type);
+        extras.appeared = [appeared] { appeared->open(); };
+        m_with.balloon.toggleAttachedWindowAtPoint(news.text, extras);
         if (status.announcesUpdate)
             m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.told)
             m_with.told(news);
-        shown->open();
+        asked->open();
     });
-    return shown->wait(work.stopToken());
+    return asked->wait(work.stopToken()) && appeared->wait(deviceGone);
 }
 
 void NewsSequence::closeBalloon(const std::stop_token &deviceGone)

@@ -108,9 +108,9 @@ private:
     DisplayStatus evaluate(const Work &work, int type);
     /// One step of the sequence: shows what is new for one display type, then waits.
     void displayNews(const Work &work, int type);
-    BalloonExtras extrasOf(const StandingNews &news, const QString &image) const;
-    /// Shows the balloon of @p status. @return whether it came onto the screen
-    bool showBalloon(const Work &work, const DisplayStatus &status, int type);
+    BalloonExtras extrasOf(const StandingNews &news, const QString &image, int type) const;
+    /// Shows the balloon of @p status, and waits until it is on the screen. @return whether it came there
+    bool showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status, int type);
     /// Closes the balloon, and waits until it is closed.
     void closeBalloon(const std::stop_token &deviceGone);
     /// Shows the image and tells of the click target that the sequence has led to.

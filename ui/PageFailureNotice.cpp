@@ -14,6 +14,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
+const QString &kind()
+{
+    static const QString name = u"page failure"_s;
+    return name;
+}
+
 /// @return what of @p page fits into a balloon, which has one line
 QString shortened(const QString &page)
 {
@@ -42,7 +48,7 @@ PageFailureNotice::PageFailureNotice(BalloonPresenter::Surroundings surroundings
 PageFailureNotice::~PageFailureNotice()
 {
     if (m_notifications)
-        m_notifications->forgetFailure();
+        m_notifications->forgetAnswer(kind());
 }
 
 void PageFailureNotice::tell(const QString &page)
@@ -51,10 +57,14 @@ void PageFailureNotice::tell(const QString &page)
         showBalloon(page);
         return;
     }
-    m_notifications->show({.title = qtTrId("CannotOpenTitle"),
+    m_notifications->show({.kind = kind(),
+                           .title = qtTrId("CannotOpenTitle"),
                            .text = qtTrId("CannotOpenText").arg(page),
                            .iconName = u"io.github.tarvo.Tarvo"_s},
-                          [this, page] { showBalloon(page); });
+                          [this, page](bool shown) {
+                              if (!shown)
+                                  showBalloon(page);
+                          });
 }
 
 void PageFailureNotice::showBalloon(const QString &page)

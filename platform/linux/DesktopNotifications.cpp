@@ -5,10 +5,10 @@
 #include "platform/linux/NotificationImage.h"
 
 #include <QGuiApplication>
-#include <QStringList>
 #include <QTimer>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 3s; // then the news are shown in another way
+constexpr auto patience = 1s; // then it is shown in another way
 
 const QString &serviceName()
 {
@@ -30,13 +30,6 @@ const QString &serviceName()
 QDBusMessage call(const QString &method)
 {
     return QDBusMessage::createMethodCall(serviceName(), u"/org/freedesktop/Notifications"_s, serviceName(), method);
-}
-
-QStringList actionsOf(const Notification &notification)
-{
-    if (notification.openLabel.isEmpty())
-        return {};
-    return {u"default"_s, notification.openLabel, u"open"_s, notification.openLabel};
 }
 
 QVariantMap hintsOf(const Notification &notification)
@@ -63,20 +56,23 @@ DesktopNotifications::DesktopNotifications(BusConnection &bus, SystemLog &system
 
 DesktopNotifications::~DesktopNotifications()
 {
-    close();
+    for (const auto &[kind, place] : m_places)
+        closeAtService(place.identifier);
 }
 
 void DesktopNotifications::busLost()
 {
     m_startable = false;
-    if (m_failed) // the request will not be answered any more
-        std::exchange(m_failed, {})();
+    for (auto &[kind, place] : m_places) // what is asked for will not be answered any more
+        if (const auto answered = std::exchange(place.answered, {}))
+            answered(false);
 }
 
 void DesktopNotifications::askWhetherStartable()
 {
-    m_bus.subscribe(u"/org/freedesktop/Notifications"_s, serviceName(), u"ActionInvoked"_s, this,
-                    SLOT(actionInvoked(QDBusMessage)));
+    const QString path = u"/org/freedesktop/Notifications"_s;
+    m_bus.subscribe(path, serviceName(), u"ActionInvoked"_s, this, SLOT(actionInvoked(QDBusMessage)));
+    m_bus.subscribe(path, serviceName(), u"NotificationClosed"_s, this, SLOT(notificationClosed(QDBusMessage)));
     m_bus.callBus(u"ListActivatableNames"_s, {}, this, [this](const QDBusMessage &answer) {
         m_startable = answer.arguments().value(0).toStringList().contains(serviceName());
     });
@@ -85,67 +81,104 @@ void DesktopNotifications::askWhetherStartable()
 void DesktopNotifications::ownerChanged(const QString &owner)
 {
     m_owner = owner;
-    m_identifier = 0; // what an earlier service showed is not the new one's
+    m_showsEveryAction = false;
+    for (auto &[kind, place] : m_places) { // what an earlier service showed is not the new one's
+        place.identifier = 0;
+        place.opened = {};
+    }
+    if (owner.isEmpty())
+        return;
+    m_bus.call(call(u"GetServerInformation"_s), this, [this](const QDBusMessage &answer) {
+        m_showsEveryAction = answer.arguments().value(0).toString() == u"lxqt-notificationd";
+    });
 }
 
-void DesktopNotifications::show(const Notification &notification, std::function<void()> failed)
+void DesktopNotifications::show(const Notification &notification, std::function<void(bool shown)> answered)
 {
     constexpr int serviceDecides = -1; // how long the notification stays on the screen
     constexpr int answerTimeout = 25000; // milliseconds; the bus may have to start the service
-    m_wanted = true;
-    m_failed = std::move(failed);
+    Place &place = m_places[notification.kind];
+    place.answered = std::move(answered);
     QDBusMessage message = call(u"Notify"_s);
-    m_opened = notification.opened;
-    message << u"Tarvo"_s << m_identifier << notification.iconName << notification.title
+    message << u"Tarvo"_s << place.identifier << notification.iconName << notification.title
             << notification.text.toHtmlEscaped() << actionsOf(notification) << hintsOf(notification) << serviceDecides;
+    const std::uint64_t request = ++place.request;
     m_bus.call(
-        message, this, [this, request = ++m_request](const QDBusMessage &answer) { shown(answer, request); },
+        message, this,
+        [this, &place, request, opened = notification.opened](const QDBusMessage &answer) {
+            shown(answer, place, request, opened);
+        },
         answerTimeout);
-    if (m_failed)
-        QTimer::singleShot(patience, this, [this, request = m_request] { giveUp(request); });
+    QTimer::singleShot(patience, this, [this, kind = notification.kind, request] { giveUp(kind, request); });
 }
 
-void DesktopNotifications::giveUp(std::uint64_t request)
+QStringList DesktopNotifications::actionsOf(const Notification &notification) const
 {
-    if (request != m_request || !m_failed)
+    if (notification.openLabel.isEmpty())
+        return {};
+    const QStringList whole{u"default"_s, notification.openLabel};
+    return m_showsEveryAction ? whole : whole + QStringList{u"open"_s, notification.openLabel};
+}
+
+void DesktopNotifications::giveUp(const QString &kind, std::uint64_t request)
+{
+    Place &place = m_places[kind];
+    if (request != place.request || !place.answered)
         return;
-    m_wanted = false; // should it appear after all, it is taken back
-    std::exchange(m_failed, {})();
+    const auto answered = std::exchange(place.answered, {});
+    close(kind); // should it appear after all, it is taken back
+    answered(false);
+}
+
+DesktopNotifications::Place *DesktopNotifications::placeOf(const QDBusMessage &signal)
+{
+    const std::uint32_t identifier = signal.arguments().value(0).toUInt();
+    const auto found =
+        std::ranges::find_if(m_places, [&](const auto &each) { return each.second.identifier == identifier; });
+    const bool isOurs = identifier != 0 && signal.service() == m_owner && found != m_places.end();
+    return isOurs ? &found->second : nullptr;
 }
 
 void DesktopNotifications::actionInvoked(const QDBusMessage &signal)
 {
-    const bool isOurs = m_identifier != 0 && signal.arguments().value(0).toUInt() == m_identifier;
-    if (signal.service() == m_owner && isOurs && m_opened)
-        m_opened();
+    Place *const place = placeOf(signal);
+    if (const auto opened = place ? std::exchange(place->opened, {}) : nullptr)
+        opened();
 }
 
-void DesktopNotifications::shown(const QDBusMessage &answer, std::uint64_t request)
+void DesktopNotifications::notificationClosed(const QDBusMessage &signal)
+{
+    if (Place *const place = placeOf(signal)) {
+        place->identifier = 0; // the next one shall appear afresh
+        place->opened = {};
+    }
+}
+
+void DesktopNotifications::shown(const QDBusMessage &answer, Place &place, std::uint64_t request,
+                                 const std::function<void()> &opened)
 {
     const bool isShown = answer.type() == QDBusMessage::ReplyMessage;
     if (!isShown)
         m_systemLog.write(u"notification failed: "_s + answer.errorMessage());
     const std::uint32_t appeared = isShown ? answer.arguments().value(0).toUInt() : 0;
-    if (request != m_request) {
-        if (appeared != m_identifier)
+    if (request != place.request) {
+        if (appeared != place.identifier)
             closeAtService(appeared); // it came too late to be replaced
         return;
     }
-    m_identifier = appeared;
-    const auto failed = std::exchange(m_failed, {});
-    if (!m_wanted)
-        closeAtService(std::exchange(m_identifier, 0));
-    else if (!isShown && failed)
-        failed();
+    place.identifier = appeared;
+    place.opened = opened;
+    if (const auto answered = std::exchange(place.answered, {}))
+        answered(isShown);
 }
 
-void DesktopNotifications::close()
+void DesktopNotifications::close(const QString &kind)
 {
-    if (!m_wanted)
-        return;
-    m_wanted = false;
-    m_failed = {};
-    closeAtService(std::exchange(m_identifier, 0));
+    Place &place = m_places[kind];
+    ++place.request;
+    place.answered = {};
+    place.opened = {};
+    closeAtService(std::exchange(place.identifier, 0));
 }
 
 void DesktopNotifications::closeAtService(std::uint32_t identifier)

@@ -35,7 +35,10 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     int clicks = 0;
     BalloonPresenter presenter(
         {.notifications = &notifications, .iconFrame = [&] { return icon; }, .clicked = [&] { ++clicks; }});
-    const auto toggle = [&] { presenter.toggleAttachedWindowAtPoint(u"news"_s); };
+    int appeared = 0;
+    const auto toggle = [&] {
+        presenter.toggleAttachedWindowAtPoint(u"news"_s, {.kind = u"a"_s, .appeared = [&] { ++appeared; }});
+    };
     toggle();
     ASSERT_NE(shownWindow(), nullptr);
     const auto *label = shownWindow()->findChild<QLabel *>();
@@ -51,20 +54,24 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     icon.reset();
     toggle();
     EXPECT_TRUE(notifications.shown() && notifications.shown()->text == u"news");
-    EXPECT_EQ(shownWindow(), nullptr);
+    EXPECT_TRUE(!shownWindow() && appeared == 1) << "nothing is to be seen as yet";
     notifications.refuse();
-    EXPECT_NE(shownWindow(), nullptr);
+    EXPECT_TRUE(shownWindow() && appeared == 2);
 
     toggle();
     EXPECT_EQ(shownWindow(), nullptr);
     toggle();
+    notifications.accept();
+    EXPECT_TRUE(!shownWindow() && appeared == 3);
     toggle();
-    EXPECT_TRUE(notifications.shown()) << "it can be found again";
+    presenter.toggleAttachedWindowAtPoint(u"other news"_s, {.kind = u"b"_s});
+    toggle();
+    EXPECT_EQ(notifications.count(), 2) << "they can be found again";
     presenter.withdraw();
-    EXPECT_FALSE(notifications.shown());
+    EXPECT_EQ(notifications.count(), 0);
     notifications.setAvailable(false);
     toggle();
-    ASSERT_NE(shownWindow(), nullptr);
+    ASSERT_TRUE(shownWindow() && appeared == 4);
     EXPECT_FALSE(shownWindow()->hasArrow());
     EXPECT_TRUE(shownWindow()->screen()->availableGeometry().contains(shownWindow()->geometry()));
 
@@ -84,6 +91,9 @@ TEST(PageFailureNotice, NotifiesOrShowsABalloon)
     PageFailureNotice notice({.notifications = &notifications});
     notice.tell(u"http://a/"_s);
     EXPECT_TRUE(notifications.shown() && notifications.shown()->title == u"CannotOpenTitle" && !shownWindow());
+    notifications.accept();
+    EXPECT_FALSE(shownWindow());
+    notice.tell(u"http://a/"_s);
     notifications.refuse();
     ASSERT_TRUE(shownWindow());
     notifications.setAvailable(false);

@@ -1,5 +1,6 @@
 #include "ui/NewsSequence.h"
 
+#include "simulator/SimulatedNotifications.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 #include "ui/AlertPanelController.h"
@@ -59,7 +60,8 @@ struct BalloonSequence : AttachedModem {
     WebPages pages{workspace, snapshot, mainThread, [] { return std::nullopt; }, {}};
     QMenu menu;
     StatusIcon icon{statusBar, systemLog, menu, {[] {}, [this] { news.mouseEnteredHandle(&client.work()); }}};
-    BalloonPresenter balloon{{.iconFrame = [this] { return icon.frame(); }}};
+    SimulatedNotifications notifications;
+    BalloonPresenter balloon{{.notifications = &notifications, .iconFrame = [this] { return icon.frame(); }}};
     UpdateAlert alert{pages};
     QStringList told;
     QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
@@ -110,6 +112,37 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     EXPECT_EQ(statusBar.itemWithView()->viewChanges(), changes) << "nothing alternates";
     EXPECT_EQ(told, (QStringList{u"HaveNewVersionTipWhenConnected"_s, u"DatalimitExceed"_s}));
     EXPECT_EQ(clicks, QList{false}) << "as the last step left it";
+}
+
+TEST_F(BalloonSequence, CountsTheTimeOfANotificationFromWhenItIsAnsweredAndOpensWhatItTells)
+{
+    QVariantMap settings = usualSettings();
+    settings.insert({{u"FotaNewVersionHomePage"_s, u"http://firmware/"_s}, {u"DateLimitHomePage"_s, u"http://%@/l"_s}});
+    configure(settings);
+    statusBar.setFrame(std::nullopt);
+    snapshot.reset({.isHaveNewVersion_ = true, .isHaveDataLimitExceedForOneMonth_ = true, .haveDataLimitFlag_ = true});
+    news.startDisPlayUIStatusThread(client.work());
+    ASSERT_TRUE(eventually([&] { return notifications.count() == 1; }));
+    const Notification firmware = *notifications.shown();
+    EXPECT_EQ(firmware.openLabel, u"NewsOpen"_s);
+    EXPECT_FALSE(clock.waitForSleepers(1, 20ms)) << "nothing is shown as yet";
+    notifications.refuse();
+    ASSERT_TRUE(!balloonText().isEmpty() && clock.waitForSleepers(1));
+    pass(3s);
+    EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+    pass(2s);
+    pass(2s);
+    ASSERT_TRUE(eventually([&] { return notifications.count() == 1; }));
+    EXPECT_NE(notifications.shown()->kind, firmware.kind);
+    EXPECT_EQ(notifications.shown()->openLabel, QString()) << "where the modem is is not known";
+    notifications.accept();
+    pass(3s);
+    EXPECT_TRUE(eventually([&] { return !balloon.isShown(); }));
+    pass(2s);
+    pass(2s);
+    EXPECT_TRUE(sequenceEnds());
+    firmware.opened();
+    EXPECT_EQ(workspace.openedURLs(), QList<QUrl>{u"http://firmware/"_s});
 }
 
 TEST_F(BalloonSequence, TellsAnOverrunOnceAndKeepsItsMagnitude)
