@@ -166,13 +166,13 @@ bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGo
     const auto appeared = std::make_shared<Latch>();
     work.post(m_with.mainThread, [this, status, news, type, asked, appeared] {
         m_with.icon.setStatusImage(status.image);
+        if (status.announcesUpdate)
+            m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.balloon.isShown())
             m_with.balloon.toggleAttachedWindowAtPoint(news.text);
         BalloonExtras extras = extrasOf(news, status.image, type);
         extras.appeared = [appeared] { appeared->open(); };
         m_with.balloon.toggleAttachedWindowAtPoint(news.text, extras);
-        if (status.announcesUpdate)
-            m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.told)
             m_with.told(news);
         asked->open();

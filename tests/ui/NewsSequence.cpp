@@ -61,7 +61,11 @@ struct BalloonSequence : AttachedModem {
     QMenu menu;
     StatusIcon icon{statusBar, systemLog, menu, {[] {}, [this] { news.mouseEnteredHandle(&client.work()); }}};
     SimulatedNotifications notifications;
-    BalloonPresenter balloon{{.notifications = &notifications, .iconFrame = [this] { return icon.frame(); }}};
+    bool panelWasOpen = false; ///< when the last balloon was about to open
+    BalloonPresenter balloon{{.notifications = &notifications, .iconFrame = [this] {
+                                  panelWasOpen = AlertPanelController::shareAlertPanel()->wndAlert().isVisible();
+                                  return icon.frame();
+                              }}};
     UpdateAlert alert{pages};
     QStringList told;
     QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
@@ -80,7 +84,7 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     ASSERT_TRUE(eventually([] { return balloonText() == u"HaveNewVersionTipWhenConnected"; }));
     const auto &view = *qobject_cast<CustomView *>(statusBar.itemWithView()->view());
     EXPECT_EQ(view.image(), u"newVersion"_s);
-    EXPECT_TRUE(panel->wndAlert().isVisible());
+    EXPECT_TRUE(panel->wndAlert().isVisible() && panelWasOpen);
     panel->btnCancelAction();
     pass(2999ms);
     ASSERT_TRUE(clock.waitForSleepers(1));
