@@ -41,7 +41,6 @@ bool isListed(const QString &key, qint64 identifier)
     return std::ranges::any_of(identifiers, [&](const QVariant &listed) { return isText(listed, decimal); });
 }
 
-/// @return the identifier as `lsusb` prints it
 std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 {
     const auto name = ipv4State.constFind(store::kSCPropInterfaceName);
