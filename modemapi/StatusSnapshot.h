@@ -49,7 +49,7 @@ struct StatusSnapshot {
     bool haveDataLimitFlag_ = false;
 
     float m_useData = 0; ///< used this month
-    float m_surplusData = 0; ///< left this month; below zero when the limit is passed and that was not yet told
+    float m_surplusData = 0; ///< left this month; below zero when the limit is passed
     float m_totalMonthData = 0; ///< the monthly limit
     float m_totalThreeData = 0; ///< the three-day limit
 

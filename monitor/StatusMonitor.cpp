@@ -37,8 +37,7 @@ StatusMonitor::StatusMonitor(Listeners listeners)
 {
 }
 
-/// Publishes what @p change makes of the snapshot, and tells of it when it is another one than was last told. (What
-/// the news sequence does to an amount meanwhile is of no concern to listeners.)
+/// Publishes what @p change makes of the snapshot, and tells of it when it is another one than was last told.
 void StatusMonitor::publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change)
 {
     std::optional<StatusSnapshot> changed;

@@ -24,17 +24,17 @@ QString withAmounts(QString text, std::initializer_list<float> amounts)
     return text;
 }
 
-QString threeDayTip(const StatusSnapshot &snapshot)
+QString threeDayText(const StatusSnapshot &snapshot)
 {
     return withAmounts(qtTrId("DatalimitExceedForThreedays"), {snapshot.m_totalThreeData});
 }
 
-QString monthlyLimitTip(const StatusSnapshot &snapshot)
+QString monthlyLimitText(const StatusSnapshot &snapshot)
 {
     return withAmounts(qtTrId("DatalimitExceed"), {snapshot.m_totalMonthData});
 }
 
-QString monthlyReminderTip(const StatusSnapshot &snapshot)
+QString monthlyReminderText(const StatusSnapshot &snapshot)
 {
     const float surplus = snapshot.m_surplusData;
     if (surplus < 0)
@@ -46,29 +46,28 @@ struct DataLimitNews {
     int type;
     bool StatusSnapshot::*present;
     QStringView image;
-    QString (*tip)(const StatusSnapshot &snapshot);
+    QString (*text)(const StatusSnapshot &snapshot);
 };
 
 // Both monthly kinds share an image; the three-day kind has the one that looks like a mere warning.
 constexpr DataLimitNews dataLimitNews[] = {
     {DisplayType::ThreeDayLimitExceeded, &StatusSnapshot::isHaveDataLimitExceedForThreedays_, u"dataFluxReached",
-     threeDayTip},
+     threeDayText},
     {DisplayType::MonthlyLimitExceeded, &StatusSnapshot::isHaveDataLimitExceedForOneMonth_, u"dataFluxExceeded",
-     monthlyLimitTip},
+     monthlyLimitText},
     {DisplayType::MonthlyLimitReached, &StatusSnapshot::isHaveDataLimitReachedForOneMonth_, u"dataFluxExceeded",
-     monthlyReminderTip},
+     monthlyReminderText},
 };
 
-DisplayStatus shown(QStringView image, const QString &tip, bool seenBefore)
+DisplayStatus shown(QStringView image, const QString &text, bool seenBefore)
 {
-    return {
-        .image = image.toString(), .tip = tip, .balloonText = seenBefore ? QString() : tip, .isNews = !tip.isEmpty()};
+    return {.image = image.toString(), .balloonText = seenBefore ? QString() : text, .isNews = !text.isEmpty()};
 }
 
 DisplayStatus evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore)
 {
     if (!snapshot.isHaveNewVersion_)
-        return {.tip = QString(), .clickOpensUpdatePage = false};
+        return {.clickOpensUpdatePage = false};
     DisplayStatus status = shown(u"newVersion", qtTrId("HaveNewVersionTipWhenConnected"), seenBefore);
     status.announcesUpdate = !seenBefore;
     status.clickOpensUpdatePage = true;
@@ -80,13 +79,12 @@ DisplayStatus evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore
 DisplayStatus evaluateDataLimit(const StatusSnapshot &snapshot, const DataLimitNews &news, bool seenBefore)
 {
     if (!(snapshot.*news.present))
-        return {.tip = QString(), .clickOpensLimitPage = false};
-    DisplayStatus status = shown(news.image, news.tip(snapshot), seenBefore);
+        return {.clickOpensLimitPage = false};
+    DisplayStatus status = shown(news.image, news.text(snapshot), seenBefore);
     status.clickOpensLimitPage = true;
     if (snapshot.isHaveNewVersion_)
         status.clickOpensUpdatePage = false;
-    if (news.type == DisplayType::MonthlyLimitReached && snapshot.m_surplusData < 0)
-        status.surplus = -snapshot.m_surplusData;
+    status.tellsOverrun = news.type == DisplayType::MonthlyLimitReached && snapshot.m_surplusData < 0;
     return status;
 }
 
@@ -99,9 +97,7 @@ DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool
     for (const DataLimitNews &news : dataLimitNews)
         if (news.type == type)
             return evaluateDataLimit(snapshot, news, seenBefore);
-    if (snapshot.haveNewVersionFlag_ || snapshot.haveDataLimitFlag_)
-        return {};
-    return {.tip = QString()};
+    return {};
 }
 
 } // namespace tarvo

@@ -24,20 +24,18 @@ inline constexpr std::array displayTypes{DisplayType::NewVersion, DisplayType::T
 /// What one kind of news asks for.
 struct DisplayStatus {
     QString image{}; ///< the icon's new image; empty leaves it as it is
-    std::optional<QString> tip{}; ///< the icon's new tool tip; nil leaves it as it is
     QString balloonText{}; ///< what a balloon has to say now; empty for nothing
     bool announcesUpdate = false; ///< the update panel is due
 
     bool isNews = false; ///< the news are there, and can be told: this is what was shown before, next time
     std::optional<bool> clickOpensUpdatePage{}; ///< nil leaves that as it is, as the next
     std::optional<bool> clickOpensLimitPage{};
-    /// The amount that remains, once an overrun has been told as such; nil leaves it as it is.
-    std::optional<float> surplus{};
+    bool tellsOverrun = false; ///< the text names what was used beyond the monthly limit as such
 
     bool operator==(const DisplayStatus &) const = default;
 };
 
-/// @param type        the kind of news, 5 to 8; any other only clears the tip when no notice is pending
+/// @param type        the kind of news, 5 to 8; any other asks for nothing
 /// @param seenBefore  whether these news were there at the last evaluation
 /// @return what @p snapshot, of a modem that is there, asks for
 DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore);

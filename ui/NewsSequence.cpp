@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -22,6 +23,12 @@ namespace tarvo {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto perType = 2s; // from one type to the next, besides what is told of it
+
+} // namespace
 
 NewsSequence::NewsSequence(Surroundings surroundings)
     : m_with(std::move(surroundings))
@@ -32,21 +39,24 @@ NewsSequence::~NewsSequence() = default;
 
 void NewsSequence::mouseEnteredHandle(const Work *work)
 {
-    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || !begin()) {
+    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || startDisplayFlowing()) {
         m_with.systemLog.write(u"already dislaystatus or no need display"_s);
         return;
     }
     statusDisplayFlowFinishFlag_ = false;
-    if (work)
+    if (work) {
         start(*work);
-    else
-        endSequence();
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    begin(m_with.clock.now());
 }
 
 void NewsSequence::startDisPlayUIStatusThread(const Work &work)
 {
-    if (begin())
-        start(work);
+    statusDisplayFlowFinishFlag_ = statusDisplayFlowFinishFlag(); // one without a thread ends by itself
+    work.whileAttached([this] { m_overrunTold = false; });
+    start(work);
 }
 
 void NewsSequence::showNormalState(const Work &work)
@@ -64,61 +74,69 @@ void NewsSequence::showNormalState(const Work &work)
 bool NewsSequence::startDisplayFlowing() const
 {
     const std::scoped_lock lock(m_mutex);
-    return isFlowing();
+    return isFlowing(m_with.clock.now());
 }
 
-bool NewsSequence::isFlowing() const
+bool NewsSequence::isFlowing(Clock::TimePoint now) const
 {
-    return startDisplayFlowing_ && (m_hasThread || m_with.clock.now() < m_emptySequenceEnds);
+    return startDisplayFlowing_ && (m_hasThread || now < m_emptySequenceEnds);
 }
 
-bool NewsSequence::begin()
+void NewsSequence::begin(Clock::TimePoint now)
 {
-    const std::scoped_lock lock(m_mutex);
-    if (isFlowing())
-        return false;
     startDisplayFlowing_ = true;
-    m_hasThread = true;
-    return true;
+    m_emptySequenceEnds = now + perType * displayTypes.size();
+}
+
+NewsSequence::Rest NewsSequence::restAt(Clock::TimePoint now) const
+{
+    const auto left = static_cast<std::size_t>((m_emptySequenceEnds - now) / perType);
+    return {std::span(displayTypes).last(left), m_emptySequenceEnds - perType * left};
 }
 
 void NewsSequence::start(const Work &work)
 {
-    if (!hasNews(work))
-        runWithoutNews(work);
-    else if (!work.start([this](const Work &own) { displayUIStatus(own); }))
+    Rest rest{};
+    work.whileAttached([&] { rest = restToTell(work); });
+    if (!rest.types.empty() && !work.start([this, rest](const Work &own) { displayUIStatus(own, rest); }))
         endSequence();
 }
 
-bool NewsSequence::hasNews(const Work &work) const
+NewsSequence::Rest NewsSequence::restToTell(const Work &work)
 {
-    bool found = false;
-    work.whileAttached([&] {
-        const StatusSnapshot snapshot = m_with.snapshot.get();
-        found = !stopProcModemStatus_ && std::ranges::any_of(displayTypes, [&](int type) {
-            return !evaluateDisplayType(snapshot, type, m_previous.*previousOf(type)).balloonText.isEmpty();
-        });
-    });
-    return found;
-}
-
-void NewsSequence::runWithoutNews(const Work &work)
-{
-    constexpr auto duration = 2s * displayTypes.size();
-    for (const int type : displayTypes)
-        evaluate(work, type);
-    showEnd(work);
-    statusDisplayFlowFinishFlag_ = true;
     const std::scoped_lock lock(m_mutex);
-    m_hasThread = false;
-    m_emptySequenceEnds = m_with.clock.now() + duration;
+    if (m_hasThread)
+        return {};
+    const Clock::TimePoint now = m_with.clock.now();
+    const bool begins = !isFlowing(now);
+    if (begins)
+        begin(now);
+    const Rest rest = restAt(now);
+    const StatusSnapshot snapshot = m_with.snapshot.get(); // what is found without news is evaluated, and no later one
+    m_hasThread = hasNews(snapshot, rest.types);
+    if (m_hasThread)
+        return rest;
+    if (begins) {
+        for (const int type : displayTypes)
+            evaluate(snapshot, type);
+        showEnd(work);
+    }
+    return {};
 }
 
-void NewsSequence::displayUIStatus(const Work &work)
+bool NewsSequence::hasNews(const StatusSnapshot &snapshot, std::span<const int> types) const
 {
-    for (const int type : displayTypes)
+    return !stopProcModemStatus_ && std::ranges::any_of(types, [&](int type) {
+        return !evaluateDisplayType(snapshot, type, m_previous.*previousOf(type)).balloonText.isEmpty();
+    });
+}
+
+void NewsSequence::displayUIStatus(const Work &work, const Rest &rest)
+{
+    m_with.clock.waitUntil(rest.begins, work.stopToken());
+    for (const int type : rest.types)
         displayNews(work, type);
-    showEnd(work);
+    work.whileAttached([&] { showEnd(work); });
     endSequence();
 }
 
@@ -133,7 +151,8 @@ void NewsSequence::endSequence()
 void NewsSequence::displayNews(const Work &work, int type)
 {
     const std::stop_token gone = deviceGone();
-    const DisplayStatus status = evaluate(work, type);
+    DisplayStatus status;
+    work.whileAttached([&] { status = evaluate(m_with.snapshot.get(), type); });
     if (!status.balloonText.isEmpty()) {
         statusDisplayFlowFinishFlag_ = false;
         if (showBalloon(work, gone, status, type)) {
@@ -141,7 +160,7 @@ void NewsSequence::displayNews(const Work &work, int type)
             closeBalloon(gone);
         }
     }
-    pause(work.stopToken(), 2s);
+    pause(work.stopToken(), perType);
 }
 
 BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image, int type) const
@@ -193,17 +212,10 @@ void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
 
 void NewsSequence::showEnd(const Work &work)
 {
-    QString image;
-    bool clickChanged = false;
-    work.whileAttached([&] {
-        if (m_shownImage != m_image)
-            image = m_shownImage = m_image;
-        const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
-        clickChanged = std::exchange(m_toldClick, click) != click;
-    });
-    if (!image.isEmpty())
-        work.post(m_with.mainThread, [this, image] { m_with.icon.setStatusImage(image); });
-    if (clickChanged && m_with.clickChanged)
+    if (std::exchange(m_shownImage, m_image) != m_image && !m_image.isEmpty())
+        work.post(m_with.mainThread, [this, image = m_image] { m_with.icon.setStatusImage(image); });
+    const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
+    if (std::exchange(m_toldClick, click) != click && m_with.clickChanged)
         work.post(m_with.mainThread, m_with.clickChanged);
 }
 
@@ -236,24 +248,25 @@ bool NewsSequence::PreviousNews::*NewsSequence::previousOf(int type)
 
 QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
 {
-    return evaluate(work, type).balloonText;
+    QString text;
+    work.whileAttached([&] { text = evaluate(m_with.snapshot.get(), type).balloonText; });
+    return text;
 }
 
-DisplayStatus NewsSequence::evaluate(const Work &work, int type)
+DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
 {
-    DisplayStatus status;
+    if (stopProcModemStatus_)
+        return {};
+    if (m_overrunTold)
+        snapshot.m_surplusData = std::abs(snapshot.m_surplusData);
     bool PreviousNews::*const previous = previousOf(type);
-    m_with.snapshot.update(work, [&](StatusSnapshot &snapshot) {
-        if (stopProcModemStatus_)
-            return;
-        status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
-        if (previous)
-            m_previous.*previous = status.isNews;
-        if (!status.image.isEmpty())
-            m_image = status.image;
-        m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
-        snapshot.m_surplusData = status.surplus.value_or(snapshot.m_surplusData);
-    });
+    DisplayStatus status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
+    if (previous)
+        m_previous.*previous = status.isNews;
+    if (!status.image.isEmpty())
+        m_image = status.image;
+    m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
+    m_overrunTold = m_overrunTold || status.tellsOverrun;
     return status;
 }
 

@@ -82,10 +82,8 @@ void DesktopNotifications::ownerChanged(const QString &owner)
 {
     m_owner = owner;
     m_showsEveryAction = false;
-    for (auto &[kind, place] : m_places) { // what an earlier service showed is not the new one's
-        place.identifier = 0;
-        place.opened = {};
-    }
+    for (auto &[kind, place] : m_places)
+        place.identifier = 0; // what an earlier service showed is not the new one's
     if (owner.isEmpty())
         return;
     m_bus.call(call(u"GetServerInformation"_s), this, [this](const QDBusMessage &answer) {
@@ -148,10 +146,8 @@ void DesktopNotifications::actionInvoked(const QDBusMessage &signal)
 
 void DesktopNotifications::notificationClosed(const QDBusMessage &signal)
 {
-    if (Place *const place = placeOf(signal)) {
+    if (Place *const place = placeOf(signal))
         place->identifier = 0; // the next one shall appear afresh
-        place->opened = {};
-    }
 }
 
 void DesktopNotifications::shown(const QDBusMessage &answer, Place &place, std::uint64_t request,
@@ -177,7 +173,6 @@ void DesktopNotifications::close(const QString &kind)
     Place &place = m_places[kind];
     ++place.request;
     place.answered = {};
-    place.opened = {};
     closeAtService(std::exchange(place.identifier, 0));
 }
 

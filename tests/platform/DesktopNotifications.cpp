@@ -69,8 +69,14 @@ TEST_F(NotificationService, IsFollowedAsItComesAndGoes)
 {
     EXPECT_FALSE(notifications.available());
     startService();
+    show(u"a"_s, u"news"_s);
+    EXPECT_TRUE(waitFor([&] { return successes == 1; }));
     service.stop();
     EXPECT_TRUE(waitFor([&] { return !notifications.available(); }));
+    startService();
+    show(u"a"_s, u"news"_s);
+    EXPECT_TRUE(waitFor([&] { return successes == 2; }));
+    EXPECT_EQ(service.replaced(), (QList<uint>{0, 0})) << "another service";
 }
 
 TEST_F(NotificationService, ShowsOneOfEachKindAndClosesIt)

@@ -67,6 +67,8 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     presenter.toggleAttachedWindowAtPoint(u"other news"_s, {.kind = u"b"_s});
     toggle();
     EXPECT_EQ(notifications.count(), 2) << "they can be found again";
+    notifications.refuse();
+    EXPECT_FALSE(shownWindow()) << "its time is over";
     presenter.withdraw();
     EXPECT_EQ(notifications.count(), 0);
     notifications.setAvailable(false);

@@ -13,10 +13,14 @@
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
-TEST(DisplayStatus, WithoutNewsThereIsNoTipUnlessANoticeIsPending)
+TEST(DisplayStatus, OtherTypesAskForNothing)
 {
-    EXPECT_EQ(evaluateDisplayType({}, 4, false), (DisplayStatus{.tip = QString()}));
-    EXPECT_EQ(evaluateDisplayType({.haveDataLimitFlag_ = true}, 9, false), DisplayStatus());
+    const StatusSnapshot all{.isHaveNewVersion_ = true,
+                             .isHaveDataLimitReachedForOneMonth_ = true,
+                             .isHaveDataLimitExceedForOneMonth_ = true,
+                             .isHaveDataLimitExceedForThreedays_ = true};
+    for (const int type : {4, 9})
+        EXPECT_EQ(evaluateDisplayType(all, type, false), DisplayStatus());
 }
 
 TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
@@ -32,12 +36,12 @@ TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
     for (const auto &[type, news, image, text] : cases) {
         const bool firmware = type == DisplayType::NewVersion;
         StatusSnapshot snapshot;
-        DisplayStatus expected{.tip = QString()};
+        DisplayStatus expected;
         (firmware ? expected.clickOpensUpdatePage : expected.clickOpensLimitPage) = false;
         EXPECT_EQ(evaluateDisplayType(snapshot, type, true), expected) << type;
 
         snapshot.*news = snapshot.haveDataLimitFlag_ = snapshot.isHaveNewVersion_ = true;
-        expected = {image, text, text, firmware, true, firmware, !firmware, std::nullopt};
+        expected = {image, text, firmware, true, firmware, !firmware, false};
         EXPECT_EQ(evaluateDisplayType(snapshot, type, false), expected) << type;
         expected.balloonText.clear();
         expected.announcesUpdate = false;

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QEnterEvent>
 #include <QMenu>
+#include <QTranslator>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -24,6 +25,20 @@ QString balloonText()
             return widget->accessibleName();
     return {};
 }
+
+/// Lets something happen whenever a text is looked up.
+struct Interjection final : QTranslator {
+    Interjection() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *, const char *, int) const override
+    {
+        if (happens)
+            happens();
+        return {};
+    }
+
+    std::function<void()> happens;
+};
 
 /// A sequence for a modem that is plugged in, and what it shows the news with.
 struct BalloonSequence : AttachedModem {
@@ -149,15 +164,60 @@ TEST_F(BalloonSequence, CountsTheTimeOfANotificationFromWhenItIsAnsweredAndOpens
     EXPECT_EQ(workspace.openedURLs(), QList<QUrl>{u"http://firmware/"_s});
 }
 
-TEST_F(BalloonSequence, TellsAnOverrunOnceAndKeepsItsMagnitude)
+TEST_F(BalloonSequence, TellsWhatComesUpMeanwhileWhenItsTimeComes)
+{
+    news.startDisPlayUIStatusThread(client.work());
+    clock.advance(1s);
+    snapshot.reset({.isHaveNewVersion_ = true});
+    news.startDisPlayUIStatusThread(client.work());
+    EXPECT_FALSE(clock.waitForSleepers(1, 20ms)) << "its time has passed";
+    clock.advance(1s);
+    snapshot.reset({.isHaveNewVersion_ = true, .isHaveDataLimitReachedForOneMonth_ = true});
+    news.startDisPlayUIStatusThread(client.work());
+    pass(2s); // after the three-day limit, whose time it was
+    pass(1999ms);
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(balloonText().isEmpty());
+    pass(1ms);
+    EXPECT_TRUE(eventually([] { return balloonText() == u"DatalimitReachedForOneMonth"; }));
+    pass(3s);
+    EXPECT_TRUE(eventually([] { return balloonText().isEmpty(); }));
+    pass(2s);
+    EXPECT_TRUE(sequenceEnds());
+    news.startDisPlayUIStatusThread(client.work());
+    EXPECT_TRUE(eventually([] { return balloonText() == u"HaveNewVersionTipWhenConnected"; }));
+}
+
+TEST_F(BalloonSequence, LosesNoNewsOfAPageThatComesWhileItLooks)
+{
+    StatusSnapshot page{.isHaveDataLimitReachedForOneMonth_ = true};
+    snapshot.reset(page);
+    news.getDisplayStatusByType(client.work(), 8);
+    page.isHaveNewVersion_ = true;
+    {
+        Interjection interjection;
+        interjection.happens = [&] { snapshot.reset(page); };
+        news.mouseEnteredHandle(&client.work());
+    }
+    EXPECT_FALSE(news.getDisplayStatusByType(client.work(), 5).isEmpty()) << "it is still to be told";
+}
+
+TEST_F(BalloonSequence, TellsAnOverrunOnceForEachPage)
 {
     snapshot.reset({.isHaveDataLimitReachedForOneMonth_ = true, .m_surplusData = -1.5F});
     EXPECT_EQ(news.getDisplayStatusByType(client.work(), 8), u"DatalimitReachedForOneMonth_Negative"_s);
-    EXPECT_EQ(snapshot.get().m_surplusData, 1.5F);
+    EXPECT_EQ(snapshot.get().m_surplusData, -1.5F) << "others see what the page said";
     news.resetForStop();
     EXPECT_EQ(news.getDisplayStatusByType(client.work(), 8), QString()) << "no device, no news";
     news.resetForReadyDevice();
-    EXPECT_EQ(news.getDisplayStatusByType(client.work(), 8), u"DatalimitReachedForOneMonth"_s) << "another device";
+    EXPECT_EQ(news.getDisplayStatusByType(client.work(), 8), u"DatalimitReachedForOneMonth"_s);
+    news.resetForStop();
+    news.resetForReadyDevice();
+    news.startDisPlayUIStatusThread(client.work());
+    for (int type = 5; type < 8; ++type)
+        pass(2s);
+    EXPECT_TRUE(eventually([] { return balloonText() == u"DatalimitReachedForOneMonth_Negative"; })) << "a new page";
 }
 
 TEST_F(BalloonSequence, TogglesWhateverTheText)
@@ -202,12 +262,19 @@ TEST_F(BalloonSequence, StartsOnHoverUnlessOneRunsOrTheSettingsForbidIt)
     EXPECT_TRUE(news.startDisplayFlowing());
     QApplication::sendEvent(statusBar.itemWithView()->view(), &enter);
     EXPECT_EQ(systemLog.count(refusal), 1);
+    EXPECT_FALSE(news.statusDisplayFlowFinishFlag());
     clock.advance(8s);
+    EXPECT_TRUE(!news.startDisplayFlowing() && news.statusDisplayFlowFinishFlag());
+    news.mouseEnteredHandle(nullptr);
+    clock.advance(7999ms);
+    news.mouseEnteredHandle(nullptr);
+    EXPECT_EQ(systemLog.count(refusal), 2) << "one takes its time without a modem, too";
+    clock.advance(1ms);
     EXPECT_FALSE(news.startDisplayFlowing());
     configure({{u"DonotShowStatusWhenMouseMoveIn"_s, true}});
     news.mouseEnteredHandle(&client.work());
     EXPECT_FALSE(news.startDisplayFlowing());
-    EXPECT_EQ(systemLog.count(refusal), 2);
+    EXPECT_EQ(systemLog.count(refusal), 3);
 }
 
 TEST_F(Companion, PollingWithoutNewsTouchesTheIconNoMore)
