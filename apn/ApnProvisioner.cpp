@@ -4,17 +4,14 @@
 #include "apn/DefaultApn.h"
 #include "apn/ProfileSelection.h"
 #include "modemapi/AnswerFields.h"
-#include "modemapi/JsonValues.h"
 #include "modemapi/ModemClient.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
 
 #include <utility>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -25,16 +22,18 @@ QStringList webDefaultNames()
     return names ? names->split(u';') : QStringList();
 }
 
-qsizetype elementCount(const QJsonValue &value)
+/// How long to wait before a modem that has refused it @p refusals times is told again that the records are complete.
+std::chrono::seconds pauseAfter(int refusals)
 {
-    return value.isArray() ? value.toArray().size() : value.toObject().size();
+    return refusals < 3 ? 0s : 60s;
 }
 
 } // namespace
 
-ApnProvisioner::ApnProvisioner(const SharedSnapshot &snapshot, SystemLog &systemLog)
+ApnProvisioner::ApnProvisioner(const SharedSnapshot &snapshot, SystemLog &systemLog, Clock &clock)
     : m_snapshot(snapshot)
     , m_systemLog(systemLog)
+    , m_clock(clock)
     , notFoundDefaultApn_(notFoundApnTemplate())
 {
 }
@@ -44,11 +43,15 @@ void ApnProvisioner::reset()
     onlySetAPNFlag_ = true;
     isSetApnReady_ = false;
     m_accessPointsSent = 0;
+    m_readyRefusals = 0;
+    m_readyDue = {};
 }
 
 bool ApnProvisioner::setApn(ModemClient &client, const QString &record)
 {
-    if (!client.setWebRequestWithId(u"ADD_APN&apn="_s + record))
+    // The record holds a password.
+    const QString shown = u"ADD_APN "_s + describedApn(record).profile;
+    if (!client.setWebRequestWithId(u"ADD_APN&apn="_s + record, shown.trimmed()))
         return false;
     client.work().whileAttached([&] { ++m_accessPointsSent; });
     client.log(u"add apn success!"_s);
@@ -63,7 +66,8 @@ bool ApnProvisioner::setDefaultApn(ModemClient &client, int index)
     if (index == notFoundApnIndex) {
         QString record;
         client.work().whileAttached([&] { record = std::exchange(notFoundDefaultApn_, notFoundApnTemplate()); });
-        setApn(client, record);
+        if (!record.isEmpty() && !setApn(client, record))
+            return false;
     }
     if (!client.setWebRequestWithId(u"SET_DEFAULT_APN&index=%1"_s.arg(index)))
         return false;
@@ -77,9 +81,16 @@ bool ApnProvisioner::setDefaultApn(ModemClient &client, int index)
 
 void ApnProvisioner::setApnReady(ModemClient &client)
 {
-    if (isSetApnReady_ || !isPCApnType(client) || !client.setWebRequestWithId(u"PC_APN_READY_SET"_s))
+    bool isDue = false;
+    client.work().whileAttached([&] { isDue = !isSetApnReady_ && m_clock.now() >= m_readyDue; });
+    if (!isDue || !isPCApnType(client))
         return;
-    if (client.work().whileAttached([this] { isSetApnReady_ = true; }))
+    const bool accepted = client.setWebRequestWithId(u"PC_APN_READY_SET"_s);
+    const bool isAttached = client.work().whileAttached([&] {
+        isSetApnReady_ = accepted;
+        m_readyDue = m_clock.now() + pauseAfter(++m_readyRefusals);
+    });
+    if (accepted && isAttached)
         client.log(u"PC_APN_READY_SET success!"_s);
 }
 
@@ -95,17 +106,24 @@ void ApnProvisioner::setOnline(ModemClient &client)
         client.setWebRequestWithId(u"SET_ONLINE_MODE"_s);
 }
 
-int ApnProvisioner::getDefaultApnIndex(ModemClient &client, const std::optional<QStringList> &records)
+int ApnProvisioner::getDefaultApnIndex(ModemClient &client, const std::optional<QStringList> &records,
+                                       const QList<ListedApn> &taken)
 {
     const auto answer = client.getWebRequestContent(u"pc_default_profilename&multi_data=1"_s);
     const auto name = getModemInfoFromKeyForWeb5(u"pc_default_profilename\":"_s, answer);
     client.log(u"pc_default_profilename:"_s + name.value_or(u"(null)"_s));
 
-    const DefaultApn choice = chooseDefaultApn(name, webDefaultNames(), records.value_or(QStringList()));
+    const DefaultApn choice = chooseDefaultApn(name, webDefaultNames(), records.value_or(QStringList()), taken);
     for (const QString &problem : choice.problems)
         client.log(problem);
-    if (choice.isUnknown)
-        client.work().whileAttached([&] { notFoundDefaultApn_.replace(u"PC_PROFILE_NAME"_s, *name); });
+    if (choice.isUnknown) {
+        const bool hasIt = taken.contains(ListedApn{*name, notFoundApnIndex});
+        client.work().whileAttached([&] {
+            notFoundDefaultApn_.replace(u"PC_PROFILE_NAME"_s, *name);
+            if (hasIt)
+                notFoundDefaultApn_.clear();
+        });
+    }
     return choice.index;
 }
 
@@ -118,48 +136,65 @@ bool ApnProvisioner::isPCApnType(ModemClient &client)
     return type == u"1"_s;
 }
 
-quint32 ApnProvisioner::countPCApns(ModemClient &client)
+QList<ListedApn> ApnProvisioner::listedApns(ModemClient &client)
 {
     const auto answer = client.getWebRequestContent(u"pc_apn_list_query"_s);
     if (!answer)
-        return 0;
-    const ParsedJson parsed = parseJson(*answer);
-    if (!parsed.document) {
-        client.log(u"pc_apn_list_query dictionary: (null), json Error: "_s + parsed.error);
-        return 0;
-    }
-    const auto count = static_cast<quint32>(elementCount(parsed.document->object().value(u"data")));
-    client.log(u"pc apn list count: %1"_s.arg(static_cast<qint32>(count)));
-    return count;
+        return {};
+    const ApnList list = readApnList(*answer);
+    if (list.error.isEmpty())
+        client.log(u"pc apn list count: %1"_s.arg(list.apns.size()));
+    else
+        client.log(u"pc_apn_list_query dictionary: (null), json Error: "_s + list.error);
+    return list.apns;
 }
 
-bool ApnProvisioner::canSetApnToServer(ModemClient &client)
+std::optional<QList<ListedApn>> ApnProvisioner::canSetApnToServer(ModemClient &client)
 {
     if (!onlySetAPNFlag_ || !isPCApnType(client) || !onlySetAPNFlag_)
-        return false;
-    const quint32 count = countPCApns(client);
-    const auto webCount = static_cast<quint32>(webDefaultNames().size());
-    return client.work().whileAttached([this] { onlySetAPNFlag_ = false; }) && count <= webCount;
+        return std::nullopt;
+    const QList<ListedApn> listed = listedApns(client);
+    const bool isAttached = client.work().whileAttached([this] { onlySetAPNFlag_ = false; });
+    return isAttached ? std::optional(listed) : std::nullopt;
+}
+
+std::optional<QStringList> ApnProvisioner::readRecords(const std::stop_token &stop)
+{
+    const auto total = getParsedApnContentFromTotalProfile(m_systemLog);
+    return total ? std::optional(getValidParsedContentFromApnProfiles(*total, m_systemLog, stop)) : std::nullopt;
 }
 
 void ApnProvisioner::setAllApnFromPC(ModemClient &client)
 {
-    if (!canSetApnToServer(client))
+    const auto listed = canSetApnToServer(client);
+    if (!listed)
         return;
-    // A device that went away in the middle leaves its default's name in the record.
-    client.work().whileAttached([this] { notFoundDefaultApn_ = notFoundApnTemplate(); });
-    const std::stop_token stop = client.work().stopToken();
-    std::optional<QStringList> records;
-    if (const auto total = getParsedApnContentFromTotalProfile(m_systemLog))
-        records = getValidParsedContentFromApnProfiles(*total, m_systemLog, stop);
-    for (const QString &record : records.value_or(QStringList())) {
-        if (stop.stop_requested())
+    const auto records = readRecords(client.work().stopToken());
+    const ApnPlan plan = planApns(*listed, webDefaultNames().size(), records.value_or(QStringList()), m_owesDefault);
+    if (plan.setsDefault)
+        complete(client, plan.records, records, *listed);
+}
+
+void ApnProvisioner::complete(ModemClient &client, const QStringList &missing,
+                              const std::optional<QStringList> &records, QList<ListedApn> listed)
+{
+    const auto owesDefault = [&](bool owes) {
+        client.work().whileAttached([&] {
+            m_owesDefault = owes;
+            notFoundDefaultApn_ = notFoundApnTemplate(); // one that went away in the middle leaves its default's name
+        });
+    };
+    owesDefault(true);
+    for (const QString &record : missing) {
+        if (client.work().isOver())
             return;
-        setApn(client, record);
+        if (setApn(client, record))
+            listed.append(describedApn(record));
     }
-    const int index = getDefaultApnIndex(client, records);
-    if (!stop.stop_requested())
-        setDefaultApn(client, index);
+    const int index = getDefaultApnIndex(client, records, listed);
+    if (client.work().isOver())
+        return;
+    owesDefault(!setDefaultApn(client, index));
 }
 
 } // namespace tarvo

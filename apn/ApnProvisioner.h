@@ -1,12 +1,15 @@
 #pragma once
 
+#include "apn/ApnList.h"
 #include "modemapi/StatusSnapshot.h"
+#include "platform/Clock.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <atomic>
 #include <optional>
+#include <stop_token>
 
 namespace tarvo {
 
@@ -18,28 +21,32 @@ class SystemLog;
 /// What talks to the modem runs on the polling worker, on behalf of its client's work.
 class ApnProvisioner {
 public:
-    /// @param snapshot, systemLog  outlive this object
-    ApnProvisioner(const SharedSnapshot &snapshot, SystemLog &systemLog);
+    /// Everything referred to outlives this object.
+    ApnProvisioner(const SharedSnapshot &snapshot, SystemLog &systemLog, Clock &clock);
 
     /// Adds the access-point record @p record to the modem. @return whether the modem took it
     bool setApn(ModemClient &client, const QString &record);
-    /// Makes the access point at @p index the modem's default; 199 first adds the not-found record.
-    /// @return whether the modem took it; false for a negative index
+    /// Makes the access point at @p index the modem's default; 199 first adds the not-found record, if there is one.
+    /// @return whether the modem took it; false for a negative index, and when it did not take that record
     bool setDefaultApn(ModemClient &client, int index);
-    /// Tells the modem, once, that this computer's access points are complete.
+    /// Tells the modem, once, that this computer's access points are complete. One that has refused it three times is
+    /// told once a minute.
     void setApnReady(ModemClient &client);
     /// Puts the modem into low power. Nothing calls it at present.
     void setLpm(ModemClient &client);
     /// Puts the modem on line when it may roam or dials by itself. Nothing calls it at present.
     void setOnline(ModemClient &client);
-    /// @param records  the records that were sent; nil means that none were looked for
-    /// @return the index that the modem's default name asks for among @p records
-    int getDefaultApnIndex(ModemClient &client, const std::optional<QStringList> &records);
+    /// @param records  this computer's records; nil means that none were looked for
+    /// @param taken    what the modem has in its list
+    /// @return the index that the modem's default name asks for among @p records; negative when the modem has not taken
+    ///         that one
+    int getDefaultApnIndex(ModemClient &client, const std::optional<QStringList> &records,
+                           const QList<ListedApn> &taken);
     /// @return whether the modem takes its access points from a computer
     bool isPCApnType(ModemClient &client);
-    /// @return whether this computer's records may be sent; true at most once for an attachment
-    bool canSetApnToServer(ModemClient &client);
-    /// Sends the records of the profile folder and chooses the default, once for an attachment.
+    /// @return the modem's list, which says what may be sent; nil when nothing may. Not nil at most once for an attachment
+    std::optional<QList<ListedApn>> canSetApnToServer(ModemClient &client);
+    /// Sends the records of the profile folder that the modem lacks and chooses the default, once for an attachment.
     void setAllApnFromPC(ModemClient &client);
 
     /// @return how many access points this modem was given
@@ -51,14 +58,22 @@ public:
     void reset();
 
 private:
-    quint32 countPCApns(ModemClient &client);
+    QList<ListedApn> listedApns(ModemClient &client);
+    std::optional<QStringList> readRecords(const std::stop_token &stop);
+    /// Sends @p missing, and sets the default among @p records. @param listed  what the modem has
+    void complete(ModemClient &client, const QStringList &missing, const std::optional<QStringList> &records,
+                  QList<ListedApn> listed);
 
     const SharedSnapshot &m_snapshot;
     SystemLog &m_systemLog;
+    Clock &m_clock;
     std::atomic<bool> onlySetAPNFlag_{true};
     std::atomic<int> m_accessPointsSent{0};
     std::atomic<bool> isSetApnReady_{false}; ///< the device has accepted that the access points are complete
-    QString notFoundDefaultApn_; ///< touched on behalf of the present attachment only
+    std::atomic<bool> m_owesDefault{false}; ///< a modem was sent records, and no default after them
+    QString notFoundDefaultApn_; ///< empty when the modem has the record; for the present attachment, as the next two
+    int m_readyRefusals = 0; ///< how often the device has not accepted that they are complete
+    Clock::TimePoint m_readyDue{}; ///< when it may be told again
 };
 
 } // namespace tarvo

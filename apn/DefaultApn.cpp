@@ -2,7 +2,6 @@
 
 #include "modemapi/JsonValues.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace tarvo {
@@ -24,18 +23,17 @@ RecordSearch searchRecords(const std::optional<QString> &name, const QStringList
     for (const QString &record : records) {
         if (record.isEmpty())
             continue;
-        const ParsedJson parsed = parseJson(record);
-        if (!parsed.document) {
+        const ParsedObject parsed = parseJsonObject(record);
+        if (!parsed.object) {
             search.problems.append(u"apn dictionary: (null), json Error: "_s + parsed.error);
             continue;
         }
-        const QJsonObject fields = parsed.document->object();
-        const QString profile = fields.value(u"profile").toString();
+        const QString profile = parsed.object->value(u"profile").toString();
         if (profile.isEmpty())
             continue;
         search.anyNamed = true;
         if (profile == name) {
-            search.index = static_cast<int>(integerValue(fields.value(u"index")));
+            search.index = static_cast<int>(integerValue(parsed.object->value(u"index")));
             break;
         }
     }
@@ -52,16 +50,19 @@ QString notFoundApnTemplate()
 }
 
 DefaultApn chooseDefaultApn(const std::optional<QString> &name, const QStringList &webDefaults,
-                            const QStringList &records)
+                            const QStringList &records, const QList<ListedApn> &taken)
 {
     const bool isNamed = name && !name->isEmpty();
     const auto position = static_cast<int>(isNamed ? webDefaults.indexOf(*name) : -1);
     if (position > 0)
         return {position};
 
-    const RecordSearch search = searchRecords(name, records);
+    RecordSearch search = searchRecords(name, records);
+    const bool wasRefused = search.index && !hasProfile(taken, *name);
+    if (wasRefused)
+        search.index.reset();
     const int index = search.index.value_or(records.isEmpty() ? -1 : position);
-    if (index >= 0)
+    if (index >= 0 || wasRefused)
         return {index, false, search.problems};
     if (isNamed)
         return {notFoundApnIndex, true, search.problems};

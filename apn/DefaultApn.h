@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apn/ApnList.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -16,7 +18,7 @@ QString notFoundApnTemplate();
 
 /// Which access point becomes the modem's default.
 struct DefaultApn {
-    int index = 0; ///< in the modem's list, or one of the two above
+    int index = 0; ///< in the modem's list, or one of the two above; negative when no default is to be set
     /// The not-found record has to be given the modem's default name: no record is known by it.
     bool isUnknown = false;
     QStringList problems{}; ///< a line for each record that had to be read and could not
@@ -25,8 +27,9 @@ struct DefaultApn {
 /// Finds the default's place among the modem's own access points first, then among the records of this computer.
 /// @param name         the modem's default; nil and empty mean that it names none
 /// @param webDefaults  the names of the modem's own access points, in the order of their indexes
-/// @param records      the records that were sent, JSON objects
+/// @param records      the records of this computer, JSON objects
+/// @param taken        what the modem has of them: a record that it has not taken becomes no default
 DefaultApn chooseDefaultApn(const std::optional<QString> &name, const QStringList &webDefaults,
-                            const QStringList &records);
+                            const QStringList &records, const QList<ListedApn> &taken);
 
 } // namespace tarvo

@@ -44,7 +44,7 @@ MainController::MainController(Services services)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
               m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
               [this] { m_display.refresh(); }})
-    , m_provisioner(m_monitor.snapshot(), m_services.systemLog)
+    , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
                {.answered = [this](const Work &work, auto obstacle) { modemAnswered(work, obstacle); },

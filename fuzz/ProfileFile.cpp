@@ -41,7 +41,8 @@ void useText(const ProfileText &profile)
     if (!profile.text)
         return;
     recordProblems(*profile.text);
-    chooseDefaultApn(u"A"_s, {u"A"_s}, profile.text->split(u'*'));
+    const QStringList records = profile.text->split(u'*');
+    chooseDefaultApn(u"A"_s, {u"A"_s}, records, readApnList(*profile.text).apns);
 }
 
 } // namespace

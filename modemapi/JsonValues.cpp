@@ -7,6 +7,8 @@
 
 namespace tarvo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qint64 integerFromText(const QString &text)
@@ -42,6 +44,16 @@ ParsedJson parseJson(const QString &text)
     if (error.error != QJsonParseError::NoError)
         return {std::nullopt, error.errorString()};
     return {std::move(document), {}};
+}
+
+ParsedObject parseJsonObject(const QString &text)
+{
+    const ParsedJson parsed = parseJson(text);
+    if (!parsed.document)
+        return {std::nullopt, parsed.error};
+    if (!parsed.document->isObject())
+        return {std::nullopt, u"it is an array"_s};
+    return {parsed.document->object(), {}};
 }
 
 qint64 integerValue(const QJsonValue &value)

@@ -145,23 +145,24 @@ std::optional<QString> ModemClient::setWebRequestToServer(const QString &url, co
     return utf8OrLatin1(answer.data);
 }
 
-bool ModemClient::setWebRequestWithId(const std::optional<QString> &command)
+bool ModemClient::setWebRequestWithId(const std::optional<QString> &command, const std::optional<QString> &shown)
 {
     if (!command)
         return false;
+    const QString name = shown.value_or(*command);
     const auto answer =
         setWebRequestToServer(modemUrl(u"goform/goform_set_cmd_process?"_s), u"goformId="_s + *command, nullptr);
     if (!answer) {
-        log(*command + u" setReqResultStr: (null), error: (null)"_s);
+        log(name + u" setReqResultStr: (null), error: (null)"_s);
         return false;
     }
     const auto result = getModemInfoFromKeyForWeb5(u"result\":"_s, answer);
     if (!result) {
-        log(*command + u" set request result is null!"_s);
+        log(name + u" set request result is null!"_s);
         return false;
     }
     if (!result->contains(u"success")) {
-        log(*command + u" set request failed!"_s);
+        log(name + u" set request failed!"_s);
         return false;
     }
     return true;

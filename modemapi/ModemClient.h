@@ -51,8 +51,9 @@ public:
     /// @return the answer; nil for a nil command or when there is no text
     std::optional<QString> getWebRequestContent(const std::optional<QString> &command);
     /// Runs the set command @p command, which may carry further form fields.
+    /// @param shown  stands for the command in the log, where it holds what nobody may read; the command itself when nil
     /// @return whether the modem reported success; false for a nil command
-    bool setWebRequestWithId(const std::optional<QString> &command);
+    bool setWebRequestWithId(const std::optional<QString> &command, const std::optional<QString> &shown = {});
 
     /// Sends the computer's clock to the modem.
     void setPcDate();

@@ -15,6 +15,7 @@ TEST(DefaultApn, FollowsTheTable)
         QStringList records;
         int index;
         bool isUnknown = false;
+        QList<ListedApn> taken{{u"A"_s}, {u"X"_s}, {u"Z"_s}};
     };
     const QString x = uR"({"profile":"X","index":2})"_s;
     const QString z = uR"({"profile":"Z","index":5})"_s;
@@ -31,14 +32,23 @@ TEST(DefaultApn, FollowsTheTable)
         {"an index of 64 bits is cut to 32", u"X"_s, {uR"({"profile":"X","index":4294967298})"_s}, 2},
         {"a negative index is none", u"X"_s, {uR"({"profile":"X","index":-1})"_s}, 199, true},
         {"199 of a record's own", u"X"_s, {uR"({"profile":"X","index":199})"_s}, 199, false},
+        {"a record's name, which the modem refused", u"X"_s, {x, z}, -1, false, {{u"Z"_s}}},
+        {"the modem's own first name, and a refused record's",
+         u"A"_s,
+         {uR"({"profile":"A","index":7})"_s},
+         0,
+         false,
+         {}},
     };
     for (const Case &row : cases) {
-        const DefaultApn choice = chooseDefaultApn(row.name, {u"A"_s, u"B"_s, u"C"_s, u"B"_s}, row.records);
+        const DefaultApn choice = chooseDefaultApn(row.name, {u"A"_s, u"B"_s, u"C"_s, u"B"_s}, row.records, row.taken);
         EXPECT_EQ(choice.index, row.index) << row.what;
         EXPECT_EQ(choice.isUnknown, row.isUnknown) << row.what;
     }
     const QString problem = u"apn dictionary: (null), json Error: illegal value"_s;
-    const DefaultApn choice = chooseDefaultApn(u"X"_s, {}, {u"no JSON"_s, u"\"X\""_s, u"[]"_s, u""_s, x, u"unread"_s});
+    const QStringList records{u"no JSON"_s, u"\"X\""_s, u"[]"_s, u""_s, x, u"unread"_s};
+    const DefaultApn choice = chooseDefaultApn(u"X"_s, {}, records, {{u"X"_s}});
     EXPECT_EQ(choice.index, 2);
-    EXPECT_EQ(choice.problems, (QStringList{problem, problem}));
+    EXPECT_EQ(choice.problems,
+              (QStringList{problem, problem, u"apn dictionary: (null), json Error: it is an array"_s}));
 }

@@ -15,6 +15,9 @@ TEST(JsonValues, AnObjectOrAnArrayAtTheTopAndNothingElse)
         EXPECT_TRUE(parseJson(text).document && parseJson(text).error.isEmpty());
     for (const QString &text : {u""_s, u"1"_s, u"\"{}\""_s, u"null"_s, u"{} {}"_s, u"{'a':1}"_s})
         EXPECT_TRUE(!parseJson(text).document && !parseJson(text).error.isEmpty()) << text.toStdString();
+    EXPECT_TRUE(parseJsonObject(u"{}"_s).object && parseJsonObject(u"{}"_s).error.isEmpty());
+    for (const QString &text : {u"[]"_s, u"1"_s})
+        EXPECT_TRUE(!parseJsonObject(text).object && !parseJsonObject(text).error.isEmpty()) << text.toStdString();
 }
 
 TEST(JsonValues, IntegersComeAsNumbersAndTexts)
