@@ -1,6 +1,6 @@
 #include "platform/LogLine.h"
 
-#include <QRegularExpression>
+#include <QList>
 
 #include <utility>
 
@@ -11,16 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray cutMark = QByteArrayLiteral("…");
-
-QString withoutPassword(const QString &text)
-{
-    if (!text.startsWith(u"default_apn: ") || !text.contains(u"\"password\""))
-        return text;
-    // A value may also be cut off, or be no text.
-    static const QRegularExpression field(uR"re(("password"\s*:\s*)("(?:[^"\\]|\\.)*+"?|[^\s,}]*+))re"_s,
-                                          QRegularExpression::DotMatchesEverythingOption);
-    return QString(text).replace(field, u"\\1\"…\""_s);
-}
 
 QByteArray escaped(char32_t character)
 {
@@ -62,7 +52,7 @@ bool needsEscape(char32_t character)
 QByteArray logLine(const QString &text)
 {
     // Every character takes a byte or more: what is cut off here would be cut off below.
-    const QString start = withoutPassword(text.left(maxLogLineSize + 1));
+    const QString start = text.left(maxLogLineSize + 1);
     QByteArray line;
     for (const char32_t character : start.toUcs4())
         line += needsEscape(character) ? escaped(character) : QString::fromUcs4(&character, 1).toUtf8();

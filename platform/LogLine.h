@@ -12,7 +12,6 @@ inline constexpr qsizetype maxLogLineSize = 1024;
 ///
 /// Control characters, line separators, characters that cannot be seen or turn the direction of writing, and the backslash
 /// are escaped as in C: no text looks like several lines, or like another text. What is too long ends in "…".
-/// The value of a `password` field is left out of what a modem answers to `default_apn`.
 /// @return UTF-8 without a line end
 QByteArray logLine(const QString &text);
 

@@ -144,8 +144,12 @@ void WebPages::openWebUIForQX740(ModemClient &client, const QString &content)
 bool WebPages::needsUserForApn(ModemClient &client, const WebUIFields &fields)
 {
     const std::optional<QString> defaultApn = client.getWebRequestContent(u"default_apn"_s);
-    client.log(defaultApn ? u"default_apn: "_s + *defaultApn : u"default_apn is nil"_s);
-    return defaultApnNeedsUser(defaultApn, fields);
+    const bool needsUser = defaultApnNeedsUser(defaultApn, fields);
+    bool isNew = false;
+    client.work().whileAttached([&] { isNew = std::exchange(m_loggedNeed, needsUser) != needsUser; });
+    if (isNew) // the description may differ each second
+        client.log(defaultApnLine(defaultApn));
+    return needsUser;
 }
 
 void WebPages::openWebUIOnce(const Work &work)
@@ -180,6 +184,7 @@ void WebPages::setClickTargets(std::optional<bool> updatePage, std::optional<boo
 void WebPages::reset()
 {
     hasOpenedWebUI_ = false;
+    m_loggedNeed.reset();
     openUpdateUrlWhileHasNewVersion_ = false;
     openDateLimitUrlWhileHasLimit_ = false;
     m_counter = 0;

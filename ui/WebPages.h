@@ -98,6 +98,9 @@ private:
     std::atomic<bool> hasOpenedWebUI_{false}; ///< the modem's pages were opened by themselves
     std::atomic<bool> openUpdateUrlWhileHasNewVersion_{false}; ///< a click opens the firmware page
     std::atomic<bool> openDateLimitUrlWhileHasLimit_{false};
+    /// Whether the user had to complete the default access point when the log was told; touched on behalf of the present
+    /// attachment only.
+    std::optional<bool> m_loggedNeed;
     std::atomic<std::int32_t> m_counter{0}; ///< compared in `checkModemMainState`; nothing increments it
 };
 

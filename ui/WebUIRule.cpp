@@ -6,10 +6,22 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
+#include <QSet>
 
 namespace tarvo {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isHarmless(const QString &key, const QJsonValue &value)
+{
+    static const QSet<QString> harmless{u"apn"_s,   u"auth"_s,     u"dns_mode"_s,        u"index"_s,  u"isPC"_s,
+                                        u"isWeb"_s, u"pdp_type"_s, u"password_status"_s, u"profile"_s};
+    return harmless.contains(key) && !value.isObject() && !value.isArray();
+}
+
+} // namespace
 
 WebUIFields readWebUIFields(const QString &content)
 {
@@ -38,6 +50,20 @@ bool defaultApnNeedsUser(const std::optional<QString> &defaultApn, const WebUIFi
     const bool hasUserName = !userName.isUndefined() && !userName.isNull() && userName != QJsonValue(QString());
     return !hasUserName || integerValue(description->object().value("password_status"_L1)) != 1
         || fields.passwordConfirmation == u"1"_s;
+}
+
+QString defaultApnLine(const std::optional<QString> &defaultApn)
+{
+    if (!defaultApn)
+        return u"default_apn is nil"_s;
+    std::optional<QJsonObject> description = parseJsonObject(*defaultApn).object;
+    if (!description)
+        return u"default_apn: no JSON object, %1 characters"_s.arg(defaultApn->size());
+    for (auto field = description->begin(); field != description->end(); ++field) {
+        if (!isHarmless(field.key(), field.value()))
+            field.value() = u"…"_s;
+    }
+    return u"default_apn: "_s + QString::fromUtf8(QJsonDocument(*description).toJson(QJsonDocument::Compact));
 }
 
 } // namespace tarvo

@@ -32,4 +32,8 @@ WebUIDecision decideWebUI(const WebUIFields &fields);
 ///         password, or there is no such description
 bool defaultApnNeedsUser(const std::optional<QString> &defaultApn, const WebUIFields &fields);
 
+/// @return the log's line about that description. It holds only values that are nobody's secret: the others are "…", and
+///         of a text that is no JSON object only the length is told
+QString defaultApnLine(const std::optional<QString> &defaultApn);
+
 } // namespace tarvo

@@ -66,6 +66,37 @@ TEST(WebUIRule, LeavesOnlyACompleteDefaultApnAlone)
         EXPECT_TRUE(defaultApnNeedsUser(answer, {})) << answer.toStdString();
 }
 
+TEST(WebUIRule, LogsNoSecretOfTheDefaultApn)
+{
+    const std::pair<std::optional<QString>, QString> lines[] = {
+        {std::nullopt, u"default_apn is nil"_s},
+        {uR"({"password_status":1,"profile":"P","username":"abc","passw\u006frd":"x","passwd":7})"_s,
+         uR"(default_apn: {"passwd":"…","password":"…","password_status":1,"profile":"P","username":"…"})"_s},
+        {uR"({"profile":{"password":"x"},"index":["x"],"username":{"a":"x"}})"_s,
+         uR"(default_apn: {"index":"…","profile":"…","username":"…"})"_s},
+        {uR"([{"password":"x"}])"_s, u"default_apn: no JSON object, 18 characters"_s},
+        {u"password: 'x'"_s, u"default_apn: no JSON object, 13 characters"_s},
+    };
+    for (const auto &[answer, line] : lines)
+        EXPECT_EQ(defaultApnLine(answer), line);
+}
+
+TEST_F(WebUI, LogsTheDefaultApnOnceForEachPlugInHoweverOftenItsTextChanges)
+{
+    for (qsizetype plug = 1; plug <= 2; ++plug) {
+        modem.device.clearRequests();
+        plugIn(modem);
+        for (const qsizetype second : {1, 2, 3}) {
+            modem.device.change(
+                [&](ModemCondition &condition) { condition.defaultProfileName = u"number %1"_s.arg(second); });
+            tick(modem, second);
+        }
+        ASSERT_TRUE(modem.device.waitForRequests(3, "default_apn"));
+        unplug();
+        EXPECT_EQ(systemLog.lines().filter(u"default_apn: "_s).size(), plug);
+    }
+}
+
 TEST_F(WebUI, OpensOnceForEachPlugIn)
 {
     modem.device.change([](ModemCondition &condition) { condition.startsWebUI = true; });
