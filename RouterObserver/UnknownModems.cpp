@@ -11,12 +11,17 @@ using namespace Qt::StringLiterals;
 
 UnknownModems::UnknownModems(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, const RouterObserver &observer,
                              std::function<void()> changed)
-    : m_deviceRegistry(deviceRegistry)
+    : m_dynamicStore(dynamicStore)
+    , m_deviceRegistry(deviceRegistry)
     , m_observer(observer)
     , m_changed(std::move(changed))
-    , m_session(dynamicStore.createSession(u"UnknownModems"_s,
-                                           [this](auto &session, const QStringList &keys) { update(session, keys); }))
 {
+}
+
+void UnknownModems::watch()
+{
+    m_session = m_dynamicStore.createSession(u"UnknownModems"_s,
+                                             [this](auto &session, const QStringList &keys) { update(session, keys); });
     if (!m_session)
         return;
     const QStringList patterns{store::anyServiceIPv4Pattern};

@@ -111,6 +111,7 @@ void MainController::applicationDidFinishLaunching()
                       [this](const QString &bsdName) { procInterfaceRemoved(bsdName); }, [this] { detect(); }}));
     m_unknownModems = std::make_unique<UnknownModems>(m_services.dynamicStore, m_services.deviceRegistry,
                                                       *routerObserver_, [this] { detect(); });
+    m_unknownModems->watch();
     const SettingsProblem problem = settingsProblem(ConfigManager::sharedConfigManager());
     const QString line =
         problem == SettingsProblem::None ? unmatchedVendorLine(ConfigManager::sharedConfigManager()) : logLine(problem);
@@ -118,6 +119,7 @@ void MainController::applicationDidFinishLaunching()
         log(line);
     m_display.setSettingsProblem(problem);
     detect();
+    m_display.refresh();
 }
 
 void MainController::detect()

@@ -14,7 +14,7 @@ namespace {
 /// How programs, their libraries and temporary files are found, and what sanitizers and the test framework are told.
 bool isKept(const QString &name)
 {
-    static const QStringList kept{u"PATH"_s, u"TMPDIR"_s, u"LD_LIBRARY_PATH"_s, u"LD_PRELOAD"_s};
+    static const QStringList kept{u"PATH"_s, u"TMPDIR"_s, u"LD_LIBRARY_PATH"_s, u"LD_PRELOAD"_s, u"MALLOC_PERTURB_"_s};
     return kept.contains(name) || name.endsWith(u"_OPTIONS") || name.startsWith(u"GTEST_");
 }
 

@@ -11,7 +11,6 @@ namespace tarvo {
 StatusDisplay::StatusDisplay(Surroundings surroundings)
     : m_with(std::move(surroundings))
 {
-    refresh();
 }
 
 StatusDisplay::~StatusDisplay() = default;

@@ -29,6 +29,7 @@ public:
         std::function<DeviceDetails()> device; ///< of the modem that is attached
     };
 
+    /// Says nothing before the first `refresh`.
     explicit StatusDisplay(Surroundings surroundings);
     ~StatusDisplay();
 
@@ -41,7 +42,7 @@ public:
     void setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn);
     /// Keeps @p news among the recent ones.
     void addNews(const StandingNews &news);
-    /// What a click opens may have changed.
+    /// Says how things stand, as what a click opens may have changed.
     void refresh();
 
     /// Shows the status window in front.

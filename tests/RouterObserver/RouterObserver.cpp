@@ -218,7 +218,8 @@ TEST_F(RouterObserverTest, UnknownModemsAreThoseWithAGatewayThatTheSettingsNeith
         network_.setIPv4(name, router);
     };
     int changes = 0;
-    const UnknownModems unknown(store_, registry_, observer_, [&] { ++changes; });
+    UnknownModems unknown(store_, registry_, observer_, [&] { ++changes; });
+    unknown.watch();
     plug(u"en1"_s, vendor, product, u"10.0.0.1"_s);
     plug(u"en2"_s, vendor + 1, excludedProduct, u"10.0.0.1"_s);
     plug(u"en3"_s, 0x00ab, 1, std::nullopt);

@@ -7,6 +7,7 @@ Exit status 77: no network namespaces can be made here.
 import os
 import pathlib
 import plistlib
+import re
 import signal
 import socket
 import subprocess
@@ -36,6 +37,8 @@ class Companion(unittest.TestCase):
 
     settings = CONFIG
     simulator = property(lambda self: sys.argv[2])
+    executable = property(lambda self: sys.argv[1])
+    command = ["tarvo"]
 
     def setUp(self):
         self.make_computer()
@@ -63,8 +66,9 @@ class Companion(unittest.TestCase):
         bus = self.open_bus()
         self.environment = surroundings.environment(self.folder, self.usb, session_bus or bus) | {
             "DBUS_SYSTEM_BUS_ADDRESS": bus, "SSLKEYLOGFILE": str(self.folder / "keys")}
-        self.program = subprocess.Popen(["tarvo"], executable=sys.argv[1], env=self.environment, stderr=subprocess.PIPE,
-                                        text=True)
+        # By a name that is no path: to start over, the program must know by itself where it is.
+        self.program = subprocess.Popen(self.command, executable=self.executable, env=self.environment,
+                                        stderr=subprocess.PIPE, text=True)
         self.log = []
         reader = threading.Thread(target=lambda: self.log.extend(self.read_lines()))
         reader.start()
@@ -221,6 +225,19 @@ class CompanionTest(Companion):
                 self.modem.tell("fault none")
                 seen = len(self.modem.polls())
                 self.until(lambda: len(self.modem.polls()) > seen + 2)
+
+    def test_starts_with_each_example_of_the_shipped_settings(self):
+        shipped = (pathlib.Path(__file__).parents[2] / "resources/Config.plist").read_text()
+        comment = re.compile(r"<!--\s*(<key>.*?)-->", re.DOTALL)
+        examples = comment.findall(shipped)
+        self.assertEqual(len(examples), 5)
+        for taken in [*([each] for each in examples), examples]:
+            with self.subTest(taken):
+                settings = comment.sub(lambda found, taken=taken: found[1] if found[1] in taken else "", shipped)
+                self.quit()
+                (self.folder / "bus").unlink()
+                write(self.folder / "config/tarvo/Config.plist", settings)
+                self.start_program()
 
     def test_says_that_there_is_no_display(self):
         program = subprocess.run([sys.argv[1]], env=self.environment | {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ""},
