@@ -112,6 +112,12 @@ TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
     kill(bus_->process(), SIGCONT);
     EXPECT_TRUE(waitFor([&] { return logind_->prepareForSleep(true), !events_.isEmpty(); }));
     EXPECT_EQ(events_, (QStringList{u"late"_s, u"2"_s}));
+
+    logind_->prepareForSleep(false);
+    ASSERT_TRUE(waitFor([&] { return events_.last() == u"wake"_s; }));
+    logind_.reset();
+    logind_ = std::make_unique<SimulatedLogind>(address_);
+    EXPECT_TRUE(becomes(true)) << "the lock that the first one was asked for will not come";
 }
 
 TEST_F(LogindWorkspaceTest, FollowsWhetherTheSessionIsActive)

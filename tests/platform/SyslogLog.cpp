@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -84,4 +85,28 @@ TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
     close(ends[0]);
     log.write(u"nobody reads"_s);
     dup2(before, STDERR_FILENO);
+}
+
+TEST(SyslogLog, WritesToStandardErrorUnlessThatIsTheJournal)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(u"log"_s).toUtf8();
+    const int syslog = listenAt(path);
+    std::array<int, 2> ends{};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends.data()), 0);
+    struct stat status { };
+    fstat(ends[1], &status);
+    const std::string journal = std::to_string(status.st_dev) + ':' + std::to_string(status.st_ino);
+    const int before = dup(STDERR_FILENO);
+    dup2(ends[1], STDERR_FILENO);
+    for (const auto &[stream, expected] :
+         {std::pair(journal, ""), {journal + "0", "line\n"}, {journal + ":", "line\n"}}) {
+        qputenv("JOURNAL_STREAM", QByteArray::fromStdString(stream));
+        SyslogLog(path).write(u"line"_s);
+        EXPECT_EQ(drain(ends[0]), expected) << stream;
+        EXPECT_THAT(drain(syslog), testing::EndsWith(": line"));
+    }
+    qunsetenv("JOURNAL_STREAM");
+    dup2(before, STDERR_FILENO);
+    close(syslog);
 }
