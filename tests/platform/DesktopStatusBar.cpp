@@ -121,6 +121,17 @@ TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
     EXPECT_TRUE(waitFor([&] { return item->frame()->contains(areaOf(magenta)) && areaOf(magenta).height() == 38; }));
 }
 
+TEST_F(DesktopStatusBarTest, OutlivesWhatItShows)
+{
+    const auto tray = startTray(22);
+    auto view = std::make_unique<QPushButton>();
+    item->setView(view.get());
+    ASSERT_TRUE(waitFor([&] { return item->frame().has_value(); }));
+    view.reset();
+    item.reset();
+    EXPECT_TRUE(waitFor([&] { return areaOf(magenta).isEmpty(); }));
+}
+
 TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
 {
     const auto tray = startTray(22);

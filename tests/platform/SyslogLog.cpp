@@ -87,6 +87,22 @@ TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
     dup2(before, STDERR_FILENO);
 }
 
+TEST(SyslogLog, TellsHowManyLinesWereLostBeforeSyslogCame)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath(u"log"_s).toUtf8();
+    SyslogLog log(path);
+    for (const auto &[lost, told] : {std::pair(1, "1 line was lost"), {2, "2 lines were lost"}}) {
+        for (int line = 0; line < lost; ++line)
+            log.write(QString::number(line));
+        const int syslog = listenAt(path);
+        log.write(u"taken"_s);
+        log.write(u"as well"_s);
+        EXPECT_THAT(drain(syslog), MatchesRegex(std::string("<14>.*: ") + told + "<14>.*: taken<14>.*: as well"));
+        close(syslog);
+    }
+}
+
 TEST(SyslogLog, WritesToStandardErrorUnlessThatIsTheJournal)
 {
     const QTemporaryDir folder;

@@ -12,8 +12,7 @@ namespace tarvo {
 inline QStringList inotifyInstances()
 {
     QStringList instances;
-    const QFileInfoList descriptors =
-        QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System);
+    const QFileInfoList descriptors = QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System);
     for (const QFileInfo &descriptor : descriptors) {
         QFile facts(QStringLiteral("/proc/self/fdinfo/") + descriptor.fileName());
         if (descriptor.symLinkTarget().contains(QLatin1String("inotify")) && facts.open(QIODevice::ReadOnly))
