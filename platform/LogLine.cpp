@@ -49,13 +49,18 @@ bool needsEscape(char32_t character)
 
 } // namespace
 
+QByteArray escapedText(const QString &text)
+{
+    QByteArray line;
+    for (const char32_t character : text.toUcs4())
+        line += needsEscape(character) ? escaped(character) : QString::fromUcs4(&character, 1).toUtf8();
+    return line;
+}
+
 QByteArray logLine(const QString &text)
 {
     // Every character takes a byte or more: what is cut off here would be cut off below.
-    const QString start = text.left(maxLogLineSize + 1);
-    QByteArray line;
-    for (const char32_t character : start.toUcs4())
-        line += needsEscape(character) ? escaped(character) : QString::fromUcs4(&character, 1).toUtf8();
+    QByteArray line = escapedText(text.left(maxLogLineSize + 1));
     if (line.size() <= maxLogLineSize)
         return line;
     qsizetype end = maxLogLineSize - cutMark.size();

@@ -4,6 +4,7 @@
 #include "apn/tool/FolderReport.h"
 #include "apn/tool/ProfileSigner.h"
 #include "apn/tool/ProfileSource.h"
+#include "platform/LogLine.h"
 #include "platform/WholeFile.h"
 
 #include <QCommandLineParser>
@@ -11,6 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
+
+#include <unistd.h>
 
 #include <cstdio>
 #include <optional>
@@ -20,6 +23,9 @@ namespace {
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
+/// Of files that hold passwords.
+constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+
 /// Exit codes.
 enum : int { inOrder = 0, failed = 1, wrongUse = 2 };
 
@@ -27,9 +33,10 @@ const QString keyOption = u"key"_s;
 const QString publicKeyOption = u"public-key"_s;
 const QString outputOption = u"output"_s;
 
+/// Prints one line, whatever a file's name or text holds.
 void print(std::FILE *stream, const QString &line)
 {
-    QTextStream(stream) << line << Qt::endl;
+    QTextStream(stream) << QString::fromUtf8(escapedText(line)) << Qt::endl;
 }
 
 int fail(const QString &subject, const QString &problem, int code = failed)
@@ -47,9 +54,10 @@ std::optional<QByteArray> readFile(const QString &path)
     return std::move(file.bytes);
 }
 
-int writeFile(const QString &path, const QByteArray &bytes)
+int writeFile(const QString &path, const QByteArray &bytes,
+              std::optional<QFileDevice::Permissions> permissions = std::nullopt)
 {
-    const QString problem = writeWholeFile(path, bytes);
+    const QString problem = writeWholeFile(path, bytes, permissions);
     return problem.isEmpty() ? inOrder : fail(path, problem);
 }
 
@@ -117,8 +125,11 @@ int unpack(const QCommandLineParser &arguments, const QString &path)
         return fail(path, profile.problem);
     const QString output = arguments.value(outputOption);
     if (!output.isEmpty())
-        return writeFile(output, profile.text->toUtf8());
-    print(stdout, *profile.text);
+        return writeFile(output, profile.text->toUtf8(), ownerOnly);
+    if (isatty(STDOUT_FILENO) == 1)
+        print(stdout, *profile.text);
+    else
+        QTextStream(stdout) << *profile.text << Qt::endl;
     return inOrder;
 }
 

@@ -13,12 +13,17 @@
 
 namespace tarvo {
 
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
 /// The private half of the built-in key.
 inline ProfileSigner demoSigner()
 {
-    QFile file(QStringLiteral(TARVO_DEMO_PRIVATE_KEY));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return ProfileSigner::fromPem(file.readAll()).signer.value();
+    return ProfileSigner::fromPem(contentOf(QStringLiteral(TARVO_DEMO_PRIVATE_KEY))).signer.value();
 }
 
 /// A profile folder of the test's own, which the companion reads as long as this lives.

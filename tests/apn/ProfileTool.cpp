@@ -16,6 +16,25 @@ const QString record = uR"({"index":"3","isPC":1,"isWeb":0,"pdp_type":1,"profile
                        uR"("username":"","password":"","dns_mode":0,"prefer_dns":"","standby_dns":"",)"
                        uR"("ipv6_prefer_dns":"","ipv6_standby_dns":""})"_s;
 
+struct Tool : testing::Test {
+    /// @return the exit code
+    int run(const QStringList &arguments)
+    {
+        tool.start(QStringLiteral(TARVO_PROFILE_TOOL), arguments);
+        EXPECT_TRUE(tool.waitForFinished());
+        output = tool.readAllStandardOutput();
+        errors = tool.readAllStandardError();
+        return tool.exitCode();
+    }
+
+    ProfileFolder folder;
+    const QString packed = folder.path(u"A.xml"_s);
+    const QStringList pack{u"pack"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_PRIVATE_KEY), u"-o"_s, packed};
+    QProcess tool;
+    QByteArray output;
+    QByteArray errors;
+};
+
 } // namespace
 
 TEST(ProfileTool, AcceptsGoodRecordsAndNamesWhatIsWrong)
@@ -57,24 +76,15 @@ TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
     }
 }
 
-TEST(ProfileTool, PacksWhatTheCompanionReads)
+TEST_F(Tool, PacksWhatTheCompanionReads)
 {
-    const ProfileFolder folder;
-    QProcess tool;
-    const auto run = [&](const QStringList &arguments) {
-        tool.start(QStringLiteral(TARVO_PROFILE_TOOL), arguments);
-        EXPECT_TRUE(tool.waitForFinished());
-        return tool.exitCode();
-    };
-    const QString packed = folder.path(u"A.xml"_s);
-    const QStringList pack{u"pack"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_PRIVATE_KEY), u"-o"_s, packed};
     folder.write(u"a.json"_s, record.toUtf8());
     folder.write(u"names.json"_s, R"(["A"])");
     EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 0);
     EXPECT_EQ(run({u"unpack"_s, packed}), 0);
-    EXPECT_EQ(tool.readAllStandardOutput(), record.toUtf8() + '\n');
+    EXPECT_EQ(output, record.toUtf8() + '\n');
     EXPECT_EQ(run({u"about"_s}), 0);
-    EXPECT_TRUE(tool.readAllStandardOutput().contains(folder.signer().publicKey().fingerprint().toHex()));
+    EXPECT_TRUE(output.contains(folder.signer().publicKey().fingerprint().toHex()));
     EXPECT_EQ(run({u"check"_s, folder.path({})}), 1) << "there is no list";
     EXPECT_EQ(run(pack + QStringList{folder.path(u"names.json"_s)}), 1) << "a list has its own name";
     EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);
@@ -82,4 +92,31 @@ TEST(ProfileTool, PacksWhatTheCompanionReads)
     EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 1);
     EXPECT_TRUE(tool.readAllStandardError().contains("A.xml: "));
     EXPECT_EQ(decryptApnFile(packed), record) << "and nothing was written over";
+}
+
+TEST_F(Tool, TheTextOfAProfileIsForItsReaderAlone)
+{
+    folder.add(u"A.xml"_s, record);
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(run({u"unpack"_s, packed, u"-o"_s, folder.path(u"text"_s)}), 0);
+        EXPECT_EQ(contentOf(folder.path(u"text"_s)), record.toUtf8());
+        EXPECT_EQ(QFile::permissions(folder.path(u"text"_s)) & QFile::Permissions(0x77), QFile::Permissions())
+            << "group and others";
+        QFile::setPermissions(folder.path(u"text"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    }
+}
+
+TEST_F(Tool, WhatComesFromOutsideForgesNoLineAndMovesNoCursor)
+{
+    folder.add(u"profile.xml"_s, u"A"_s);
+    folder.write(u"B.xml: listed, in order\nC.xml"_s, "");
+    folder.add(u"A.xml"_s, u"\u001b[2J\n"_s);
+    EXPECT_EQ(run({u"check"_s, folder.path({})}), 1);
+    EXPECT_FALSE(output.contains("in order\n")) << output.constData();
+    EXPECT_EQ(run({u"unpack"_s, packed}), 0);
+    EXPECT_EQ(output, "\x1b[2J\n\n") << "a program gets what is there";
+    tool.start(u"script"_s,
+               {u"-qc"_s, QStringLiteral(TARVO_PROFILE_TOOL) + u" unpack '"_s + packed + u'\'', u"/dev/null"_s});
+    EXPECT_TRUE(tool.waitForFinished());
+    EXPECT_EQ(tool.readAllStandardOutput(), "\\x1b[2J\\n\r\n") << "a terminal does not";
 }
