@@ -2,6 +2,7 @@
 
 #include "RouterObserver/ConfigManager.h"
 #include "apn/DefaultApn.h"
+#include "apn/ProfileSeal.h"
 #include "apn/ProfileSelection.h"
 #include "modemapi/AnswerFields.h"
 #include "modemapi/ModemClient.h"
@@ -158,10 +159,12 @@ std::optional<QList<ListedApn>> ApnProvisioner::canSetApnToServer(ModemClient &c
     return isAttached ? std::optional(listed) : std::nullopt;
 }
 
-std::optional<QStringList> ApnProvisioner::readRecords(const std::stop_token &stop)
+std::optional<QStringList> ApnProvisioner::readRecords(const ProfileSeal &seal, const std::stop_token &stop)
 {
-    const auto total = getParsedApnContentFromTotalProfile(m_systemLog);
-    return total ? std::optional(getValidParsedContentFromApnProfiles(*total, m_systemLog, stop)) : std::nullopt;
+    const auto total = getParsedApnContentFromTotalProfile(seal, m_systemLog);
+    if (!total)
+        return std::nullopt;
+    return getValidParsedContentFromApnProfiles(*total, seal, m_systemLog, stop);
 }
 
 void ApnProvisioner::setAllApnFromPC(ModemClient &client)
@@ -169,7 +172,13 @@ void ApnProvisioner::setAllApnFromPC(ModemClient &client)
     const auto listed = canSetApnToServer(client);
     if (!listed)
         return;
-    const auto records = readRecords(client.work().stopToken());
+    const std::stop_token stop = client.work().stopToken();
+    const ProfileSeal seal = readProfileSeal(QString::fromUtf8(APN_ROOT), builtInSealRule(), stop);
+    if (!seal.problem.isEmpty()) {
+        client.log(seal.problem + u": no access points are sent"_s);
+        return;
+    }
+    const auto records = readRecords(seal, stop);
     const ApnPlan plan = planApns(*listed, webDefaultNames().size(), records.value_or(QStringList()), m_owesDefault);
     if (plan.setsDefault)
         complete(client, plan.records, records, *listed);

@@ -15,6 +15,7 @@ namespace tarvo {
 
 class ModemClient;
 class SystemLog;
+struct ProfileSeal;
 
 /// Gives the modem the access points of this computer, and knows what this modem was given.
 ///
@@ -59,7 +60,7 @@ public:
 
 private:
     QList<ListedApn> listedApns(ModemClient &client);
-    std::optional<QStringList> readRecords(const std::stop_token &stop);
+    std::optional<QStringList> readRecords(const ProfileSeal &seal, const std::stop_token &stop);
     /// Sends @p missing, and sets the default among @p records. @param listed  what the modem has
     void complete(ModemClient &client, const QStringList &missing, const std::optional<QStringList> &records,
                   QList<ListedApn> listed);

@@ -9,13 +9,13 @@ std::optional<QString> decryptApnFile(const QString &path)
     const ProfileBytes file = readProfileBytes(path);
     if (!file.bytes)
         return QString();
-    const auto &key = builtInProfileKey();
+    const auto &key = builtInProfileKey().key;
     return key ? decodeProfile(*file.bytes, *key).text : std::nullopt;
 }
 
 std::optional<PlainBlock> decrypt(ProfileBlock block)
 {
-    const auto &key = builtInProfileKey();
+    const auto &key = builtInProfileKey().key;
     return key ? key->decoder().decrypt(block) : std::nullopt;
 }
 

@@ -6,8 +6,8 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -25,11 +25,13 @@ ProfileBytes unreadable(const std::error_code &error)
     return {std::nullopt, u"it cannot be read: "_s + QString::fromStdString(error.message())};
 }
 
-/// @return the text up to the first zero byte; nil when it is no UTF-8
+/// @return the text up to the first zero byte; nil when it is no UTF-8, or something follows
 std::optional<QString> textOf(const PlainBlock &plain)
 {
-    return strictUtf8(QByteArrayView(plain.data(), static_cast<qsizetype>(std::strlen(plain.data()))),
-                      ByteOrderMark::Keep);
+    const auto end = std::ranges::find(plain, '\0');
+    if (std::any_of(end, plain.end(), [](char byte) { return byte != 0; }))
+        return std::nullopt;
+    return strictUtf8(QByteArrayView(plain.begin(), end), ByteOrderMark::Keep);
 }
 
 } // namespace
@@ -98,7 +100,7 @@ ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key)
             return {std::nullopt, u"record %1 does not decode"_s.arg(record / recordSize + 1)};
         const auto piece = textOf(*plain);
         if (!piece)
-            return {std::nullopt, u"record %1 holds no UTF-8"_s.arg(record / recordSize + 1)};
+            return {std::nullopt, u"record %1 holds no UTF-8 text alone"_s.arg(record / recordSize + 1)};
         text += *piece;
     }
     return {std::move(text), {}};
@@ -110,12 +112,6 @@ ProfileText readProfile(const QString &path, const ProfileKey &key)
     if (!file.bytes)
         return {std::nullopt, file.problem};
     return decodeProfile(*file.bytes, key);
-}
-
-ProfileText readProfile(const QString &path)
-{
-    const auto &key = builtInProfileKey();
-    return key ? readProfile(path, *key) : ProfileText{std::nullopt, u"no key to decode it is built in"_s};
 }
 
 } // namespace tarvo

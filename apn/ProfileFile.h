@@ -50,11 +50,11 @@ private:
 /// Reads the regular file at @p path, links followed, whole. Never waits for a writer, as on a FIFO.
 ProfileBytes readProfileBytes(const QString &path);
 
-/// Decodes the records in @p file, each by itself, and joins their texts.
+/// Decodes the records in @p file, each by itself, and joins their texts. A record with more than zero bytes after its
+/// text's end is damaged: nobody packs such, and a forger who needs room would.
 ProfileText decodeProfile(QByteArrayView file, const ProfileKey &key);
 
-/// Reads and decodes the file at @p path, with @p key or with the key that is built in.
+/// Reads and decodes the file at @p path.
 ProfileText readProfile(const QString &path, const ProfileKey &key);
-ProfileText readProfile(const QString &path);
 
 } // namespace tarvo

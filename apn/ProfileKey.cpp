@@ -1,12 +1,13 @@
 #include "apn/ProfileKey.h"
 
-#include "platform/Assertion.h"
+#include "apn/OpenSsl.h"
 
 #include <QCryptographicHash>
 
 #include <ProfileSettings.h>
+#include <openssl/bn.h>
+#include <openssl/core_names.h>
 #include <openssl/crypto.h>
-#include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/rsa.h>
 #include <openssl/x509.h>
@@ -15,6 +16,8 @@
 #include <utility>
 
 namespace tarvo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,14 +28,7 @@ namespace {
 [[maybe_unused]] const int initialised = OPENSSL_init_crypto(
     OPENSSL_INIT_NO_ATEXIT | OPENSSL_INIT_NO_LOAD_CRYPTO_STRINGS | OPENSSL_INIT_NO_LOAD_CONFIG, nullptr);
 
-/// Takes back the error reports that the library leaves on the thread for whoever asks next.
-class ErrorMark {
-public:
-    ErrorMark() { ERR_set_mark(); }
-    ~ErrorMark() { ERR_pop_to_mark(); }
-    ErrorMark(const ErrorMark &) = delete;
-    ErrorMark &operator=(const ErrorMark &) = delete;
-};
+constexpr BN_ULONG smallestExponent = 65537;
 
 } // namespace
 
@@ -72,20 +68,35 @@ std::optional<ProfileKey> ProfileKey::fromDer(QByteArrayView der)
     return ProfileKey(key);
 }
 
-QByteArray ProfileKey::fingerprint() const
+bool ProfileKey::isForgeable() const
 {
-    unsigned char *bytes = nullptr;
-    const int size = i2d_PUBKEY(m_key.get(), &bytes);
-    const auto hash = QCryptographicHash::hash(QByteArrayView(bytes, qMax(size, 0)), QCryptographicHash::Sha256);
-    OPENSSL_free(bytes);
-    return hash;
+    BIGNUM *exponent = nullptr;
+    EVP_PKEY_get_bn_param(m_key.get(), OSSL_PKEY_PARAM_RSA_E, &exponent);
+    const std::unique_ptr<BIGNUM, decltype(&BN_free)> owner(exponent, BN_free);
+    return !exponent || BN_get_word(exponent) < smallestExponent; // a larger one than a word is all ones
 }
 
-const std::optional<ProfileKey> &builtInProfileKey()
+QByteArray ProfileKey::fingerprint() const
 {
-    static const std::optional<ProfileKey> key = ProfileKey::fromDer(QByteArrayView(profilePublicKey));
-    TARVO_ASSERT(key || profilePublicKey.empty(), "key", "builtInProfileKey", "apn/ProfileKey", __LINE__);
-    return key;
+    return QCryptographicHash::hash(publicKeyDer(m_key.get()), QCryptographicHash::Sha256);
+}
+
+ProfileKeyReading readProfileKey(QByteArrayView der)
+{
+    auto key = ProfileKey::fromDer(der);
+    if (!key)
+        return {std::nullopt, u"it is no RSA key of 1024 bits"_s};
+    if (key->isForgeable())
+        return {std::nullopt, u"its public exponent is below 65537, so that anybody can forge profiles"_s};
+    return {std::move(key), {}};
+}
+
+const ProfileKeyReading &builtInProfileKey()
+{
+    static const ProfileKeyReading reading = profilePublicKey.empty()
+        ? ProfileKeyReading{std::nullopt, u"none is built in"_s}
+        : readProfileKey(QByteArrayView(profilePublicKey));
+    return reading;
 }
 
 } // namespace tarvo

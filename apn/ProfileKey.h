@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QString>
 
 #include <openssl/types.h>
 
@@ -45,6 +46,9 @@ public:
     /// @return nil unless it holds an RSA key whose blocks have the profiles' size
     static std::optional<ProfileKey> fromDer(QByteArrayView der);
 
+    /// @return whether its public exponent is so small that records are forged by taking roots; FIPS 186-5 asks for more than
+    ///         65536
+    bool isForgeable() const;
     /// @return the SHA-256 hash of the key's SubjectPublicKeyInfo in DER form
     QByteArray fingerprint() const;
     /// @return a decoder that shares this key, and may outlive it
@@ -56,7 +60,16 @@ private:
     std::shared_ptr<EVP_PKEY> m_key;
 };
 
-/// The key that is built into the program, read once. @return nil when it was built without one
-const std::optional<ProfileKey> &builtInProfileKey();
+/// What came of reading a key that profiles are to be trusted with.
+struct ProfileKeyReading {
+    std::optional<ProfileKey> key; ///< nil when there is none, or it is not to be trusted
+    QString problem; ///< why it is nil, as the end of a sentence; empty when it is not
+};
+
+/// Reads a SubjectPublicKeyInfo in DER form.
+ProfileKeyReading readProfileKey(QByteArrayView der);
+
+/// The key that is built into the program, read once.
+const ProfileKeyReading &builtInProfileKey();
 
 } // namespace tarvo

@@ -46,13 +46,17 @@ private:
         std::error_code error; // what cannot be told of an entry shows when it is read
         const QString path = folder + QFile::decodeName(entry.path().filename().c_str());
         const bool isProfile = path.endsWith(u".xml");
-        if (isProfile && entry.is_directory(error))
+        if (!entry.is_directory(error)) {
+            m_listing.files.append(path);
+            if (isProfile)
+                m_listing.profiles.append(path);
+            return;
+        }
+        if (isProfile)
             skip(path, u"it is a folder"_s);
-        else if (isProfile)
-            m_listing.profiles.append(path);
-        else if (entry.is_directory(error) && entry.is_symlink(error))
+        else if (entry.is_symlink(error))
             skip(path, u"it is a link to a folder"_s);
-        if (entry.is_directory(error) && !entry.is_symlink(error))
+        if (!entry.is_symlink(error))
             list(path + u'/', depth + 1);
     }
 

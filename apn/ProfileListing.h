@@ -9,7 +9,8 @@ namespace tarvo {
 
 /// What a profile folder holds.
 struct ProfileListing {
-    QStringList profiles; ///< the paths of the files that end in `.xml`, in the order of the file system
+    QStringList files; ///< the paths of all but folders, in the order of the file system
+    QStringList profiles; ///< those that end in `.xml`
     QStringList problems; ///< a line for each thing that was passed over, with its path and the reason
 };
 
@@ -17,7 +18,7 @@ struct ProfileListing {
 /// @param problem  why, as the end of a sentence
 QString skippedLine(const QString &path, const QString &problem);
 
-/// Lists the profiles below @p root, sub-folders included. Links to folders are not followed, and folders
+/// Lists what lies below @p root, sub-folders included. Links to folders are not followed, and folders
 /// that lie unreasonably deep are passed over.
 /// @param root  with its trailing slash; it need not exist
 /// @param stop  ends the listing early, with what has been found so far

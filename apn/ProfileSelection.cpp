@@ -3,6 +3,7 @@
 #include "apn/ProfileDecoding.h"
 #include "apn/ProfileFile.h"
 #include "apn/ProfileListing.h"
+#include "apn/ProfileSeal.h"
 #include "platform/SystemLog.h"
 
 #include <QFile>
@@ -21,9 +22,22 @@ const char *APN_TOTAL_PROFILE = defaultTotalProfile;
 
 namespace {
 
-std::optional<QString> readOrSkip(const QString &path, SystemLog &systemLog)
+ProfileText readCovered(const QString &path, const ProfileSeal &seal)
 {
-    const ProfileText profile = readProfile(path);
+    const auto &[key, problem] = builtInProfileKey();
+    if (!key)
+        return {std::nullopt, u"no key to read it with: "_s + problem};
+    const ProfileBytes file = readProfileBytes(path);
+    if (!file.bytes)
+        return {std::nullopt, file.problem};
+    if (!seal.covers(path, *file.bytes))
+        return {std::nullopt, u"it is not what was sealed"_s};
+    return decodeProfile(*file.bytes, *key);
+}
+
+std::optional<QString> readOrSkip(const QString &path, const ProfileSeal &seal, SystemLog &systemLog)
+{
+    const ProfileText profile = readCovered(path, seal);
     if (!profile.text)
         systemLog.write(skippedLine(path, profile.problem));
     return profile.text;
@@ -41,18 +55,18 @@ QStringList candidates(SystemLog &systemLog, const std::stop_token &stop)
 
 } // namespace
 
-std::optional<QString> getParsedApnContentFromTotalProfile(SystemLog &systemLog)
+std::optional<QString> getParsedApnContentFromTotalProfile(const ProfileSeal &seal, SystemLog &systemLog)
 {
     const QString path = QString::fromUtf8(APN_TOTAL_PROFILE);
     if (!QFile::exists(path)) {
         systemLog.write(u"can not find profile.xml"_s);
         return std::nullopt;
     }
-    return readOrSkip(path, systemLog);
+    return readOrSkip(path, seal, systemLog);
 }
 
-QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, SystemLog &systemLog,
-                                                 const std::stop_token &stop)
+QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, const ProfileSeal &seal,
+                                                 SystemLog &systemLog, const std::stop_token &stop)
 {
     const QStringList names = totalProfile.split(u'*');
     const QSet<QString> allowed(names.begin(), names.end());
@@ -68,7 +82,7 @@ QStringList getValidParsedContentFromApnProfiles(const QString &totalProfile, Sy
         if (!base)
             systemLog.write(skippedLine(path, u"its name cannot be cut before the extension"_s));
         else if (allowed.contains(*base)) {
-            if (auto text = readOrSkip(path, systemLog))
+            if (auto text = readOrSkip(path, seal, systemLog))
                 result.append(*std::move(text));
         }
     }

@@ -1,4 +1,5 @@
 #include "apn/ProfileFile.h"
+#include "apn/ProfileSeal.h"
 #include "apn/ProfileSelection.h"
 #include "apn/tool/ProfileSigner.h"
 #include "bench/NoLog.h"
@@ -100,7 +101,7 @@ void selectFromAFolder(benchmark::State &state)
     }
     NoLog log;
     for (auto _ : state)
-        benchmark::DoNotOptimize(getValidParsedContentFromApnProfiles(names.join(u'*'), log, {}));
+        benchmark::DoNotOptimize(getValidParsedContentFromApnProfiles(names.join(u'*'), {}, log, {}));
     APN_ROOT = before;
 }
 BENCHMARK(selectFromAFolder)->Arg(2000)->Unit(benchmark::kMillisecond);

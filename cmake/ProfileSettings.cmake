@@ -4,6 +4,9 @@ set(TARVO_PROFILE_FOLDER "/Library/Application Support/Skyvane/QX_Profile/" CACH
 set(TARVO_DEMO_PROFILE_PUBLIC_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-profile-key.public.pem")
 set(TARVO_PROFILE_PUBLIC_KEY "${TARVO_DEMO_PROFILE_PUBLIC_KEY}" CACHE FILEPATH
   "Public half of the key that makes profiles (RSA, 1024 bits, PEM), or empty for none; the demonstration key protects nothing")
+set(TARVO_DEMO_PROFILE_SEAL_KEY "${PROJECT_SOURCE_DIR}/simulator/demo-seal-key.public.pem")
+set(TARVO_PROFILE_SEAL_KEY "${TARVO_DEMO_PROFILE_SEAL_KEY}" CACHE FILEPATH
+  "Public half of the key that profile folders must be sealed with (Ed25519, PEM), or empty for none; with the demonstration key, a seal is checked where there is one")
 if(TARVO_PROFILE_PUBLIC_KEY STREQUAL "")
   message(STATUS "No operator's key (TARVO_PROFILE_PUBLIC_KEY): the companion sends no access points")
 endif()
@@ -11,31 +14,56 @@ endif()
 # Turns the key into DER and checks what it is, at configure time. Needs the program only then.
 find_program(OPENSSL_PROGRAM openssl REQUIRED)
 
-# tarvo_profile_public_key(OUT): the key as the elements of a C array (SubjectPublicKeyInfo, RFC 5280), empty for no key.
-function(tarvo_profile_public_key out)
-  set(pem "${TARVO_PROFILE_PUBLIC_KEY}")
+# tarvo_public_key(VARIABLE NAME DER TEXT): reads the PEM file that VARIABLE names. DER becomes the key as the elements of a
+# C array (SubjectPublicKeyInfo, RFC 5280) and TEXT what openssl says of it; both are empty for no key. NAME.der keeps it.
+function(tarvo_public_key variable name out_der out_text)
+  set(pem "${${variable}}")
+  set(${out_der} "" PARENT_SCOPE)
+  set(${out_text} "" PARENT_SCOPE)
   if(pem STREQUAL "")
-    set(${out} "" PARENT_SCOPE)
     return()
   endif()
-  set(der "${CMAKE_CURRENT_BINARY_DIR}/profile-public-key.der")
+  set(der "${CMAKE_CURRENT_BINARY_DIR}/${name}.der")
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${pem}")
   if(NOT EXISTS "${pem}")
-    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: there is no file ${pem}")
+    message(FATAL_ERROR "${variable}: there is no file ${pem}")
   endif()
-  execute_process(COMMAND "${OPENSSL_PROGRAM}" rsa -pubin -in "${pem}" -noout -text
-    OUTPUT_VARIABLE description ERROR_QUIET RESULT_VARIABLE failed)
+  execute_process(COMMAND "${OPENSSL_PROGRAM}" pkey -pubin -in "${pem}" -noout -text
+    OUTPUT_VARIABLE text ERROR_QUIET RESULT_VARIABLE failed)
   if(failed)
-    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: ${pem} holds no RSA public key in PEM form")
+    message(FATAL_ERROR "${variable}: ${pem} holds no public key in PEM form")
   endif()
-  if(NOT description MATCHES "\\(1024 bit\\)")
-    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: the key in ${pem} is not of 1024 bits, as profiles need")
-  endif()
-  execute_process(COMMAND "${OPENSSL_PROGRAM}" rsa -pubin -in "${pem}" -outform DER -out "${der}"
+  execute_process(COMMAND "${OPENSSL_PROGRAM}" pkey -pubin -in "${pem}" -outform DER -out "${der}"
     ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
   file(READ "${der}" digits HEX)
   string(REGEX REPLACE "(..)" "0x\\1, " bytes "${digits}")
-  set(${out} "${bytes}" PARENT_SCOPE)
+  set(${out_der} "${bytes}" PARENT_SCOPE)
+  set(${out_text} "${text}" PARENT_SCOPE)
+endfunction()
+
+# tarvo_profile_public_key(OUT): the key that profiles are made with.
+function(tarvo_profile_public_key out)
+  tarvo_public_key(TARVO_PROFILE_PUBLIC_KEY profile-public-key der text)
+  set(${out} "${der}" PARENT_SCOPE)
+  if(der STREQUAL "")
+    return()
+  endif()
+  if(NOT text MATCHES "\\(1024 bit\\).*Modulus")
+    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: it is no RSA key of 1024 bits, as profiles need")
+  endif()
+  if(text MATCHES "Exponent: ([0-9]+)" AND CMAKE_MATCH_1 LESS 65537)
+    message(FATAL_ERROR "TARVO_PROFILE_PUBLIC_KEY: its public exponent is ${CMAKE_MATCH_1}. Below 65537 anybody can forge "
+      "profiles; make the key with `openssl genrsa 1024`")
+  endif()
+endfunction()
+
+# tarvo_profile_seal_key(OUT): the key that folders are sealed with.
+function(tarvo_profile_seal_key out)
+  tarvo_public_key(TARVO_PROFILE_SEAL_KEY profile-seal-key der text)
+  set(${out} "${der}" PARENT_SCOPE)
+  if(NOT der STREQUAL "" AND NOT text MATCHES "^ED25519")
+    message(FATAL_ERROR "TARVO_PROFILE_SEAL_KEY: it is no Ed25519 key")
+  endif()
 endfunction()
 
 # tarvo_profile_key_description(OUT): the built-in key, for the manual.

@@ -5,6 +5,7 @@
 #include "apn/ProfileListing.h"
 #include "apn/tool/ProfileSource.h"
 
+#include <QFile>
 #include <QSet>
 
 #include <utility>
@@ -17,14 +18,16 @@ namespace {
 
 class Reporter {
 public:
-    Reporter(QString folder, const ProfileKey &key)
+    Reporter(QString folder, const ProfileKey &key, const SealRule &sealRule)
         : m_folder(std::move(folder))
         , m_key(key)
+        , m_sealRule(sealRule)
     {
     }
 
     FolderReport report()
     {
+        reportSeal();
         const QStringList names = reportList();
         const ProfileListing listing = listProfiles(m_folder, {});
         for (const QString &problem : listing.problems)
@@ -41,6 +44,17 @@ public:
     }
 
 private:
+    void reportSeal()
+    {
+        const ProfileSeal seal = readProfileSeal(m_folder, m_sealRule, {});
+        if (!seal.problem.isEmpty())
+            addProblem(seal.problem);
+        else if (seal.hashes)
+            m_report.lines.append(u"profile.sig: in order"_s);
+        else if (QFile::exists(sealPath(m_folder)))
+            m_report.lines.append(u"profile.sig: not checked, as no key is built in"_s);
+    }
+
     /// @return the names in the list
     QStringList reportList()
     {
@@ -78,21 +92,23 @@ private:
 
     QString m_folder;
     const ProfileKey &m_key;
+    const SealRule &m_sealRule;
     QSet<QString> m_found; ///< base names
     FolderReport m_report;
 };
 
 } // namespace
 
-FolderReport reportFolder(const QString &folder, const ProfileKey &key)
+FolderReport reportFolder(const QString &folder, const ProfileKey &key, const SealRule &sealRule)
 {
-    return Reporter(folder.endsWith(u'/') ? folder : folder + u'/', key).report();
+    return Reporter(folder.endsWith(u'/') ? folder : folder + u'/', key, sealRule).report();
 }
 
 FolderReport reportFolder(const QString &folder)
 {
-    const auto &key = builtInProfileKey();
-    return key ? reportFolder(folder, *key) : FolderReport{{u"no key to decode profiles is built in"_s}, false};
+    const auto &[key, problem] = builtInProfileKey();
+    return key ? reportFolder(folder, *key, builtInSealRule())
+               : FolderReport{{u"no key to read profiles with: "_s + problem}, false};
 }
 
 } // namespace tarvo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apn/ProfileKey.h"
+#include "apn/ProfileSeal.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,8 +14,9 @@ struct FolderReport {
     bool isInOrder = true; ///< the companion would use all of it
 };
 
-/// Reads @p folder, whose list is its `profile.xml`, the way the companion does, with @p key or with the one built in.
-FolderReport reportFolder(const QString &folder, const ProfileKey &key);
+/// Reads @p folder, whose list is its `profile.xml`, the way the companion does, with the keys that are given or with those
+/// that are built in.
+FolderReport reportFolder(const QString &folder, const ProfileKey &key, const SealRule &sealRule);
 FolderReport reportFolder(const QString &folder);
 
 } // namespace tarvo

@@ -1,38 +1,19 @@
 #include "apn/tool/ProfileSigner.h"
 
+#include "apn/OpenSsl.h"
 #include "apn/ProfileFile.h"
+#include "apn/tool/PemKeys.h"
 
-#include <openssl/bio.h>
 #include <openssl/evp.h>
-#include <openssl/pem.h>
 #include <openssl/rsa.h>
-#include <openssl/x509.h>
 
 #include <utility>
 
 namespace tarvo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-using Bio = std::unique_ptr<BIO, decltype(&BIO_free)>;
-using Key = std::shared_ptr<EVP_PKEY>;
 using Context = std::unique_ptr<EVP_PKEY_CTX, decltype(&EVP_PKEY_CTX_free)>;
-
-Bio reader(QByteArrayView bytes)
-{
-    return {BIO_new_mem_buf(bytes.data(), static_cast<int>(bytes.size())), BIO_free};
-}
-
-QByteArray publicDer(const EVP_PKEY *key)
-{
-    unsigned char *bytes = nullptr;
-    const int size = i2d_PUBKEY(key, &bytes);
-    const QByteArray der(reinterpret_cast<const char *>(bytes), qMax(size, 0));
-    OPENSSL_free(bytes);
-    return der;
-}
 
 /// How many bytes of @p utf8 the next record takes: all that fit, without part of a character.
 qsizetype nextPieceSize(QByteArrayView utf8)
@@ -54,17 +35,18 @@ ProfileSigner::ProfileSigner(std::shared_ptr<EVP_PKEY> key)
 
 PrivateKeyReading ProfileSigner::fromPem(QByteArrayView pem)
 {
-    const Key key(PEM_read_bio_PrivateKey(reader(pem).get(), nullptr, nullptr, nullptr), EVP_PKEY_free);
-    if (!key && pem.contains("ENCRYPTED"))
-        return {std::nullopt, u"its pass phrase is missing or wrong"_s};
-    if (!key || !ProfileKey::fromDer(publicDer(key.get())))
-        return {std::nullopt, u"it holds no RSA private key of 1024 bits in PEM form"_s};
-    return {ProfileSigner(key), {}};
+    const PrivateKey key = privateKeyFromPem(pem);
+    if (!key.key)
+        return {std::nullopt, key.problem};
+    const ProfileKeyReading publicHalf = readProfileKey(publicKeyDer(key.key.get()));
+    if (!publicHalf.key)
+        return {std::nullopt, publicHalf.problem};
+    return {ProfileSigner(key.key), {}};
 }
 
 ProfileKey ProfileSigner::publicKey() const
 {
-    return ProfileKey::fromDer(publicDer(m_key.get())).value();
+    return ProfileKey::fromDer(publicKeyDer(m_key.get())).value();
 }
 
 std::optional<QByteArray> ProfileSigner::makeRecord(QByteArrayView plain) const
@@ -96,12 +78,6 @@ std::optional<QByteArray> ProfileSigner::pack(const QString &text) const
     if (file.size() > maximumProfileSize || decodeProfile(file, publicKey()).text != text)
         return std::nullopt;
     return file;
-}
-
-std::optional<ProfileKey> profileKeyFromPem(QByteArrayView pem)
-{
-    const Key key(PEM_read_bio_PUBKEY(reader(pem).get(), nullptr, nullptr, nullptr), EVP_PKEY_free);
-    return key ? ProfileKey::fromDer(publicDer(key.get())) : std::nullopt;
 }
 
 } // namespace tarvo

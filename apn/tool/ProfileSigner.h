@@ -39,11 +39,8 @@ private:
 };
 
 struct PrivateKeyReading {
-    std::optional<ProfileSigner> signer; ///< nil unless it is an RSA key whose blocks have the profiles' size
+    std::optional<ProfileSigner> signer; ///< nil unless it is a key that makes profiles
     QString problem; ///< why it is nil, as the end of a sentence; empty when it is not
 };
-
-/// Reads a public key in PEM form. @return nil unless it holds an RSA key whose blocks have the profiles' size
-std::optional<ProfileKey> profileKeyFromPem(QByteArrayView pem);
 
 } // namespace tarvo

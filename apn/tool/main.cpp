@@ -1,7 +1,9 @@
 #include "apn/ProfileDecoding.h"
 #include "apn/ProfileFile.h"
+#include "apn/ProfileSeal.h"
 #include "apn/ProfileSelection.h"
 #include "apn/tool/FolderReport.h"
+#include "apn/tool/PemKeys.h"
 #include "apn/tool/ProfileSigner.h"
 #include "apn/tool/ProfileSource.h"
 #include "platform/LogLine.h"
@@ -32,6 +34,7 @@ enum : int { inOrder = 0, failed = 1, wrongUse = 2 };
 const QString keyOption = u"key"_s;
 const QString publicKeyOption = u"public-key"_s;
 const QString outputOption = u"output"_s;
+const QString sealKeyOption = u"seal-key"_s;
 
 /// Prints one line, whatever a file's name or text holds.
 void print(std::FILE *stream, const QString &line)
@@ -102,16 +105,16 @@ int pack(const QCommandLineParser &arguments, const QString &path)
 std::optional<ProfileKey> publicKey(const QCommandLineParser &arguments)
 {
     const QString path = arguments.value(publicKeyOption);
-    if (path.isEmpty() && !builtInProfileKey())
-        fail(u"key"_s, u"none is built in; name one by --public-key"_s);
+    if (path.isEmpty() && !builtInProfileKey().key)
+        fail(u"key"_s, builtInProfileKey().problem + u"; name one by --public-key"_s);
     if (path.isEmpty())
-        return builtInProfileKey();
+        return builtInProfileKey().key;
     const auto pem = readFile(path);
     if (!pem)
         return std::nullopt;
-    auto key = profileKeyFromPem(*pem);
+    auto [key, problem] = profileKeyFromPem(*pem);
     if (!key)
-        fail(path, u"it holds no RSA public key of 1024 bits in PEM form"_s);
+        fail(path, problem);
     return key;
 }
 
@@ -133,26 +136,71 @@ int unpack(const QCommandLineParser &arguments, const QString &path)
     return inOrder;
 }
 
+/// @return the rule for seals, by the key that is named or by the one built in; nil, with a message, when there is no such
+std::optional<SealRule> sealRule(const QCommandLineParser &arguments)
+{
+    const QString path = arguments.value(sealKeyOption);
+    if (path.isEmpty())
+        return builtInSealRule();
+    const auto pem = readFile(path);
+    const auto key = pem ? sealKeyFromPem(*pem) : std::nullopt;
+    if (pem && !key)
+        fail(path, u"it holds no Ed25519 public key in PEM form"_s);
+    return key ? std::optional(SealRule{key, true}) : std::nullopt;
+}
+
 int check(const QCommandLineParser &arguments, const QString &path)
 {
     const auto key = publicKey(arguments);
-    if (!key)
+    const auto rule = sealRule(arguments);
+    if (!key || !rule)
         return failed;
     if (!QFileInfo(path).isDir())
         return fail(path, u"it is no folder"_s);
-    const FolderReport report = reportFolder(path, *key);
+    const FolderReport report = reportFolder(path, *key, *rule);
     for (const QString &line : report.lines)
         print(stdout, line);
     return report.isInOrder ? inOrder : failed;
 }
 
+int seal(const QCommandLineParser &arguments, const QString &path)
+{
+    const QString keyPath = arguments.value(keyOption);
+    if (keyPath.isEmpty())
+        return fail(u"seal"_s, u"needs --key"_s, wrongUse);
+    if (!QFileInfo(path).isDir())
+        return fail(path, u"it is no folder"_s);
+    const auto pem = readFile(keyPath);
+    if (!pem)
+        return failed;
+    const auto [key, problem] = privateKeyFromPem(*pem);
+    if (!key)
+        return fail(keyPath, problem);
+    const QString root = path.endsWith(u'/') ? path : path + u'/';
+    const FolderContent content = readFolderContent(root, {});
+    if (!content.problem.isEmpty())
+        return fail(path, content.problem);
+    const auto made = makeSeal(content.text, key.get());
+    return made ? writeFile(sealPath(root), *made) : fail(keyPath, u"it is no Ed25519 key"_s);
+}
+
+/// @return how @p rule is told
+QString sealText(const SealRule &rule)
+{
+    if (!rule.key)
+        return u"none is checked"_s;
+    const QString demand = rule.isDemanded ? u"demanded"_s : u"checked where there is one"_s;
+    return u"%1, SHA-256 %2"_s.arg(demand, QString::fromLatin1(rule.key->fingerprint().toHex()));
+}
+
 int about()
 {
-    const auto &key = builtInProfileKey();
+    const auto &[key, problem] = builtInProfileKey();
     print(stdout, u"folder: %1"_s.arg(QString::fromUtf8(APN_ROOT)));
     print(stdout,
           key ? u"key: SHA-256 %1"_s.arg(QString::fromLatin1(key->fingerprint().toHex()))
-              : u"key: none, so that no access points are sent"_s);
+              : u"key: %1, and no access points are sent"_s.arg(problem));
+    print(stdout, u"seal: "_s + sealText(builtInSealRule()));
     return inOrder;
 }
 
@@ -162,14 +210,16 @@ void describe(QCommandLineParser &parser)
                                      "  pack FILE     makes a profile of a JSON file\n"
                                      "  unpack FILE   shows a profile's text\n"
                                      "  check DIR     says what the companion makes of a folder\n"
+                                     "  seal DIR      writes its profile.sig, over all files that are in it\n"
                                      "  about         tells the companion's folder and key"_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({keyOption, u"Private key to pack with, PEM."_s, u"file"_s});
+    parser.addOption({keyOption, u"Private key to pack or seal with, PEM."_s, u"file"_s});
     parser.addOption(
         {publicKeyOption, u"Public key to read with, PEM; the companion's own when not given."_s, u"file"_s});
+    parser.addOption({sealKeyOption, u"Public key to check a seal with, PEM."_s, u"file"_s});
     parser.addOption({{u"o"_s, outputOption}, u"File to write."_s, u"file"_s});
-    parser.addPositionalArgument(u"command"_s, u"pack, unpack, check or about"_s);
+    parser.addPositionalArgument(u"command"_s, u"pack, unpack, check, seal or about"_s);
     parser.addPositionalArgument(u"path"_s, u"What to work on."_s);
 }
 
@@ -195,6 +245,8 @@ int main(int argc, char **argv)
         return unpack(parser, words[1]);
     if (words.size() == 2 && words[0] == u"check")
         return check(parser, words[1]);
+    if (words.size() == 2 && words[0] == u"seal")
+        return seal(parser, words[1]);
     if (words == QStringList(u"about"_s))
         return about();
     return fail(u"arguments"_s, u"see tarvo-profile --help"_s, wrongUse);

@@ -152,6 +152,19 @@ TEST_F(Provisioning, ARefusalIsToldWithoutTheRecordAndNoDefaultFollowsWhatWasRef
         EXPECT_EQ(systemLog.lines().filter(secret), QStringList());
 }
 
+TEST_F(Provisioning, AFolderWhoseSealIsBrokenSendsNothing)
+{
+    folder.add(u"profile.xml"_s, u"X"_s);
+    folder.add(u"X.xml"_s, uR"({"profile":"X","index":3})"_s);
+    folder.seal();
+    const QList<QByteArray> sent{R"(ADD_APN&apn={"profile":"X","index":3})", "SET_DEFAULT_APN&index=3", ready};
+    EXPECT_EQ(provision(u"X"_s), sent);
+    folder.add(u"X.xml"_s, uR"({"profile":"X","index":4})"_s);
+    EXPECT_EQ(provision(u"X"_s), QList<QByteArray>{ready});
+    const QString problem = u"%1 is not the seal of what lies there: no access points are sent"_s;
+    EXPECT_TRUE(systemLog.contains(problem.arg(folder.path(u"profile.sig"_s))));
+}
+
 TEST_F(Provisioning, ARefusedReadyMarkIsTriedAgainThreeTimesAndThenOnceAMinute)
 {
     modem.device.setFixedAnswer(ready, R"({"result":"failure"})");

@@ -38,6 +38,8 @@ TEST(ProfileDecoding, JoinsTheTextsOfAllRecords)
     folder.write(u"a.xml"_s, {});
     EXPECT_EQ(decryptApnFile(folder.path(u"a.xml"_s)), QString());
     EXPECT_EQ(decryptApnFile(folder.path(u"none.xml"_s)), QString());
+    folder.write(u"a.xml"_s, folder.signer().makeRecord(QByteArrayView("a\0\0", 3)).value());
+    EXPECT_EQ(decryptApnFile(folder.path(u"a.xml"_s)), u"a"_s);
 }
 
 TEST(ProfileDecoding, ADamagedFileHasNoText)
@@ -47,7 +49,9 @@ TEST(ProfileDecoding, ADamagedFileHasNoText)
     QByteArray changed = good;
     changed[200] = static_cast<char>(changed[200] ^ 1);
     const QByteArray halfCharacter = folder.signer().makeRecord("\xc3").value();
-    for (const QByteArray &bytes : {good + 'x', good.chopped(2), changed, halfCharacter, QByteArray(130, '\xff')}) {
+    const QByteArray twoTexts = folder.signer().makeRecord(QByteArrayView("a\0b", 3)).value();
+    for (const QByteArray &bytes :
+         {good + 'x', good.chopped(2), changed, halfCharacter, twoTexts, QByteArray(130, '\xff')}) {
         folder.write(u"a.xml"_s, bytes);
         EXPECT_FALSE(decryptApnFile(folder.path(u"a.xml"_s))) << bytes.size();
     }

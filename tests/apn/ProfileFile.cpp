@@ -39,6 +39,8 @@ TEST(ProfileFile, ARecordWhoseTextEndsBeforeItDoesNotDecode)
         ProfileBlock(reinterpret_cast<const unsigned char *>(block.constData()), profileBlockSize));
     ASSERT_TRUE(plain && QByteArray(plain->data()).startsWith("{\"index\":3")) << "the block itself is good";
     EXPECT_EQ(decodeProfile(block + "\r\n", *key).problem, u"record 1 does not decode"_s);
+    EXPECT_FALSE(readProfileKey(QByteArray::fromBase64(blockKey)).key)
+        << "as its exponent is 3, it is not to be trusted";
 }
 
 TEST(ProfileFile, ChoosesTheSameBytesAsThePlainRule)

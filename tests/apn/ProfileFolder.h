@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apn/ProfileSelection.h"
+#include "apn/tool/PemKeys.h"
 #include "apn/tool/ProfileSigner.h"
 
 #include <QDir>
@@ -26,6 +27,12 @@ inline ProfileSigner demoSigner()
     return ProfileSigner::fromPem(contentOf(QStringLiteral(TARVO_DEMO_PRIVATE_KEY))).signer.value();
 }
 
+/// The private half of the built-in key for seals.
+inline std::shared_ptr<EVP_PKEY> demoSealer()
+{
+    return privateKeyFromPem(contentOf(QStringLiteral(TARVO_DEMO_SEAL_KEY))).key;
+}
+
 /// A profile folder of the test's own, which the companion reads as long as this lives.
 class ProfileFolder {
 public:
@@ -39,6 +46,12 @@ public:
         file.write(bytes);
     }
     void add(const QString &name, const QString &text) const { write(name, m_signer.pack(text).value()); }
+
+    void seal() const
+    {
+        const FolderContent content = readFolderContent(path({}), {});
+        write(QStringLiteral("profile.sig"), makeSeal(content.text, demoSealer().get()).value());
+    }
 
     const ProfileSigner &signer() const { return m_signer; }
 

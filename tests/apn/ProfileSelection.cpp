@@ -1,5 +1,6 @@
 #include "apn/ProfileSelection.h"
 
+#include "apn/ProfileSeal.h"
 #include "simulator/RecordingLog.h"
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
@@ -16,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Selection : testing::Test {
-    QStringList select(const QString &list) { return getValidParsedContentFromApnProfiles(list, systemLog, {}); }
+    QStringList select(const QString &list) { return getValidParsedContentFromApnProfiles(list, {}, systemLog, {}); }
 
     ProfileFolder folder;
     RecordingLog systemLog;
@@ -26,14 +27,14 @@ struct Selection : testing::Test {
 
 TEST_F(Selection, ReadsTheListOfProfiles)
 {
-    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
+    EXPECT_EQ(getParsedApnContentFromTotalProfile({}, systemLog), std::nullopt);
     EXPECT_EQ(systemLog.lines(), QStringList{u"can not find profile.xml"_s});
     folder.add(u"profile.xml"_s, u"A*B"_s);
-    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), u"A*B"_s);
+    EXPECT_EQ(getParsedApnContentFromTotalProfile({}, systemLog), u"A*B"_s);
     EXPECT_EQ(select(u"profile"_s), QStringList()) << "the list is no candidate";
     EXPECT_EQ(systemLog.lines().last(), u"can not find *.xml files!"_s);
     folder.write(u"profile.xml"_s, "damaged");
-    EXPECT_EQ(getParsedApnContentFromTotalProfile(systemLog), std::nullopt);
+    EXPECT_EQ(getParsedApnContentFromTotalProfile({}, systemLog), std::nullopt);
     EXPECT_EQ(systemLog.lines().last(),
               folder.path(u"profile.xml is skipped: its length is no multiple of 130 bytes"_s));
 }

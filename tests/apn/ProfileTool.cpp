@@ -60,6 +60,7 @@ TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
 {
     const ProfileFolder folder;
     const QStringList inOrder{u"profile.xml: lists A"_s, u"sub/A.xml: listed, in order"_s};
+    const SealRule rule = builtInSealRule();
     const std::tuple<QString, QString, QStringList> cases[] = {
         {u"A"_s, record, inOrder},
         {u"A"_s, u"[]"_s, {inOrder[0], u"sub/A.xml: listed, it is no JSON object"_s}},
@@ -70,10 +71,19 @@ TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
     for (const auto &[list, content, lines] : cases) {
         folder.add(u"profile.xml"_s, list);
         folder.add(u"sub/A.xml"_s, content);
-        const FolderReport report = reportFolder(folder.path({}), folder.signer().publicKey());
+        const FolderReport report = reportFolder(folder.path({}), folder.signer().publicKey(), rule);
         EXPECT_EQ(report.lines, lines);
         EXPECT_EQ(report.isInOrder, lines == inOrder);
     }
+    folder.seal();
+    const auto seal = [&](const SealRule &by) {
+        const FolderReport report = reportFolder(folder.path({}), folder.signer().publicKey(), by);
+        return report.lines[0];
+    };
+    EXPECT_EQ(seal(rule), u"profile.sig: in order"_s);
+    EXPECT_EQ(seal({}), u"profile.sig: not checked, as no key is built in"_s);
+    folder.write(u"more"_s, "");
+    EXPECT_TRUE(seal(rule).endsWith(u"is not the seal of what lies there"_s));
 }
 
 TEST_F(Tool, PacksWhatTheCompanionReads)
@@ -85,6 +95,8 @@ TEST_F(Tool, PacksWhatTheCompanionReads)
     EXPECT_EQ(output, record.toUtf8() + '\n');
     EXPECT_EQ(run({u"about"_s}), 0);
     EXPECT_TRUE(output.contains(folder.signer().publicKey().fingerprint().toHex()));
+    EXPECT_TRUE(
+        output.contains("seal: checked where there is one, SHA-256 " + builtInSealRule().key->fingerprint().toHex()));
     EXPECT_EQ(run({u"check"_s, folder.path({})}), 1) << "there is no list";
     EXPECT_EQ(run(pack + QStringList{folder.path(u"names.json"_s)}), 1) << "a list has its own name";
     EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);
@@ -119,4 +131,37 @@ TEST_F(Tool, WhatComesFromOutsideForgesNoLineAndMovesNoCursor)
                {u"-qc"_s, QStringLiteral(TARVO_PROFILE_TOOL) + u" unpack '"_s + packed + u'\'', u"/dev/null"_s});
     EXPECT_TRUE(tool.waitForFinished());
     EXPECT_EQ(tool.readAllStandardOutput(), "\\x1b[2J\\n\r\n") << "a terminal does not";
+}
+
+TEST_F(Tool, SealsAFolder)
+{
+    folder.add(u"profile.xml"_s, u"A"_s);
+    folder.add(u"A.xml"_s, record);
+    const QStringList check{u"check"_s, folder.path({})};
+    EXPECT_EQ(run(check), 0);
+    EXPECT_EQ(run({u"seal"_s, folder.path({})}), 2);
+    EXPECT_EQ(run({u"seal"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_PRIVATE_KEY), folder.path({})}), 1);
+    EXPECT_TRUE(errors.contains("it is no Ed25519 key"));
+    EXPECT_EQ(run({u"seal"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_SEAL_KEY), folder.path({})}), 0);
+    EXPECT_EQ(run(check), 0);
+    EXPECT_TRUE(output.startsWith("profile.sig: in order\n"));
+    folder.add(u"A.xml"_s, record + u' ');
+    EXPECT_EQ(run(check), 1);
+}
+
+TEST_F(Tool, RefusesKeysThatAnybodyCanForgeProfilesFor)
+{
+    const QString key = folder.path(u"key.pem"_s);
+    tool.start(u"openssl"_s, {u"genrsa"_s, u"-3"_s, u"-out"_s, key, u"1024"_s});
+    ASSERT_TRUE(tool.waitForFinished() && tool.exitCode() == 0);
+    tool.start(u"openssl"_s, {u"rsa"_s, u"-in"_s, key, u"-pubout"_s, u"-out"_s, key + u".pub"_s});
+    ASSERT_TRUE(tool.waitForFinished() && tool.exitCode() == 0);
+    folder.write(u"a.json"_s, record.toUtf8());
+    for (const QStringList &arguments :
+         {QStringList{u"pack"_s, u"--key"_s, key, u"-o"_s, packed, folder.path(u"a.json"_s)},
+          QStringList{u"check"_s, u"--public-key"_s, key + u".pub"_s, folder.path({})}}) {
+        EXPECT_EQ(run(arguments), 1);
+        EXPECT_TRUE(errors.contains("its public exponent is below 65537")) << errors.constData();
+    }
+    EXPECT_FALSE(QFile::exists(packed));
 }
