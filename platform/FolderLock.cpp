@@ -2,11 +2,12 @@
 
 #include <QFile>
 
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <thread>
 #include <unistd.h>
+
+#include <cerrno>
+#include <thread>
 
 namespace tarvo {
 

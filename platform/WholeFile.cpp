@@ -2,13 +2,15 @@
 
 #include <QSaveFile>
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <system_error>
-#include <unistd.h>
 
 namespace tarvo {
 
-QString writeWholeFile(const QString &path, const QByteArray &bytes, std::optional<QFileDevice::Permissions> permissions)
+QString writeWholeFile(const QString &path, const QByteArray &bytes,
+                       std::optional<QFileDevice::Permissions> permissions)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || (permissions && !file.setPermissions(*permissions)))

@@ -1,6 +1,7 @@
 #include "setup/Autostart.h"
 
 #include "platform/WholeFile.h"
+#include "setup/RootRights.h"
 
 #include <QDir>
 #include <QFile>
@@ -113,6 +114,8 @@ QString Autostart::set(bool on) const
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart"_s;
     const QByteArray entry = withStartAtLogin(startableEntry(entryPaths()), on);
     const QString path = folder + u'/' + QFileInfo(entryPaths().value(0)).fileName();
+    if (const QString refusal = rootRefusal(path, Scope::User); !refusal.isEmpty())
+        return refusal;
     QDir().mkpath(folder); // where that fails, so does the writing
     const QString problem = writeWholeFile(path, entry);
     return problem.isEmpty() ? problem : u"%1: %2"_s.arg(path, problem);

@@ -104,7 +104,7 @@ int finish(const SettingsWritten &written, Survey &survey)
     if (!written.problem.isEmpty())
         return fail(qtTrId("NotSaved").arg(written.problem)
                     + (written.isDamaged ? u' ' + qtTrId("ForceStartsAfresh") : QString()));
-    const QString path = settingsInForce().path;
+    const QString path = written.path.isEmpty() ? settingsInForce().path : written.path;
     print((path.isEmpty() ? qtTrId("FixNoSettings") : qtTrId("SettingsAreIn").arg(path)) + u'\n');
     if (written.fromBinary)
         print(qtTrId("WasBinary") + u'\n');
@@ -117,7 +117,8 @@ int finish(const SettingsWritten &written, Survey &survey)
 
 int change(const Command &command, Survey &survey, const SettingChange &change)
 {
-    return finish(changeSettings(change, command.force ? Damaged::StartAfresh : Damaged::Refuse), survey);
+    const Damaged damaged = command.force ? Damaged::StartAfresh : Damaged::Refuse;
+    return finish(changeSettings(change, damaged, command.scope), survey);
 }
 
 bool isPluggedIn(DeviceId device, const Survey &survey)
@@ -143,15 +144,15 @@ int exclude(const Command &command, Survey &survey)
     return change(command, survey, excludeDevice(command.device));
 }
 
-int reset(const Command &, Survey &survey)
+int reset(const Command &command, Survey &survey)
 {
-    return finish(resetSettings(), survey);
+    return finish(resetSettings(command.scope), survey);
 }
 
 struct Operation {
     QString name;
     qsizetype operands; ///< devices
-    bool hasJson;
+    bool hasJson; ///< those that only show have it
     int (*run)(const Command &, Survey &);
 };
 
@@ -184,6 +185,7 @@ void describe(QCommandLineParser &parser)
     parser.addOption({u"force"_s,
                       u"Start from the shipped settings where the present ones are damaged, and use even a device that "
                       "can be none."_s});
+    parser.addOption({u"system"_s, u"Write the settings of all users, as root (use, exclude, reset)."_s});
     parser.addPositionalArgument(u"command"_s, u"What to do."_s, u"[command]"_s);
 }
 
@@ -195,6 +197,8 @@ QString errorIn(const Command &command)
         return u"%1: see tarvo-setup --help"_s.arg(command.words.join(u' '));
     if (command.asJson && !(operation && operation->hasJson))
         return u"--json is for list, check and show"_s;
+    if (command.scope == Scope::System && (!operation || operation->hasJson))
+        return u"--system is for use, exclude and reset"_s;
     if (operation && operation->operands == 1 && !deviceIdFrom(command.words[1]))
         return u"a device is VENDOR:PRODUCT, both hexadecimal, as lsusb and the list show it"_s;
     return {};
@@ -208,8 +212,10 @@ Command commandFrom(const QStringList &arguments)
     describe(parser);
     if (!parser.parse(arguments))
         return {.error = parser.errorText()};
-    Command command{
-        .words = parser.positionalArguments(), .asJson = parser.isSet(u"json"_s), .force = parser.isSet(u"force"_s)};
+    Command command{.words = parser.positionalArguments(),
+                    .asJson = parser.isSet(u"json"_s),
+                    .force = parser.isSet(u"force"_s),
+                    .scope = parser.isSet(u"system"_s) ? Scope::System : Scope::User};
     if (parser.isSet(u"help"_s))
         command.output = parser.helpText().replace(u"<executable_name>"_s, u"tarvo-setup"_s);
     else if (parser.isSet(u"version"_s))

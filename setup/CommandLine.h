@@ -1,6 +1,7 @@
 #pragma once
 
 #include "setup/Devices.h"
+#include "setup/RootRights.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,6 +23,7 @@ struct Command {
     DeviceId device{}; ///< the operand, where the command has one
     bool asJson = false;
     bool force = false;
+    Scope scope = Scope::User;
     QString output{}; ///< to be printed instead of anything else, such as help
     QString error{}; ///< what is wrong with the command line; empty when nothing is
 };

@@ -74,20 +74,33 @@ SettingsWritten keepBeside(const QString &path)
     return {.problem = problem, .backup = problem.isEmpty() ? backup : QString()};
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
+/// @return those that the file of @p scope is given; nil where it keeps its own
+std::optional<QFile::Permissions> permissionsFor(const QString &path, Scope scope)
 {
     constexpr QFile::Permissions usersAlone = QFile::ReadOwner | QFile::WriteOwner;
-    const bool isNew = !QFileInfo::exists(path);
-    const QString problem = writeWholeFile(path, bytes, isNew ? std::optional(usersAlone) : std::nullopt);
-    return problem.isEmpty() ? problem : u"%1: %2"_s.arg(path, problem);
+    if (scope == Scope::System)
+        return usersAlone | QFile::ReadGroup | QFile::ReadOther;
+    return QFileInfo::exists(path) ? std::nullopt : std::optional(usersAlone);
 }
 
-/// Makes the folder of the user's settings, and keeps other programs from changing them.
-/// @return why that cannot be done; empty when it is
-QString claimSettings(FolderLock &lock)
+void makeFolder(const QString &path, Scope scope)
 {
-    const QString folder = QFileInfo(userSettingsPath()).path();
-    QDir().mkpath(folder); // where that fails, so does the writing
+    if (QFileInfo::exists(path) || !QDir().mkpath(path) || scope == Scope::User)
+        return; // where it cannot be made, neither can the file
+    QFile::setPermissions(path,
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup
+                              | QFile::ReadOther | QFile::ExeOther);
+}
+
+/// Makes the folder of the settings, and keeps other programs from changing them.
+/// @return why that cannot be done; empty when it is
+QString claimSettings(FolderLock &lock, Scope scope)
+{
+    const QString path = settingsPath(scope);
+    if (const QString refusal = rootRefusal(path, scope); !refusal.isEmpty())
+        return refusal;
+    const QString folder = QFileInfo(path).path();
+    makeFolder(folder, scope);
     return lock.take(folder, patience) ? QString() : qtTrId("SettingsBeingChanged").arg(folder);
 }
 
@@ -108,6 +121,14 @@ Source sourceFrom(const SettingFileReading &reading)
     return {xml ? PropertyListText::fromBytes(*xml) : std::nullopt, reading.bytes.startsWith("bplist"), true};
 }
 
+/// @return the file that a change for @p scope starts from; nil for the shipped settings
+std::optional<QString> startOf(Scope scope)
+{
+    if (scope == Scope::User)
+        return findSettingFile();
+    return QFileInfo::exists(settingsPath(scope)) ? std::optional(settingsPath(scope)) : std::nullopt;
+}
+
 SettingFileReading readInForce(const std::optional<QString> &path)
 {
     if (path)
@@ -116,15 +137,19 @@ SettingFileReading readInForce(const std::optional<QString> &path)
     return {shipped, readPropertyList(shipped)};
 }
 
-/// Writes the user's own file in place of the one that is there, or of the one that is kept beside it then.
-SettingsWritten write(const QByteArray &bytes, bool keep)
+/// Writes the file of @p scope in place of the one that is there, or of the one that is kept beside it then.
+SettingsWritten write(const QByteArray &bytes, bool keep, Scope scope)
 {
-    const QString path = userSettingsPath();
+    const QString path = settingsPath(scope);
     SettingsWritten written = keep ? keepBeside(path) : SettingsWritten();
     if (!written.problem.isEmpty())
         return written;
-    written.problem = writeFile(path, bytes);
-    if (!written.problem.isEmpty() && !written.backup.isEmpty() && rename(written.backup, path).isEmpty())
+    written.path = path;
+    const QString problem = writeWholeFile(path, bytes, permissionsFor(path, scope));
+    if (problem.isEmpty())
+        return written;
+    written.problem = u"%1: %2"_s.arg(path, problem);
+    if (!written.backup.isEmpty() && rename(written.backup, path).isEmpty())
         written.backup.clear();
     return written;
 }
@@ -134,6 +159,11 @@ SettingsWritten write(const QByteArray &bytes, bool keep)
 QString userSettingsPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/tarvo/Config.plist"_s;
+}
+
+QString settingsPath(Scope scope)
+{
+    return scope == Scope::User ? userSettingsPath() : u"/etc/xdg/tarvo/Config.plist"_s;
 }
 
 SettingsInForce settingsInForce()
@@ -170,31 +200,32 @@ SettingChange excludeDevice(DeviceId device)
     };
 }
 
-SettingsWritten changeSettings(const SettingChange &change, Damaged damaged)
+SettingsWritten changeSettings(const SettingChange &change, Damaged damaged, Scope scope)
 {
     FolderLock lock;
-    if (const QString problem = claimSettings(lock); !problem.isEmpty())
+    if (const QString problem = claimSettings(lock, scope); !problem.isEmpty())
         return {.problem = problem};
-    const auto path = findSettingFile();
+    const QString own = settingsPath(scope);
+    const auto path = startOf(scope);
     const SettingFileReading reading = readInForce(path);
     if (!reading.values.root && damaged == Damaged::Refuse)
         return {.problem = u"%1: %2"_s.arg(*path, reading.values.problem), .isDamaged = true};
     const Source source = sourceFrom(reading);
     const auto changed = source.text ? change(*source.text) : std::nullopt;
     if (!changed)
-        return {.problem = qtTrId("CannotBeChanged").arg(path.value_or(userSettingsPath()))};
-    if (path == userSettingsPath() && changed->toBytes() == reading.bytes)
-        return {};
-    SettingsWritten written = write(changed->toBytes(), source.replacesFile && path == userSettingsPath());
+        return {.problem = qtTrId("CannotBeChanged").arg(path.value_or(own))};
+    if (path == own && changed->toBytes() == reading.bytes)
+        return {.path = own};
+    SettingsWritten written = write(changed->toBytes(), source.replacesFile && path == own, scope);
     written.fromBinary = source.fromBinary;
     return written;
 }
 
-SettingsWritten resetSettings()
+SettingsWritten resetSettings(Scope scope)
 {
     FolderLock lock;
-    const QString problem = claimSettings(lock);
-    return problem.isEmpty() ? keepBeside(userSettingsPath()) : SettingsWritten{.problem = problem};
+    const QString problem = claimSettings(lock, scope);
+    return problem.isEmpty() ? keepBeside(settingsPath(scope)) : SettingsWritten{.problem = problem};
 }
 
 } // namespace tarvo

@@ -2,6 +2,7 @@
 
 #include "setup/Devices.h"
 #include "setup/PropertyListText.h"
+#include "setup/RootRights.h"
 
 #include <QString>
 #include <QVariantMap>
@@ -23,6 +24,8 @@ SettingsInForce settingsInForce();
 
 /// @return the path of the user's own file of settings, which goes before all others
 QString userSettingsPath();
+/// @return the path of the file that is written for @p scope
+QString settingsPath(Scope scope);
 
 /// Changes settings. @return nil when it cannot be done
 using SettingChange = std::function<std::optional<PropertyListText>(const PropertyListText &settings)>;
@@ -43,15 +46,17 @@ enum class Damaged {
 struct SettingsWritten {
     QString problem{}; ///< why nothing was written; empty when all is well
     bool isDamaged = false; ///< the problem is the file in force, and starting afresh would get over it
+    QString path{}; ///< the file that was written; empty when one was taken away
     QString backup{}; ///< where the file that was there before is now; empty when it was changed in place
     bool fromBinary = false; ///< the settings had the binary form and have the XML form now
 };
 
-/// Changes the file in force, or the shipped settings where there is none, and writes the user's own file. It is written
-/// whole or not at all; a link is followed, a new file is the user's alone. Several programs may do so at once.
-SettingsWritten changeSettings(const SettingChange &change, Damaged damaged);
+/// Changes settings and writes the file of @p scope: the user's own from those in force, where a new file is the user's
+/// alone; or the system's from what it holds, for everybody to read. Where there are none to start from, the shipped ones
+/// are. The file is written whole or not at all, a link is followed, except by root. Several programs may do so at once.
+SettingsWritten changeSettings(const SettingChange &change, Damaged damaged, Scope scope = Scope::User);
 
-/// Takes the user's own file away, keeping it beside where it was, so that the computer's settings are in force.
-SettingsWritten resetSettings();
+/// Takes the file of @p scope away, keeping it beside where it was, so that those of lower rank are in force.
+SettingsWritten resetSettings(Scope scope = Scope::User);
 
 } // namespace tarvo

@@ -6,9 +6,10 @@
 #include <QList>
 #include <QString>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <csignal>
-#include <unistd.h>
 
 namespace tarvo {
 

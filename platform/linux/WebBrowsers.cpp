@@ -65,7 +65,8 @@ bool isWebBrowserInstalled()
 {
     const QStringList named = qEnvironmentVariable("BROWSER").split(u':') + QStringList{u"x-www-browser"_s};
     return std::ranges::any_of(named, canStart)
-        || std::ranges::any_of(QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation), hasBrowserEntry);
+        || std::ranges::any_of(QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation),
+                               hasBrowserEntry);
 }
 
 } // namespace tarvo

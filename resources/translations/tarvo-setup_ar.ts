@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: برنامج آخر يغيّر هذه الإعدادات. حاول مرة أخرى.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 ليس ملكًا لـ root وحده، لذا لا يكتب root شيئًا هناك. شغّل tarvo-setup دون sudo لإعداداتك، أو مع ‎--system لإعدادات جميع المستخدمين.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>ستكون هذه إعدادات root لا إعدادات %1. شغّل tarvo-setup دون sudo لإعدادات %1، أو مع ‎--system لإعدادات جميع المستخدمين.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>لا يمكن تغيير %1 بهذه الطريقة.</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: Ein anderes Programm ändert gerade diese Einstellungen. Versuchen Sie es noch einmal.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 gehört nicht root allein, darum schreibt root dort nichts. Starten Sie tarvo-setup ohne sudo für Ihre eigenen Einstellungen, oder mit --system für die aller Benutzer.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Das wären die Einstellungen von root, nicht von %1. Starten Sie tarvo-setup ohne sudo für die von %1, oder mit --system für die aller Benutzer.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 kann nicht so geändert werden.</translation>

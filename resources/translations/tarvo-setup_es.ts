@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: otro programa está cambiando estos ajustes. Inténtelo de nuevo.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 no es solo de root, así que root no escribe nada ahí. Ejecute tarvo-setup sin sudo para sus propios ajustes, o con --system para los de todos los usuarios.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Serían los ajustes de root, no de %1. Ejecute tarvo-setup sin sudo para los de %1, o con --system para los de todos los usuarios.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 no se puede cambiar de esta manera.</translation>

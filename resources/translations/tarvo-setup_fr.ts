@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1 : un autre programme modifie ces réglages. Réessayez.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 n’appartient pas à root seul, donc root n’y écrit rien. Lancez tarvo-setup sans sudo pour vos propres réglages, ou avec --system pour ceux de tous les utilisateurs.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Ce seraient les réglages de root, pas de %1. Lancez tarvo-setup sans sudo pour ceux de %1, ou avec --system pour ceux de tous les utilisateurs.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 ne peut pas être modifié ainsi.</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: un altro programma sta modificando queste impostazioni. Riprova.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 non è solo di root, quindi root non vi scrive nulla. Avvia tarvo-setup senza sudo per le tue impostazioni, o con --system per quelle di tutti gli utenti.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Sarebbero le impostazioni di root, non di %1. Avvia tarvo-setup senza sudo per quelle di %1, o con --system per quelle di tutti gli utenti.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 non si può modificare in questo modo.</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: 別のプログラムがこの設定を変更しています。もう一度お試しください。</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 は root だけのものではないので、root はそこに何も書きません。自分の設定には sudo なしで、全ユーザーの設定には --system を付けて tarvo-setup を実行してください。</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>これは %1 ではなく root の設定になります。%1 の設定には sudo なしで、全ユーザーの設定には --system を付けて tarvo-setup を実行してください。</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 はこのようには変更できません。</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: inny program zmienia właśnie te ustawienia. Spróbuj ponownie.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 nie należy wyłącznie do roota, więc root nic tam nie zapisuje. Uruchom tarvo-setup bez sudo dla własnych ustawień albo z --system dla ustawień wszystkich użytkowników.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Byłyby to ustawienia użytkownika root, a nie %1. Uruchom tarvo-setup bez sudo dla ustawień %1 albo z --system dla ustawień wszystkich użytkowników.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>Nie można zmienić %1 w ten sposób.</translation>

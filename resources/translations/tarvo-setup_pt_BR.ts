@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: outro programa está alterando estes ajustes. Tente de novo.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 não é só do root, por isso o root não grava nada ali. Execute tarvo-setup sem sudo para os seus ajustes, ou com --system para os de todos os usuários.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Seriam os ajustes do root, não de %1. Execute tarvo-setup sem sudo para os de %1, ou com --system para os de todos os usuários.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 não pode ser alterado desta forma.</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1: эти параметры сейчас меняет другая программа. Повторите попытку.</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 принадлежит не только root, поэтому root ничего туда не пишет. Запустите tarvo-setup без sudo для своих параметров или с --system для параметров всех пользователей.</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>Это были бы параметры root, а не %1. Запустите tarvo-setup без sudo для параметров %1 или с --system для параметров всех пользователей.</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 нельзя изменить таким образом.</translation>

@@ -331,6 +331,14 @@
         <source>%1: another program is changing these settings. Try again.</source>
         <translation>%1：另一个程序正在更改这些选项。请重试。</translation>
     </message>
+    <message id="RootRefuses">
+        <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
+        <translation>%1 并非 root 独有，因此 root 不在那里写入。要更改您自己的选项，请不用 sudo 运行 tarvo-setup；要更改所有用户的选项，请加 --system。</translation>
+    </message>
+    <message id="RootsSettings">
+        <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
+        <translation>这将是 root 的选项，而不是 %1 的。要更改 %1 的选项，请不用 sudo 运行 tarvo-setup；要更改所有用户的选项，请加 --system。</translation>
+    </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
         <translation>%1 无法这样更改。</translation>

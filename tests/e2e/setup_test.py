@@ -31,9 +31,9 @@ class SetupTest(companion_test.Companion):
         pass  # not every test starts the companion
 
     def setup_program(self, *arguments, status=0, bus="unix:path=/nonexistent", libraries="", output=subprocess.PIPE,
-                      language="en"):
+                      language="en", **more):
         environment = surroundings.environment(self.folder, self.usb, bus) | {
-            "LD_LIBRARY_PATH": libraries, "LANGUAGE": language}
+            "LD_LIBRARY_PATH": libraries, "LANGUAGE": language} | more
         run = subprocess.run([sys.argv[3], *arguments], env=environment, stdout=output, stderr=subprocess.PIPE, text=True,
                              timeout=60, check=False)
         self.assertEqual(run.returncode, status, run)
@@ -132,6 +132,40 @@ class SetupTest(companion_test.Companion):
             output = self.setup_program(*arguments.split(), language="de")
             self.assertIn(german, output)
             self.assertNotIn(english, output)
+
+    @unittest.skipUnless(os.stat("/").st_uid == os.geteuid() == 0, "only root can be refused")
+    def test_gives_a_user_no_file_of_roots(self):
+        def refused(**more):
+            self.setup_program("use", DEVICE, status=1, **more)
+            self.assertEqual(list(self.config.parent.glob("*")), there)
+
+        there = []
+        refused(SUDO_USER="anna")
+        os.chown(self.folder, 1234, 1234)
+        refused()
+        os.chown(self.folder, 0, 0)
+        self.folder.chmod(0o777)
+        refused()
+        self.folder.chmod(0o700)
+        self.config.parent.mkdir(parents=True)
+        self.config.symlink_to(self.folder / "elsewhere")
+        there = [self.config]
+        refused()
+        self.assertFalse((self.folder / "elsewhere").exists())
+        self.config.unlink()
+        self.setup_program("use", DEVICE)
+
+    def test_writes_the_settings_of_all_users(self):
+        script = f'''mount -t tmpfs -o mode=755 none /etc/xdg && umask 077 && "$0" --system use {DEVICE} && cd /etc/xdg/tarvo &&
+                     "$0" --system use 19d4:1 --force && stat -c %a . Config.plist && cat Config.plist &&
+                     "$0" --system reset && ls'''
+        run = subprocess.run(["unshare", "--mount", "sh", "-c", script, os.path.abspath(sys.argv[3])], stdout=subprocess.PIPE, text=True,
+                             env={"PATH": os.environ["PATH"], "HOME": str(self.folder), "SUDO_USER": "anna"}, check=True)
+        for expected in ("in /etc/xdg/tarvo/Config.plist.\n", "\n755\n644\n", "6611</string>", "6612</string>"):
+            self.assertIn(expected, run.stdout)
+        self.assertEqual(run.stdout.splitlines()[-1], "Config.plist.bak")
+        for command in ("list", "check", "show"):
+            self.setup_program("--system", command, status=2)
 
     def test_does_not_wait_for_a_bus_that_says_nothing(self):
         with socket.socket(socket.AF_UNIX) as silent:

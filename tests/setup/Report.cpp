@@ -23,14 +23,15 @@ TEST(Report, ShowsChecksWithWhatToDo)
 {
     const QList<Check> checks{
         {"a", Mark::Ok}, {"b", Mark::Broken, {"FixNoTray"}, {u"x"_s}}, {"c", Mark::Unknown}, {"d", Mark::Skipped}};
-    EXPECT_EQ(checksAsText(checks),
-              u"Check_a: MarkOk\nCheck_b: MarkBroken\n    FixNoTray\n    x\nCheck_c: MarkUnknown\nCheck_d: MarkSkipped\n"_s);
+    EXPECT_EQ(
+        checksAsText(checks),
+        u"Check_a: MarkOk\nCheck_b: MarkBroken\n    FixNoTray\n    x\nCheck_c: MarkUnknown\nCheck_d: MarkSkipped\n"_s);
 }
 
 TEST(Report, ShowsEachSettingAndThoseThatAreAbsent)
 {
     const QString text = settingsAsText({{u"NeedDialModeJudge"_s, true}, {u"ManualDialKey"_s, u"a\"\n"_s}});
-    for (const QString &line : {u"\nNeedDialModeJudge: true\n"_s, u"\nManualDialKey: \"a\\\"\\n\"\n"_s,
-                                u"\nNeedCheckFotaUpdate: -\n"_s})
+    for (const QString &line :
+         {u"\nNeedDialModeJudge: true\n"_s, u"\nManualDialKey: \"a\\\"\\n\"\n"_s, u"\nNeedCheckFotaUpdate: -\n"_s})
         EXPECT_TRUE(text.contains(line)) << text.toStdString();
 }
