@@ -1,5 +1,6 @@
 #include "setup/CommandLine.h"
 
+#include "platform/LogLine.h"
 #include "setup/Report.h"
 #include "setup/SettingStore.h"
 #include "setup/Survey.h"
@@ -24,9 +25,14 @@ void print(const QString &text)
     QTextStream(stdout) << text << Qt::flush;
 }
 
+void printSentence(const QString &sentence)
+{
+    print(QString::fromUtf8(logLine(sentence)) + u'\n');
+}
+
 int fail(const QString &problem)
 {
-    QTextStream(stderr) << u"tarvo-setup: "_s << problem << Qt::endl;
+    QTextStream(stderr) << QString::fromUtf8(logLine(u"tarvo-setup: "_s + problem)) << Qt::endl;
     return exit_status::failed;
 }
 
@@ -79,8 +85,7 @@ int show(const Command &command, Survey &)
         return fail(qtTrId("FixNoSettings"));
     if (!settings.problem.isEmpty())
         return fail(qtTrId("FixUnreadable").arg(settings.path, settings.problem));
-    print(command.asJson ? QString::fromUtf8(settingsAsJson(settings))
-                         : settings.path + u'\n' + settingsAsText(settings.values));
+    print(command.asJson ? QString::fromUtf8(settingsAsJson(settings)) : settingsAsText(settings));
     return exit_status::inOrder;
 }
 
@@ -105,13 +110,13 @@ int finish(const SettingsWritten &written, Survey &survey)
         return fail(qtTrId("NotSaved").arg(written.problem)
                     + (written.isDamaged ? u' ' + qtTrId("ForceStartsAfresh") : QString()));
     const QString path = written.path.isEmpty() ? settingsInForce().path : written.path;
-    print((path.isEmpty() ? qtTrId("FixNoSettings") : qtTrId("SettingsAreIn").arg(path)) + u'\n');
+    printSentence(path.isEmpty() ? qtTrId("FixNoSettings") : qtTrId("SettingsAreIn").arg(path));
     if (written.fromBinary)
-        print(qtTrId("WasBinary") + u'\n');
+        printSentence(qtTrId("WasBinary"));
     if (!written.backup.isEmpty())
-        print(qtTrId("OldFileKept").arg(written.backup) + u'\n');
+        printSentence(qtTrId("OldFileKept").arg(written.backup));
     const auto result = waitFor<ActionResult>([&](auto deliver) { survey.restartCompanion(std::move(deliver)); });
-    print(restartText(result) + u'\n');
+    printSentence(restartText(result));
     return exit_status::inOrder;
 }
 
@@ -135,7 +140,7 @@ int use(const Command &command, Survey &survey)
         return fail(qtTrId("NeedsForce").arg(command.words[1]));
     const int status = change(command, survey, useDevice(device));
     if (status == exit_status::inOrder && !isPluggedIn(device, survey))
-        print(qtTrId("NotPluggedIn").arg(command.words[1]) + u'\n');
+        printSentence(qtTrId("NotPluggedIn").arg(command.words[1]));
     return status;
 }
 

@@ -1,5 +1,6 @@
 #include "setup/Report.h"
 
+#include "platform/LogLine.h"
 #include "setup/SettingKeys.h"
 
 #include <QCoreApplication>
@@ -88,6 +89,12 @@ QString valueAsText(const QVariant &value)
         .chopped(1);
 }
 
+/// @return @p text as one line of output, in which nothing from outside passes for something else
+QString line(const QString &text)
+{
+    return QString::fromUtf8(logLine(text)) + u'\n';
+}
+
 } // namespace
 
 QByteArray devicesAsJson(const QList<ListedDevice> &devices)
@@ -105,8 +112,8 @@ QString devicesAsText(const QList<ListedDevice> &devices)
     QString text;
     for (const ListedDevice &listed : devices) {
         const QString id = listed.device.identifier();
-        text += u"%1  %2\n    %3\n    %4\n"_s.arg(id, listed.device.name(), networkAsText(listed.device),
-                                                  stateAsText(listed));
+        text += line(id + u"  "_s + listed.device.name()) + line(u"    "_s + networkAsText(listed.device))
+            + line(u"    "_s + stateAsText(listed));
         if (listed.device.support != Support::Supported)
             text += u"    "_s + qtTrId("UseCommand").arg(u"tarvo-setup use "_s + id) + u'\n';
     }
@@ -130,9 +137,9 @@ QString checksAsText(const QList<Check> &checks)
 {
     QString text;
     for (const Check &check : checks) {
-        text += u"%1: %2\n"_s.arg(check.title(), markText(check.mark));
-        for (const QString &line : QStringList{check.advice.shown()} + check.details)
-            text += line.isEmpty() ? QString() : u"    "_s + line + u'\n';
+        text += line(u"%1: %2"_s.arg(check.title(), markText(check.mark)));
+        for (const QString &detail : QStringList{check.advice.shown()} + check.details)
+            text += detail.isEmpty() ? QString() : line(u"    "_s + detail);
     }
     return text;
 }
@@ -144,11 +151,11 @@ QByteArray settingsAsJson(const SettingsInForce &settings)
         .toJson();
 }
 
-QString settingsAsText(const QVariantMap &settings)
+QString settingsAsText(const SettingsInForce &settings)
 {
-    QString text;
+    QString text = line(settings.path);
     for (const SettingKey &key : settingKeys())
-        text += key.name() + u": "_s + valueAsText(settingAt(settings, key.path)) + u'\n';
+        text += line(key.name() + u": "_s + valueAsText(settingAt(settings.values, key.path)));
     return text;
 }
 

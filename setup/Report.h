@@ -21,7 +21,8 @@ struct ListedDevice {
     bool operator==(const ListedDevice &) const = default;
 };
 
-// The JSON forms are documented in tarvo-setup(1), and programs rely on them.
+// The JSON forms are documented in tarvo-setup(1), and programs rely on them. In the texts, what comes from outside is
+// escaped as in the log, line by line.
 
 QByteArray devicesAsJson(const QList<ListedDevice> &devices);
 /// In the user's language.
@@ -32,7 +33,7 @@ QByteArray checksAsJson(const QList<Check> &checks);
 QString checksAsText(const QList<Check> &checks);
 
 QByteArray settingsAsJson(const SettingsInForce &settings);
-/// A line for each setting: its key and its value.
-QString settingsAsText(const QVariantMap &settings);
+/// The file, and a line for each setting: its key and its value.
+QString settingsAsText(const SettingsInForce &settings);
 
 } // namespace tarvo
