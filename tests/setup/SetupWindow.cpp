@@ -3,6 +3,7 @@
 #include "platform/StateStore.h"
 #include "setup/Autostart.h"
 #include "setup/SettingKeys.h"
+#include "setup/window/TitledItems.h"
 #include "simulator/ModemServer.h"
 #include "simulator/SimulatedModem.h"
 #include "simulator/SimulatedUsbNetworkDevices.h"
@@ -11,14 +12,21 @@
 #include "tests/support/PrintQt.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
@@ -68,6 +76,12 @@ struct SetupWindowTest : testing::Test {
         return nullptr;
     }
 
+    bool tells(const QString &text) const
+    {
+        const auto labels = window->findChildren<QLabel *>();
+        return std::ranges::any_of(labels, [&](const QLabel *label) { return label->text().contains(text); });
+    }
+
     QStringList vendors() const { return identifiersAt(settingsInForce().values, vendorsPath); }
 
     SimulatedModem modem;
@@ -111,6 +125,7 @@ TEST_F(SetupWindowTest, LeadsFromThePluggedModemToOneInUseByTheKeyboard)
     EXPECT_EQ(window->focusWidget(), list);
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(vendors(), QStringList{u"6610"_s});
+    EXPECT_TRUE(tells(u"Saved"_s) && !tells(u"OldFileKept"_s));
     EXPECT_TRUE(waitFor([&] { return restarts == 1; }));
     EXPECT_TRUE(row(0).contains(u"DeviceSupported"_s));
     EXPECT_FALSE(button(u"UseModem"_s)->isEnabled());
@@ -119,8 +134,11 @@ TEST_F(SetupWindowTest, LeadsFromThePluggedModemToOneInUseByTheKeyboard)
     EXPECT_TRUE(row(1).contains(u"DeviceExcluded"_s));
     EXPECT_EQ(list->currentRow(), 1);
 
+    EXPECT_TRUE(list->isVisible());
     devices.plug({});
     EXPECT_TRUE(waitFor([&] { return list->count() == 0; }));
+    EXPECT_FALSE(list->isVisible()) << "a sentence stands in its place";
+    EXPECT_FALSE(button(u"UseModem"_s)->isEnabled() || button(u"LeaveAlone"_s)->isEnabled());
     const auto requests = modem.requests("logo_data.asp");
     ASSERT_EQ(requests.size(), 1) << "a gateway is asked once";
     EXPECT_TRUE(requests[0].head.contains("Referer")) << "as the shipped settings say, where there were none";
@@ -132,9 +150,15 @@ TEST_F(SetupWindowTest, ShowsTheChain)
     open();
     QTest::keyClick(list, Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_FALSE(button(u"CheckAgain"_s)->isEnabled() || button(u"CopyReport"_s)->isEnabled()) << "not yet";
     EXPECT_TRUE(waitFor([&] { return row(15, 1) == u"MarkOk: Check_companion. "_s; })) << row(15, 1).toStdString();
     for (int i = 0; i < 15; ++i)
         EXPECT_TRUE(row(i, 1).startsWith(i == 11 ? u"MarkSkipped"_s : u"MarkOk"_s)) << row(i, 1).toStdString();
+    QTest::mouseClick(button(u"CopyReport"_s), Qt::LeftButton);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(u"\nCheck_companion: MarkOk\n"));
+    QTest::mouseClick(button(u"CheckAgain"_s), Qt::LeftButton);
+    EXPECT_FALSE(button(u"CheckAgain"_s)->isEnabled());
+    EXPECT_TRUE(waitFor([&] { return button(u"CheckAgain"_s)->isEnabled(); }));
 }
 
 TEST_F(SetupWindowTest, RefusesWhatIsWrongInTheFormAndSavesTheRest)
@@ -147,6 +171,11 @@ TEST_F(SetupWindowTest, RefusesWhatIsWrongInTheFormAndSavesTheRest)
     vendor->clear();
     QTest::keyClicks(vendor, u"0x19d2"_s);
     EXPECT_FALSE(save->isEnabled());
+    EXPECT_TRUE(vendor->accessibleName().endsWith(u": FaultNotDecimal"_s)) << vendor->accessibleName().toStdString();
+    QTest::mouseClick(button(u"DiscardChanges"_s), Qt::LeftButton);
+    EXPECT_EQ(vendor->text(), u"4660"_s);
+    EXPECT_EQ(vendor->accessibleName(), u"Setting_vendor_ids"_s);
+    EXPECT_EQ(vendor->accessibleDescription(), u"Explain_vendor_ids ShippedText"_s);
     vendor->clear();
     QTest::keyClicks(vendor, u"6610 7"_s);
     QTest::mouseClick(save, Qt::LeftButton);
@@ -174,13 +203,60 @@ TEST_F(SetupWindowTest, AsksBeforeItReplacesADamagedFile)
     open();
     QTest::mouseClick(button(u"UseModem"_s), Qt::LeftButton);
     auto *const box = window->findChild<QMessageBox *>();
-    ASSERT_TRUE(box);
+    ASSERT_TRUE(box && box->isVisible());
     EXPECT_EQ(vendors(), QStringList());
     for (QAbstractButton *const candidate : box->buttons()) {
         if (candidate->text() == u"StartAfresh"_s)
             candidate->click();
     }
     EXPECT_EQ(vendors(), QStringList{u"6610"_s});
+    EXPECT_TRUE(tells(u"Saved OldFileKept"_s));
+}
+
+TEST(TitledList, KeepsTextsInsideTheirRows)
+{
+    QPixmap red(64, 64);
+    red.fill(Qt::red);
+    TitledList list;
+    list.setItems({{red, u"icon"_s, u"title"_s, u"word "_s.repeated(40)}});
+    list.resize(600, 400);
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    const int height = list.visualItemRect(list.item(0)).height();
+    list.clearSelection();
+    list.setCurrentRow(-1);
+    list.resize(240, 400);
+    EXPECT_TRUE(waitFor([&] { return list.visualItemRect(list.item(0)).height() > height; })) << "they wrap";
+    const QImage image = list.viewport()->grab().toImage();
+    int besideIcon = image.width() / 2;
+    while (besideIcon > 0 && image.pixelColor(besideIcon - 1, 20) != Qt::red)
+        --besideIcon;
+    EXPECT_GT(besideIcon, 8);
+    const auto isEmpty = [&image](int x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != image.pixel(x, image.height() - 1))
+                return false;
+        }
+        return true;
+    };
+    for (int i = 1; i <= 5; ++i)
+        EXPECT_TRUE(isEmpty(besideIcon + i) && isEmpty(image.width() - i)) << i;
+}
+
+TEST(Autostart, ReadsTheMainGroupAlone)
+{
+    const std::tuple<QByteArray, bool, QByteArray> cases[] = {
+        {"Hidden=true\n[Desktop Entry]\nExec=a\n", true,
+         "Hidden=true\n[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\nExec=a\n"},
+        {"[Other]\nHidden=true\n[Desktop Entry]\n", true,
+         "[Other]\nHidden=true\n[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\n"},
+        {"[Desktop Entry]\nX-GNOME-Autostart-enabled = false \n", false,
+         "[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\n"},
+    };
+    for (const auto &[entry, starts, off] : cases) {
+        EXPECT_EQ(startsAtLogin(entry), starts) << entry.toStdString();
+        EXPECT_EQ(withStartAtLogin(entry, false), off);
+    }
 }
 
 TEST(Autostart, IsSwitchedInTheUsersCopyOfTheEntry)
