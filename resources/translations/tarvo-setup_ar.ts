@@ -333,11 +333,11 @@
     </message>
     <message id="RootRefuses">
         <source>%1 is not root’s alone, so root writes nothing there. Run tarvo-setup without sudo for your own settings, or with --system for those of all users.</source>
-        <translation>%1 ليس ملكًا لـ root وحده، لذا لا يكتب root شيئًا هناك. شغّل tarvo-setup دون sudo لإعداداتك، أو مع ‎--system لإعدادات جميع المستخدمين.</translation>
+        <translation>%1 ليس ملكًا لـ root وحده، لذا لا يكتب root شيئًا هناك. شغّل tarvo-setup دون sudo لإعداداتك، أو مع --system لإعدادات جميع المستخدمين.</translation>
     </message>
     <message id="RootsSettings">
         <source>These would be the settings of root, not of %1. Run tarvo-setup without sudo for those of %1, or with --system for those of all users.</source>
-        <translation>ستكون هذه إعدادات root لا إعدادات %1. شغّل tarvo-setup دون sudo لإعدادات %1، أو مع ‎--system لإعدادات جميع المستخدمين.</translation>
+        <translation>ستكون هذه إعدادات root لا إعدادات %1. شغّل tarvo-setup دون sudo لإعدادات %1، أو مع --system لإعدادات جميع المستخدمين.</translation>
     </message>
     <message id="CannotBeChanged">
         <source>%1 cannot be changed in this way.</source>
@@ -345,7 +345,7 @@
     </message>
     <message id="ForceStartsAfresh">
         <source>With --force, the shipped settings are the start.</source>
-        <translation>مع ‎--force تكون الإعدادات الأصلية هي البداية.</translation>
+        <translation>مع --force تكون الإعدادات الأصلية هي البداية.</translation>
     </message>
     <message id="LinkDown">
         <source>switched off</source>
@@ -357,7 +357,7 @@
     </message>
     <message id="NeedsForce">
         <source>%1 is the number of no modem. “tarvo-setup list” shows yours; with --force it is taken all the same.</source>
-        <translation>%1 ليس رقم أي مودم. يعرض الأمر «tarvo-setup list» رقم جهازك؛ ومع ‎--force يُقبل على أي حال.</translation>
+        <translation>%1 ليس رقم أي مودم. يعرض الأمر «tarvo-setup list» رقم جهازك؛ ومع --force يُقبل على أي حال.</translation>
     </message>
     <message id="NotPluggedIn">
         <source>No device %1 is plugged in.</source>
