@@ -46,6 +46,27 @@ void ApnProvisioner::reset()
     m_accessPointsSent = 0;
     m_readyRefusals = 0;
     m_readyDue = {};
+    m_examined = false;
+}
+
+ApnProvisioner::Progress ApnProvisioner::progress() const
+{
+    return {.examined = m_examined, .complete = isSetApnReady_, .sent = m_accessPointsSent};
+}
+
+void ApnProvisioner::resume(const Progress &progress)
+{
+    reset();
+    onlySetAPNFlag_ = !progress.examined;
+    isSetApnReady_ = progress.complete;
+    m_accessPointsSent = progress.sent;
+    m_examined = progress.examined;
+}
+
+void ApnProvisioner::examine(ModemClient &client)
+{
+    setAllApnFromPC(client);
+    client.work().whileAttached([this] { m_examined = !onlySetAPNFlag_; });
 }
 
 bool ApnProvisioner::setApn(ModemClient &client, const QString &record)

@@ -22,6 +22,15 @@ struct ProfileSeal;
 /// What talks to the modem runs on the polling worker, on behalf of its client's work.
 class ApnProvisioner {
 public:
+    /// What has been done for a modem.
+    struct Progress {
+        bool examined = false; ///< the records are sent, as far as they are wanted
+        bool complete = false; ///< the modem has accepted that they are complete
+        int sent = 0; ///< how many access points it was given
+
+        bool operator==(const Progress &) const = default;
+    };
+
     /// Everything referred to outlives this object.
     ApnProvisioner(const SharedSnapshot &snapshot, SystemLog &systemLog, Clock &clock);
 
@@ -50,11 +59,18 @@ public:
     /// Sends the records of the profile folder that the modem lacks and chooses the default, once for an attachment.
     void setAllApnFromPC(ModemClient &client);
 
+    /// Does that, and keeps in `progress` that it came to its end.
+    void examine(ModemClient &client);
+
     /// @return how many access points this modem was given
     int accessPointsSent() const { return m_accessPointsSent; }
     /// @return whether the records may still be examined for this device
     bool onlySetAPNFlag() const { return onlySetAPNFlag_; }
 
+    /// @return what has been done; what was begun and cut off is not (main thread, when no work is under way)
+    Progress progress() const;
+    /// Goes on from @p progress: what is done already is not done again (main thread, when no work is under way).
+    void resume(const Progress &progress);
     /// The device is another one, or gone: nothing has been sent (main thread, when no work is under way).
     void reset();
 
@@ -69,10 +85,12 @@ private:
     SystemLog &m_systemLog;
     Clock &m_clock;
     std::atomic<bool> onlySetAPNFlag_{true};
+    bool m_examined = false; ///< to the end; touched on behalf of the present attachment only
     std::atomic<int> m_accessPointsSent{0};
     std::atomic<bool> isSetApnReady_{false}; ///< the device has accepted that the access points are complete
     std::atomic<bool> m_owesDefault{false}; ///< a modem was sent records, and no default after them
-    QString notFoundDefaultApn_; ///< empty when the modem has the record; for the present attachment, as the next two
+    bool m_resumes = false; ///< the attachment goes on where an earlier one ended; for it alone, as the next three
+    QString notFoundDefaultApn_; ///< empty when an earlier attachment has sent the record
     int m_readyRefusals = 0; ///< how often the device has not accepted that they are complete
     Clock::TimePoint m_readyDue{}; ///< when it may be told again
 };

@@ -4,6 +4,8 @@
 
 #include <QDateTime>
 
+#include <utility>
+
 namespace tarvo {
 
 KnownDevice::KnownDevice(const Services &services)
@@ -11,10 +13,14 @@ KnownDevice::KnownDevice(const Services &services)
 {
 }
 
-void KnownDevice::keep(const ReadyDictionary &ready)
+bool KnownDevice::keep(const ReadyDictionary &ready)
 {
     const auto &name = ready.kOmbraBSDName;
     const auto &binderFor = m_services.socketBinderFor;
+    const auto &identityOf = m_services.identityOf;
+    const InterfaceIdentity before =
+        std::exchange(m_identity, identityOf && name ? identityOf(*name) : InterfaceIdentity());
+    const bool isSame = m_identity.index != 0 && m_identity.index == before.index;
     m_location = {*ready.router, name, binderFor && name ? binderFor(*name) : SocketBinder()};
     const auto identity = usbIdentity(m_services.deviceRegistry, ready.kOmbraIOService);
     m_details = {.name = m_services.deviceName && name ? m_services.deviceName(*name) : QString(),
@@ -22,8 +28,11 @@ void KnownDevice::keep(const ReadyDictionary &ready)
                  .interfaceName = name.value_or(QString()),
                  .address = ready.addresses.value(0).section(u'/', 0, 0),
                  .gateway = *ready.router};
-    m_reported = m_services.clock.now();
-    m_lastAnswer = 0;
+    if (!isSame) {
+        m_reported = m_services.clock.now();
+        m_lastAnswer = 0;
+    }
+    return std::exchange(m_report, ready) != ready || !isSame;
 }
 
 void KnownDevice::noteAnswer()

@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 MainController::MainController(Services services)
     : m_services(std::move(services))
     , m_device(m_services)
+    , m_recentDeeds(m_services.clock)
     , m_monitor({.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
                  .changed =
                      [this](const Work &work, const StatusSnapshot &snapshot) {
@@ -27,7 +28,8 @@ MainController::MainController(Services services)
                      }})
     , m_pages(
           m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
-          [this](const QString &page) { couldNotOpen(page); })
+          [this](const QString &page) { couldNotOpen(page); },
+          [this] { return m_recentDeeds.claim(RecentDeeds::openedPages); })
     , m_menu(menuActions())
     , m_icon(m_services.statusBar, m_services.systemLog, m_menu.menu(),
              {.click = [this] { iconClicked(); },
@@ -43,7 +45,7 @@ MainController::MainController(Services services)
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
               m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
-              [this] { m_display.refresh(); }})
+              [this] { m_display.refresh(); }, [this](int type) { return m_recentDeeds.claim(type); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
@@ -95,9 +97,22 @@ void MainController::couldNotOpen(const QString &page)
     m_pageFailure.tell(page);
 }
 
+void MainController::takeOver(const HandOver &handOver)
+{
+    m_plugIns.restore(handOver.plugIns);
+    m_recentDeeds.restore(handOver.deeds);
+}
+
+HandOver MainController::handOver()
+{
+    endPlugIn();
+    return {.plugIns = m_plugIns.all(), .deeds = m_recentDeeds.deeds()};
+}
+
 void MainController::awakeFromNib()
 {
     m_services.workspace.addSleepObserver([this] { machineWillSleep(); }, [this] { machineDidWake(); });
+    m_services.workspace.addActivityObserver([this](bool active) { sessionActivityChanged(active); });
 }
 
 void MainController::applicationDidFinishLaunching()
@@ -158,101 +173,6 @@ int MainController::applicationShouldTerminate()
 
 void MainController::applicationWillTerminate() { }
 
-void MainController::machineWillSleep()
-{
-    log(u"machineWillSleep"_s);
-    m_asleep = true;
-    stopGetModemStatus();
-}
-
-void MainController::machineDidWake()
-{
-    log(u"machineDidWake"_s);
-    m_asleep = false;
-    if (!routerObserver_)
-        return;
-    if (routerObserver_->isInterfaceRouterReady("IOUSBInterface")
-        || routerObserver_->isInterfaceRouterReady("IOUSBHostInterface"))
-        startGetModemInfo();
-}
-
-void MainController::procECMReady(const ReadyDictionary &ready)
-{
-    if (!ready.router) {
-        waitingIPv4Ready();
-        return;
-    }
-    m_device.keep(ready);
-    m_hasNoGateway = false;
-    if (m_asleep)
-        return; // wake starts with it
-    m_attachment.reset(); // what still runs for an earlier device must not see this one's flags
-    resetForReadyDevice();
-    startGetModemInfo();
-    log(u"ECMReady"_s);
-    log(*ready.router);
-    log(ready.kOmbraBSDName.value_or(u"(null)"_s));
-}
-
-void MainController::resetForReadyDevice()
-{
-    m_pages.reset();
-    m_provisioner.reset();
-    m_monitor.resetForReadyDevice();
-    m_news.resetForReadyDevice();
-}
-
-void MainController::procInterfaceRemoved(const QString &bsdName)
-{
-    log(bsdName);
-    stopGetModemStatus();
-}
-
-void MainController::waitingIPv4Ready()
-{
-    m_hasNoGateway = true;
-    detect();
-}
-
-void MainController::startGetModemInfo()
-{
-    log(u"startGetModemInfo"_s);
-    startGetModemStatus();
-}
-
-void MainController::startGetModemStatus()
-{
-    m_attachment.reset();
-    m_icon.showPolling();
-    if (!m_device.location())
-        return;
-    m_attachment = std::make_unique<Attachment>(*m_device.location(), m_threads);
-    m_poller.start(m_attachment->work());
-    detect();
-}
-
-void MainController::stopGetModemStatus()
-{
-    log(u"DeviceRemoved,stopGetModemStatus"_s);
-    m_attachment.reset();
-    resetForStop();
-    if (m_balloon.isShown())
-        m_balloon.toggleAttachedWindowAtPoint(qtTrId("DeviceRemovedTip"));
-    m_balloon.withdraw();
-    m_updateAlert.close();
-    m_icon.showRemoval();
-    detect();
-}
-
-void MainController::resetForStop()
-{
-    m_poller.stop();
-    m_monitor.resetForStop();
-    m_pages.reset();
-    m_provisioner.reset();
-    m_news.resetForStop();
-}
-
 void MainController::pass(ModemClient &client, const QString &page)
 {
     const auto &settings = ConfigManager::sharedConfigManager();
@@ -260,7 +180,7 @@ void MainController::pass(ModemClient &client, const QString &page)
     const std::array<std::function<void()>, 5> steps{
         [&] {
             if (provisions)
-                m_provisioner.setAllApnFromPC(client);
+                m_provisioner.examine(client);
         },
         [&] {
             if (provisions)

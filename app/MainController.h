@@ -3,7 +3,9 @@
 #include "RouterObserver/RouterObserver.h"
 #include "RouterObserver/UnknownModems.h"
 #include "apn/ApnProvisioner.h"
+#include "app/HandOver.h"
 #include "app/KnownDevice.h"
+#include "app/PlugIns.h"
 #include "app/Services.h"
 #include "attachment/Attachment.h"
 #include "attachment/ThreadGroup.h"
@@ -16,6 +18,7 @@
 #include "ui/IconMenu.h"
 #include "ui/NewsSequence.h"
 #include "ui/PageFailureNotice.h"
+#include "ui/RecentDeeds.h"
 #include "ui/StatusDisplay.h"
 #include "ui/StatusIcon.h"
 #include "ui/UpdateAlert.h"
@@ -41,7 +44,12 @@ public:
     MainController(const MainController &) = delete;
     MainController &operator=(const MainController &) = delete;
 
-    /// Registers for sleep and wake.
+    /// Goes on from what the program that this one takes the place of has done; before anything else.
+    void takeOver(const HandOver &handOver);
+    /// Ends all work. @return what a program that takes the place of this one has to know
+    HandOver handOver();
+
+    /// Registers for sleep and wake, and for other users at the screen.
     void awakeFromNib();
     /// Creates the watcher and the icon, then starts to watch the network.
     void applicationDidFinishLaunching();
@@ -56,7 +64,11 @@ public:
     /// Starts polling again, with the last router that was reported, when the modem's interface has a router.
     void machineDidWake();
 
-    /// A supported interface has IPv4 state. Without a router in @p ready nothing changes.
+    /// The user's session came to the screen, or gave way to another one, during which the modem is left alone.
+    void sessionActivityChanged(bool active);
+
+    /// A supported interface has IPv4 state. Without a router in @p ready nothing changes; for a modem that is polled
+    /// already, only where requests go.
     void procECMReady(const ReadyDictionary &ready);
     /// The supported interface @p bsdName is gone.
     void procInterfaceRemoved(const QString &bsdName);
@@ -93,7 +105,16 @@ private:
     void pass(ModemClient &client, const QString &page);
     void modemAnswered(const Work &work, std::optional<Obstacle> obstacle);
     void snapshotEvaluated(const Work &work);
-    void resetForReadyDevice();
+    /// @return whether the modem is to be left alone
+    bool isResting() const { return m_asleep || !m_active; }
+    void rest();
+    /// Polls the modem that was reported last when its interface has a router, unless the modem is to be left alone.
+    void resume();
+    /// Starts to poll at the modem's location; what runs for it at another one ends.
+    void attach();
+    /// Ends the work for the modem that is polled, and remembers what has been done for it.
+    void endPlugIn();
+    void resetForReadyDevice(const PlugInState &done);
     void resetForStop();
 
     Services m_services;
@@ -103,6 +124,8 @@ private:
     AboutDialog m_aboutDialog;
 
     KnownDevice m_device;
+    PlugIns m_plugIns;
+    RecentDeeds m_recentDeeds;
     StatusMonitor m_monitor;
     WebPages m_pages;
     IconMenu m_menu;
@@ -119,6 +142,7 @@ private:
     bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
     bool m_preparesHttp = false; ///< a modem has been waited for
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps
+    bool m_active = true; ///< the user's session is on the screen
     ThreadGroup m_threads; ///< its destructor waits for the threads that use all of the above
     std::unique_ptr<Attachment> m_attachment; ///< to the modem that is polled; null when none is
 };

@@ -16,6 +16,15 @@ class StatusBar;
 class SystemLog;
 class Workspace;
 
+/// What tells a network interface from every other one. On the same machine no two ever have the same index until it
+/// starts again, and a device that comes back has the same address.
+struct InterfaceIdentity {
+    int index = 0; ///< 0 when it is not known
+    QString address{}; ///< of the hardware, as text; empty when it has none
+
+    bool operator==(const InterfaceIdentity &) const = default;
+};
+
 /// What the controller needs from the outside. Everything referred to outlives the controller.
 struct Services {
     DynamicStore &dynamicStore; ///< tells of interfaces and their addresses
@@ -38,6 +47,10 @@ struct Services {
     /// @return the name of the device behind the network interface of that name, for the user; empty when it has none.
     ///         Called on the main thread; may be empty
     std::function<QString(const QString &interfaceName)> deviceName{};
+
+    /// @return what tells the network interface of that name from others; called on the main thread. Without it each
+    ///         report is one of a new device
+    std::function<InterfaceIdentity(const QString &interfaceName)> identityOf{};
 
     /// Opens the program that makes the settings; called on the main thread. Empty where there is none.
     std::function<void()> openSettings{};

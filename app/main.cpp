@@ -7,6 +7,7 @@
 #include "platform/linux/Compositing.h"
 #include "platform/linux/DesktopNotifications.h"
 #include "platform/linux/DesktopStatusBar.h"
+#include "platform/linux/HardwareAddress.h"
 #include "platform/linux/LeaseFiles.h"
 #include "platform/linux/LogindWorkspace.h"
 #include "platform/linux/NetlinkDynamicStore.h"
@@ -38,6 +39,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString applicationId = u"io.github.tarvo.Tarvo"_s;
+const char *const handOverVariable = "TARVO_HAND_OVER"; // what the program that starts over hands to the new one
 
 /// Begins anew, as only a new process can show its icon in a host of a session bus that came late; not at once, lest a bus
 /// in trouble keeps the program busy.
@@ -159,6 +161,10 @@ Services Surroundings::services()
         .terminate = [] { QApplication::quit(); },
         .notifications = &m_notifications,
         .deviceName = [this](const QString &name) { return deviceName(m_usbDevices, name); },
+        .identityOf =
+            [this](const QString &name) {
+                return InterfaceIdentity{m_dynamicStore.interfaceIndex(name), hardwareAddress(name)};
+            },
         .isScreenComposited = isScreenComposited};
     const QString setupProgram = findSetupProgram();
     if (!setupProgram.isEmpty())
@@ -182,6 +188,14 @@ void logSettings(SystemLog &systemLog)
         systemLog.write(*problem);
 }
 
+/// @return what was handed over to this program, which the programs that it starts are not to find
+HandOver takeHandOver()
+{
+    const HandOver handOver = readHandOver(qgetenv(handOverVariable));
+    qunsetenv(handOverVariable);
+    return handOver;
+}
+
 int run(QApplication &application, SystemLog &systemLog)
 {
     logSettings(systemLog);
@@ -197,10 +211,14 @@ int run(QApplication &application, SystemLog &systemLog)
         controller.applicationWillTerminate();
     });
 
+    controller.takeOver(takeHandOver());
     controller.awakeFromNib();
     surroundings.announceServicesAfterWake(); // after the controller woke
     controller.applicationDidFinishLaunching();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    if (status == Restart::exitStatus)
+        qputenv(handOverVariable, toText(controller.handOver()));
+    return status;
 }
 
 int start(int argc, char **argv, SystemLog &systemLog)

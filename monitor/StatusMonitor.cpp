@@ -113,9 +113,10 @@ void StatusMonitor::setNetWorkTransferTypeByNewNetStatus(std::int32_t status)
         setNetWorkTransferType(status == 1 ? 0 : 1);
 }
 
-void StatusMonitor::resetForReadyDevice()
+void StatusMonitor::resetForReadyDevice(bool hasNewVersion)
 {
     StatusSnapshot snapshot = m_snapshot.get();
+    snapshot.isHaveNewVersion_ = hasNewVersion;
     snapshot.haveNewVersionFlag_ = false;
     snapshot.haveDataLimitFlag_ = false;
     snapshot.answering.reset();

@@ -42,7 +42,8 @@ public:
     std::int32_t netWorkTransferType() const { return netWorkTransferType_; }
 
     /// A device became ready: no notice is pending (main thread, when no work is under way).
-    void resetForReadyDevice();
+    /// @param hasNewVersion  whether it has offered new firmware before
+    void resetForReadyDevice(bool hasNewVersion);
     /// The device is gone or the machine sleeps: nothing is known, and both notices are pending, so that nothing shows
     /// a normal state until a device is ready again (main thread, when no work is under way).
     void resetForStop();

@@ -14,6 +14,7 @@ namespace tarvo {
 class ManualClock final : public Clock {
 public:
     TimePoint now() const override;
+    TimePoint nowAlsoAsleep() const override { return now(); }
     bool waitUntil(TimePoint deadline, std::stop_token stop) override;
 
     /// Moves time on; every wait whose deadline has come by then ends.

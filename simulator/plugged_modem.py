@@ -97,12 +97,12 @@ class Modem:
         self.process.stdin.flush()
         assert self.process.stdout.readline() == "ok\n"
 
-    def plug(self, name, usb=True, metric=100):
-        """Brings up the link as the kernel and udev do: first under another name."""
+    def plug(self, name, usb=True, metric=100, address=None):
+        """Brings up the link as the kernel and udev do: first under another name. Without an address it has one by chance."""
         index = next(self.indexes)
         if usb:
             self.usb.add("usb0", index)
-        ip(f"link add usb0 index {index} type veth peer name modem netns {self.process.pid}")
+        ip(f"link add usb0 {address and 'address ' + address or ''} index {index} type veth peer name modem netns {self.process.pid}")
         if usb:
             self.usb.rename("usb0", name)
         ip(f"link set usb0 name {name}")

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -263,6 +264,10 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
     DisplayStatus status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
     if (previous)
         m_previous.*previous = status.isNews;
+    if (!status.balloonText.isEmpty() && m_with.mayTell && !m_with.mayTell(type)) {
+        status.balloonText.clear();
+        status.announcesUpdate = false;
+    }
     if (!status.image.isEmpty())
         m_image = status.image;
     m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
@@ -270,9 +275,19 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
     return status;
 }
 
-void NewsSequence::resetForReadyDevice()
+QList<int> NewsSequence::seenTypes() const
+{
+    QList<int> types;
+    std::ranges::copy_if(displayTypes, std::back_inserter(types),
+                         [this](int type) { return m_previous.*previousOf(type); });
+    return types;
+}
+
+void NewsSequence::resetForReadyDevice(const QList<int> &seenTypes)
 {
     stopProcModemStatus_ = false;
+    for (const int type : displayTypes)
+        m_previous.*previousOf(type) = seenTypes.contains(type);
     m_image.clear();
     m_shownImage.clear();
     m_toldClick.reset();

@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "ui/CompanionStatus.h"
 
+#include <QList>
 #include <QString>
 
 #include <atomic>
@@ -50,6 +51,8 @@ public:
         std::function<void(const StandingNews &news)> told{};
         /// Told when a sequence ended and the icon's click opens another page than was last told.
         std::function<void()> clickChanged{};
+        /// Asked before news of a display type are told. @return whether they may be; empty means that they always may
+        std::function<bool(int type)> mayTell{};
     };
 
     /// Nothing has been shown, and there is no device yet.
@@ -85,8 +88,11 @@ public:
     /// @return whether there is no device whose news could be told
     bool stopProcModemStatus() const { return stopProcModemStatus_; }
 
+    /// @return the display types whose news stood when they were evaluated last (main thread, when no work is under way)
+    QList<int> seenTypes() const;
     /// A device became ready: its news may be told (main thread, when no work is under way).
-    void resetForReadyDevice();
+    /// @param seenTypes  those of whose news it has been told already
+    void resetForReadyDevice(const QList<int> &seenTypes = {});
     /// The device is gone: what is shown of it ends, and nothing has been shown of the next one (main thread, when no work
     /// is under way).
     void resetForStop();

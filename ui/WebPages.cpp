@@ -27,12 +27,13 @@ QString serverOf(const QString &router)
 } // namespace
 
 WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
-                   CouldNotOpen couldNotOpen)
+                   CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself)
     : m_workspace(workspace)
     , m_snapshot(snapshot)
     , m_mainThread(mainThread)
     , m_router(std::move(router))
     , m_couldNotOpen(std::make_shared<const CouldNotOpen>(std::move(couldNotOpen)))
+    , m_mayOpenByItself(std::move(mayOpenByItself))
 {
 }
 
@@ -154,10 +155,13 @@ bool WebPages::needsUserForApn(ModemClient &client, const WebUIFields &fields)
 
 void WebPages::openWebUIOnce(const Work &work)
 {
-    bool first = false;
-    work.whileAttached([&] { first = !hasOpenedWebUI_.exchange(true); });
-    if (first)
-        openPageFor(work, configurationText(u"OperatorHomePage"_s).value_or(serverOf(work.router())));
+    const QString page = configurationText(u"OperatorHomePage"_s).value_or(serverOf(work.router()));
+    // Counted only when it happens: a step whose work ends before that is dropped, and the next attachment opens them.
+    work.post(m_mainThread, [this, page] {
+        const bool first = !hasOpenedWebUI_.exchange(true);
+        if (first && (!m_mayOpenByItself || m_mayOpenByItself()))
+            openPage(page);
+    });
 }
 
 void WebPages::checkModemMainState(ModemClient &client, const QString &content)
@@ -181,9 +185,9 @@ void WebPages::setClickTargets(std::optional<bool> updatePage, std::optional<boo
     openDateLimitUrlWhileHasLimit_ = limitPage.value_or(openDateLimitUrlWhileHasLimit_);
 }
 
-void WebPages::reset()
+void WebPages::reset(bool hasOpenedWebUI)
 {
-    hasOpenedWebUI_ = false;
+    hasOpenedWebUI_ = hasOpenedWebUI;
     m_loggedNeed.reset();
     openUpdateUrlWhileHasNewVersion_ = false;
     openDateLimitUrlWhileHasLimit_ = false;

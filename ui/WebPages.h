@@ -28,10 +28,13 @@ public:
     /// Told of a page that could not be opened, on the main thread; perhaps some seconds after it was asked for.
     using CouldNotOpen = std::function<void(const QString &page)>;
 
+    /// Asked on the main thread before the modem's pages open by themselves. @return whether they may
+    using MayOpenByItself = std::function<bool()>;
+
     /// Everything referred to outlives this object.
     /// @param mainThread  carries the opening of pages to the main thread
     WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
-             CouldNotOpen couldNotOpen);
+             CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself = {});
 
     /// The icon's click: opens the page that the news calls for.
     void openHomepage();
@@ -67,8 +70,9 @@ public:
     /// @return whether data-limit news call for their page; a click does not ask
     bool openDateLimitUrlWhileHasLimit() const { return openDateLimitUrlWhileHasLimit_; }
 
-    /// The device is another one, or gone: no page has been opened for it, when no work is under way.
-    void reset();
+    /// The device is another one, or gone, when no work is under way.
+    /// @param hasOpenedWebUI  whether the modem's pages have opened by themselves for it
+    void reset(bool hasOpenedWebUI = false);
 
     /// @return the application that `openApp` starts
     QString getAppPath() const;
@@ -94,6 +98,7 @@ private:
     StepQueue &m_mainThread;
     const Router m_router;
     const std::shared_ptr<const CouldNotOpen> m_couldNotOpen; ///< a page that fails after our end tells nobody
+    const MayOpenByItself m_mayOpenByItself; ///< empty when they always may
 
     std::atomic<bool> hasOpenedWebUI_{false}; ///< the modem's pages were opened by themselves
     std::atomic<bool> openUpdateUrlWhileHasNewVersion_{false}; ///< a click opens the firmware page

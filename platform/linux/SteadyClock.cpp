@@ -1,5 +1,7 @@
 #include "platform/linux/SteadyClock.h"
 
+#include <time.h>
+
 #include <condition_variable>
 #include <mutex>
 
@@ -8,6 +10,13 @@ namespace tarvo {
 Clock::TimePoint SteadyClock::now() const
 {
     return std::chrono::steady_clock::now();
+}
+
+Clock::TimePoint SteadyClock::nowAlsoAsleep() const
+{
+    timespec time{};
+    clock_gettime(CLOCK_BOOTTIME, &time);
+    return TimePoint(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
 }
 
 bool SteadyClock::waitUntil(TimePoint deadline, std::stop_token stop)

@@ -48,6 +48,10 @@ DemoWorld::Companion::Companion(DemoWorld &world)
           .terminate = [] { QCoreApplication::quit(); },
           .notifications = &notifications,
           .deviceName = [](const QString &) { return deviceName; },
+          .identityOf =
+              [&world](const QString &name) {
+                  return InterfaceIdentity{static_cast<int>(world.m_registry.serviceMatchingBSDName(name))};
+              },
           .openSettings = [&world] { world.m_setup->open(); },
           .isScreenComposited = isScreenComposited,
       })

@@ -58,7 +58,6 @@ TEST_F(Companion, ASecondReadyReportTakesOverWithoutASecondTick)
     tick(modem, 1);
     EXPECT_TRUE(eventually([&] { return controller.pages().hasOpenedWebUI(); }));
     network.setIPv4(u"en5"_s, other.server.authority());
-    EXPECT_FALSE(controller.pages().hasOpenedWebUI());
     tick(other, 1);
     tick(other, 2);
     EXPECT_EQ(modem.device.requests(statusPagePath).size(), 1);
@@ -168,6 +167,29 @@ TEST_F(Companion, AReadyReportAfterWakeClearsWhatTheSleepHasSet)
     tick(modem, 1);
     tick(modem, 2);
     EXPECT_EQ(modem.device.requests(statusPagePath).size(), 2);
+}
+
+TEST_F(Companion, LeavesTheModemAloneWhileAnotherSessionIsOnTheScreen)
+{
+    const auto starts = [&] { return systemLog.count(u"startGetModemInfo"_s); };
+    plugIn(modem);
+    tick(modem, 1);
+    workspace.setActive(false);
+    workspace.setActive(false);
+    EXPECT_EQ(systemLog.count(u"DeviceRemoved,stopGetModemStatus"_s), 1);
+    EXPECT_EQ(shownImage(), u"ready"_s);
+    network.setIPv4(u"en5"_s, u"127.0.0.2"_s);
+    network.setIPv4(u"en5"_s, modem.server.authority());
+    workspace.sleep();
+    workspace.wake();
+    EXPECT_EQ(starts(), 1) << "neither a report nor wake";
+    workspace.sleep();
+    workspace.setActive(true);
+    EXPECT_EQ(starts(), 1) << "asleep all the same";
+    workspace.wake();
+    EXPECT_EQ(starts(), 2);
+    tick(modem, 2);
+    EXPECT_EQ(systemLog.count(u"machineWillSleep"_s), 2);
 }
 
 TEST_F(Companion, AFailedPassIsLoggedAndTheNextOneIsTried)

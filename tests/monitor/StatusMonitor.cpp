@@ -56,7 +56,7 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
         EXPECT_EQ(Known(shown.answering, shown.obstacle), known);
     }
     monitor.noteAnswer(client.work(), busy);
-    monitor.resetForReadyDevice();
+    monitor.resetForReadyDevice(false);
     EXPECT_EQ(monitor.snapshot().get().answering, std::nullopt);
     EXPECT_EQ(monitor.snapshot().get().obstacle, std::nullopt);
 }

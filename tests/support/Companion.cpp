@@ -69,7 +69,15 @@ QVariantMap usualSettings()
 }
 
 Companion::Companion()
-    : controller(configured({store, registry, workspace, statusBar, clock, systemLog, {}, {}}))
+    : controller(configured({.dynamicStore = store,
+                             .deviceRegistry = registry,
+                             .workspace = workspace,
+                             .statusBar = statusBar,
+                             .clock = clock,
+                             .systemLog = systemLog,
+                             .socketBinderFor = {},
+                             .terminate = {},
+                             .identityOf = [this](const QString &name) { return identities.value(name); }}))
 {
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
@@ -77,6 +85,7 @@ Companion::Companion()
 
 void Companion::plugIn(const Modem &which, const QString &name)
 {
+    identities[name] = {++lastIndex, hardwareAddress};
     registry.addModem(name, 4660, 1);
     network.addInterface(name);
     network.setIPv4(name, which.server.authority());

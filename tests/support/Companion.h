@@ -13,6 +13,7 @@
 #include "simulator/SimulatedStatusBar.h"
 #include "simulator/SimulatedWorkspace.h"
 
+#include <QMap>
 #include <QVariantMap>
 
 #include <gtest/gtest.h>
@@ -75,6 +76,9 @@ struct Companion : testing::Test {
     SimulatedStatusBar statusBar;
     ManualClock clock;
     RecordingLog systemLog;
+    QString hardwareAddress; ///< of the modems that are plugged in next; empty when they have none
+    QMap<QString, InterfaceIdentity> identities;
+    int lastIndex = 0;
     MainController controller;
 };
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/PlugIns.h"
+#include "ui/RecentDeeds.h"
+
+#include <QByteArray>
+#include <QList>
+
+namespace tarvo {
+
+/// What a program that starts over hands to the one that takes its place, so that nothing is done twice for a modem that
+/// stays plugged in.
+struct HandOver {
+    QList<PlugIn> plugIns{};
+    QList<RecentDeeds::Deed> deeds{};
+
+    bool operator==(const HandOver &) const = default;
+};
+
+/// @return @p handOver as one line of text
+QByteArray toText(const HandOver &handOver);
+
+/// @return what @p text says; without the items that cannot be, and nothing of a text that is too long or none of ours
+HandOver readHandOver(const QByteArray &text);
+
+} // namespace tarvo
