@@ -118,9 +118,7 @@ void MainController::attach()
 {
     m_attachment.reset();
     m_provisioner.resume(m_provisioner.progress()); // what was cut off begins anew
-    if (!m_device.location())
-        return;
-    m_attachment = std::make_unique<Attachment>(*m_device.location(), m_threads);
+    m_attachment = std::make_unique<Attachment>(m_device.location().value_or(ModemLocation()), m_threads);
     m_poller.start(m_attachment->work());
     detect();
 }

@@ -140,7 +140,7 @@ void MainController::applicationDidFinishLaunching()
 void MainController::detect()
 {
     const auto unknown = m_unknownModems ? m_unknownModems->first() : std::nullopt;
-    if (m_attachment)
+    if (router())
         m_display.setDetection(Detection::Attached);
     else if (routerObserver_ && routerObserver_->hasSupportedInterface())
         waitForModem();
@@ -217,7 +217,8 @@ void MainController::snapshotEvaluated(const Work &work)
 
 std::optional<QString> MainController::router() const
 {
-    return m_attachment ? std::optional(m_attachment->work().router()) : std::nullopt;
+    const QString router = m_attachment ? m_attachment->work().router() : QString();
+    return router.isEmpty() ? std::nullopt : std::optional(router);
 }
 
 void MainController::log(const QString &line) const

@@ -66,7 +66,7 @@ void Poller::timerHandler(const std::shared_ptr<RepeatingTimer> &timer, std::uni
 {
     bool ours = false;
     work.whileAttached([&] { ours = timer == modemStatusTimer_; });
-    if (!ours)
+    if (!ours || work.router().isEmpty())
         return;
     try {
         if (!client)

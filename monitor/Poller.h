@@ -34,7 +34,7 @@ public:
     Poller(Clock &clock, SystemLog &systemLog, Steps steps);
     ~Poller();
 
-    /// Starts a worker for @p work; tries again every second while the system has no thread to give (main thread).
+    /// Starts a worker for @p work, which asks nobody where the modem's address is empty; tries again every second while the system has no thread to give (main thread).
     void start(const Work &work);
     /// Forgets the timer; the worker has been ended with its attachment (main thread).
     void stop();

@@ -169,6 +169,24 @@ TEST_F(Companion, AReadyReportAfterWakeClearsWhatTheSleepHasSet)
     EXPECT_EQ(modem.device.requests(statusPagePath).size(), 2);
 }
 
+TEST_F(Companion, WakeWithAReadyModemThatWasNeverReportedStartsAWorkerThatAsksNobody)
+{
+    network.addInterface(u"en5"_s);
+    network.setIPv4(u"en5"_s, modem.server.authority());
+    registry.addModem(u"en5"_s, 4660, 1);
+    workspace.sleep();
+    workspace.wake();
+    EXPECT_TRUE(eventually([&] { return systemLog.contains(u"start newUpdateStatus"_s); }));
+    for (int second = 0; second < 2; ++second) {
+        ASSERT_TRUE(clock.waitForSleepers(1));
+        clock.advance(1s);
+    }
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    EXPECT_EQ(shownImage(), u"online"_s);
+    EXPECT_NE(controller.display().status().detection, Detection::Attached);
+    EXPECT_FALSE(systemLog.contains(u"data is nil"_s));
+}
+
 TEST_F(Companion, LeavesTheModemAloneWhileAnotherSessionIsOnTheScreen)
 {
     const auto starts = [&] { return systemLog.count(u"startGetModemInfo"_s); };
