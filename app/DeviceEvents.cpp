@@ -93,6 +93,7 @@ void MainController::resetForReadyDevice(const PlugInState &done)
 void MainController::procInterfaceRemoved(const QString &bsdName)
 {
     log(bsdName);
+    m_hasNoGateway = false; // one that remains without a gateway is reported once more
     stopGetModemStatus();
 }
 

@@ -210,6 +210,19 @@ TEST_F(Companion, LeavesTheModemAloneWhileAnotherSessionIsOnTheScreen)
     EXPECT_EQ(systemLog.count(u"machineWillSleep"_s), 2);
 }
 
+TEST_F(Companion, AModemWithoutGatewayIsForgottenWithItsRemoval)
+{
+    registry.addModem(u"en5"_s, 4660, 1);
+    registry.addModem(u"en6"_s, 4660, 1);
+    const auto detection = [&] { return controller.display().status().detection; };
+    network.addInterface(u"en5"_s);
+    network.setIPv4(u"en5"_s, std::nullopt);
+    EXPECT_EQ(detection(), Detection::NoGateway);
+    network.addInterface(u"en6"_s);
+    unplug();
+    EXPECT_EQ(detection(), Detection::WaitingForAddress) << "the other one has no address yet";
+}
+
 TEST_F(Companion, AFailedPassIsLoggedAndTheNextOneIsTried)
 {
     modem.server.setFault({FaultKind::CloseAtOnce});
