@@ -32,17 +32,22 @@ QStringList captures(const QString &expression, const QString &text)
     return found;
 }
 
-/// @return the names of the texts that the product's sources use
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QString::fromUtf8(file.readAll());
+}
+
+/// @return the names of the texts that the companion's sources use
 QStringList usedKeys()
 {
     QString sources;
     for (const QString &folder : {u"ui"_s, u"monitor"_s, u"app"_s}) {
-        QDirIterator files(QStringLiteral(TARVO_SOURCES "/") + folder, {u"*.cpp"_s});
-        while (files.hasNext()) {
-            QFile file(files.next());
-            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            sources += QString::fromUtf8(file.readAll());
-        }
+        QDirIterator files(QStringLiteral(TARVO_SOURCES "/") + folder, {u"*.cpp"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext())
+            sources += textOf(files.next());
     }
     QStringList keys = captures(u"qtTrId\\(\"(\\w+)\"[,)]"_s, sources);
     keys.removeDuplicates();
@@ -54,7 +59,8 @@ QStringList usedKeys()
 TEST(Translations, SayEveryTextInEveryLanguage)
 {
     const QStringList keys = usedKeys();
-    ASSERT_GE(keys.size(), 14);
+    const QString english = textOf(QStringLiteral(TARVO_SOURCES "/resources/translations/tarvo_en.ts"));
+    EXPECT_EQ(keys, captures(u"<message id=\"(\\w+)\""_s, english));
     std::map<QString, QStringList> placeholders; // of the first language
     for (const char *language : {"en", "ar", "de", "es", "fr", "it", "ja", "pl", "pt_BR", "ru", "zh_CN"}) {
         QTranslator translator;
