@@ -139,7 +139,7 @@ int ApnProvisioner::getDefaultApnIndex(ModemClient &client, const std::optional<
     for (const QString &problem : choice.problems)
         client.log(problem);
     if (choice.isUnknown) {
-        const bool hasIt = taken.contains(ListedApn{*name, notFoundApnIndex});
+        const bool hasIt = m_resumes && taken.contains(ListedApn{*name, notFoundApnIndex});
         client.work().whileAttached([&] {
             notFoundDefaultApn_.replace(u"PC_PROFILE_NAME"_s, *name);
             if (hasIt)
@@ -208,13 +208,10 @@ void ApnProvisioner::setAllApnFromPC(ModemClient &client)
 void ApnProvisioner::complete(ModemClient &client, const QStringList &missing,
                               const std::optional<QStringList> &records, QList<ListedApn> listed)
 {
-    const auto owesDefault = [&](bool owes) {
-        client.work().whileAttached([&] {
-            m_owesDefault = owes;
-            notFoundDefaultApn_ = notFoundApnTemplate(); // one that went away in the middle leaves its default's name
-        });
-    };
-    owesDefault(true);
+    client.work().whileAttached([this] {
+        m_resumes = m_owesDefault.exchange(true);
+        notFoundDefaultApn_ = notFoundApnTemplate(); // one that went away in the middle leaves its default's name
+    });
     for (const QString &record : missing) {
         if (client.work().isOver())
             return;
@@ -224,7 +221,8 @@ void ApnProvisioner::complete(ModemClient &client, const QStringList &missing,
     const int index = getDefaultApnIndex(client, records, listed);
     if (client.work().isOver())
         return;
-    owesDefault(!setDefaultApn(client, index));
+    const bool isSet = setDefaultApn(client, index);
+    client.work().whileAttached([&] { m_owesDefault = !isSet; });
 }
 
 } // namespace tarvo

@@ -171,7 +171,7 @@ TEST_F(Provisioning, ARefusedReadyMarkIsTriedAgainThreeTimesAndThenOnceAMinute)
     for (int plug = 0; plug < 2; ++plug) {
         modem.device.clearRequests();
         plugIn(modem);
-        for (int second = 1; second <= 64; ++second)
+        for (int second = 1; second <= 63; ++second)
             tick(modem, second);
         ASSERT_TRUE(clock.waitForSleepers(1));
         EXPECT_EQ(modem.device.requests(ready).size(), 4) << "in the first three seconds, and in the 63rd";

@@ -1,5 +1,6 @@
 #include "apn/ProfileDecoding.h"
 
+#include "apn/ProfileFile.h"
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
 
@@ -50,6 +51,8 @@ TEST(ProfileDecoding, ADamagedFileHasNoText)
     changed[200] = static_cast<char>(changed[200] ^ 1);
     const QByteArray halfCharacter = folder.signer().makeRecord("\xc3").value();
     const QByteArray twoTexts = folder.signer().makeRecord(QByteArrayView("a\0b", 3)).value();
+    EXPECT_EQ(decodeProfile(good + twoTexts, folder.signer().publicKey()).problem,
+              u"record 4 holds no UTF-8 text alone"_s);
     for (const QByteArray &bytes :
          {good + 'x', good.chopped(2), changed, halfCharacter, twoTexts, QByteArray(130, '\xff')}) {
         folder.write(u"a.xml"_s, bytes);

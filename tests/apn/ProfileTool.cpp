@@ -138,13 +138,19 @@ TEST_F(Tool, SealsAFolder)
     folder.add(u"profile.xml"_s, u"A"_s);
     folder.add(u"A.xml"_s, record);
     const QStringList check{u"check"_s, folder.path({})};
+    const auto publicHalf = [](QString key) { return key.replace(u"-NOT-SECRET"_s, u".public"_s); };
+    const QStringList demand = check + QStringList{u"--seal-key"_s, publicHalf(QStringLiteral(TARVO_DEMO_SEAL_KEY))};
     EXPECT_EQ(run(check), 0);
+    EXPECT_EQ(run(demand), 1) << "there is none";
+    EXPECT_EQ(run(check + QStringList{u"--seal-key"_s, publicHalf(QStringLiteral(TARVO_DEMO_PRIVATE_KEY))}), 1);
+    EXPECT_TRUE(errors.contains("it holds no Ed25519 public key"));
     EXPECT_EQ(run({u"seal"_s, folder.path({})}), 2);
     EXPECT_EQ(run({u"seal"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_PRIVATE_KEY), folder.path({})}), 1);
     EXPECT_TRUE(errors.contains("it is no Ed25519 key"));
     EXPECT_EQ(run({u"seal"_s, u"--key"_s, QStringLiteral(TARVO_DEMO_SEAL_KEY), folder.path({})}), 0);
     EXPECT_EQ(run(check), 0);
     EXPECT_TRUE(output.startsWith("profile.sig: in order\n"));
+    EXPECT_EQ(run(demand), 0);
     folder.add(u"A.xml"_s, record + u' ');
     EXPECT_EQ(run(check), 1);
 }

@@ -93,7 +93,7 @@ class FaultsTest(companion_test.Companion):
         posts = [r["body"] for r in requests if r["method"] == "POST"]
         self.assertEqual(len(posts), len(set(posts)), "sent a form twice")
         once = [form.split("=")[1].split("&")[0] for form in posts if "PC_APN_READY_SET" not in form]
-        if part == KINDS["session"]:
+        if part in (KINDS["session"], KINDS["set"]):  # no default follows a record that the modem has not taken
             self.assertEqual(len(once), len(set(once)), "sent a command twice")
         else:
             self.assertEqual(once, ["ADD_APN", "SET_DEFAULT_APN"])
