@@ -84,8 +84,10 @@ TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
     const auto workspace = startWorkspace();
     ASSERT_TRUE(waitFor([&] { return log_.contains(u"no system bus: sleep and wake are not noticed"_s); }));
     QDir(folder_.path()).mkdir(u"run"_s);
+    const auto complaints = [this] { return log_.lines().filter(u"logind does not answer Get: "_s).size(); };
     for (const char *start : {"late", "again"}) {
         startBus();
+        ASSERT_TRUE(waitFor([&] { return complaints() == 1; })) << start;
         logind_ = std::make_unique<SimulatedLogind>(address_);
         ASSERT_TRUE(becomes(true)) << start;
         logind_->prepareForSleep(true);
@@ -98,6 +100,7 @@ TEST_F(LogindWorkspaceTest, FindsBusAndLogindThatComeLateOrAgain)
         bus_.reset();
     }
     EXPECT_EQ(log_.count(u"no system bus: sleep and wake are not noticed"_s), 1);
+    EXPECT_EQ(complaints(), 1);
 }
 
 TEST_F(LogindWorkspaceTest, WaitsNeitherForTheBusNorForLogind)
