@@ -3,6 +3,7 @@
 #include "platform/Background.h"
 #include "platform/linux/WebBrowsers.h"
 #include "simulator/SimulatedNotificationService.h"
+#include "tests/platform/Panels.h"
 #include "tests/support/VirtualDesktop.h"
 
 #include <QDBusMessage>
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -73,6 +75,9 @@ TEST(DesktopFactsReader, TellsWhatTheDesktopOffers)
     SimulatedNotificationService notifications;
     notifications.start();
     EXPECT_EQ(elsewhere<DesktopFacts>(read), (DesktopFacts{false, true, true, true}));
+    QWindow tray;
+    takeTraySelection(tray);
+    EXPECT_EQ(elsewhere<DesktopFacts>(read), (DesktopFacts{true, true, true, true}));
 }
 
 TEST(DesktopFactsReader, ActivatesAnActionOfARunningApplication)
