@@ -23,6 +23,9 @@ public:
     /// everybody on the bus. Returns when the bus has passed it on.
     void setSession(std::optional<bool> active);
 
+    /// Sends @p signal to everybody on the bus. Returns when the bus has passed it on.
+    void tell(const QDBusMessage &signal);
+
     /// From now on no call is answered.
     void fallSilent() { m_silent = true; }
 
@@ -37,7 +40,6 @@ public:
 private:
     QDBusMessage answerTo(const QDBusMessage &question);
     QDBusUnixFileDescriptor lendLock();
-    void tell(const QDBusMessage &signal);
 
     QDBusConnection m_bus;
     int m_lock = -1;

@@ -65,6 +65,10 @@ TEST_F(LogindWorkspaceTest, HoldsTheMachineUntilTheHandlersHaveReturned)
     ASSERT_TRUE(becomes(true));
 
     SimulatedLogind stranger(address_, false);
+    auto forged =
+        QDBusMessage::createSignal(u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s);
+    forged << u"org.freedesktop.login1"_s << u""_s << u":1.99"_s;
+    stranger.tell(forged);
     stranger.prepareForSleep(true);
     logind_->prepareForSleep(false);
     for (const int night : {1, 2}) {

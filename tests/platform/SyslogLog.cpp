@@ -89,6 +89,7 @@ TEST(SyslogLog, NeitherWaitsNorDiesWhereNobodyTakesItsLines)
 
 TEST(SyslogLog, TellsHowManyLinesWereLostBeforeSyslogCame)
 {
+    SyslogLog(QByteArray(200, 'x')).write(u"for a path that no socket can have"_s);
     const QTemporaryDir folder;
     const QByteArray path = folder.filePath(u"log"_s).toUtf8();
     SyslogLog log(path);
