@@ -108,6 +108,8 @@ TEST_F(NetlinkDynamicStoreTest, FollowsAddressesRoutesAndLinks)
         ip(commands);
         EXPECT_TRUE(waitFor([this, &wanted = expected] { return router() == wanted; }))
             << commands.toStdString() << ": " << router().toStdString();
+        const QVariantMap order = m_session->copyValue(store::globalIPv4SetupKey).value_or(QVariantMap());
+        EXPECT_EQ(order.value(store::kSCPropNetServiceOrder).toList().contains(u"en5"_s), expected != u"no service"_s);
     }
 }
 
