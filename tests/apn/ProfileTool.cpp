@@ -102,7 +102,7 @@ TEST_F(Tool, PacksWhatTheCompanionReads)
     EXPECT_EQ(run({u"pack"_s, folder.path(u"a.json"_s)}), 2);
     const FullDisk full;
     EXPECT_EQ(run(pack + QStringList{folder.path(u"a.json"_s)}), 1);
-    EXPECT_TRUE(tool.readAllStandardError().contains("A.xml: "));
+    EXPECT_TRUE(errors.contains("A.xml: "));
     EXPECT_EQ(decryptApnFile(packed), record) << "and nothing was written over";
 }
 

@@ -5,6 +5,7 @@ Exit status 77: no network namespaces can be made here.
 """
 
 import json
+import os
 import pathlib
 import socket
 import stat
