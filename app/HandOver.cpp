@@ -1,6 +1,6 @@
 #include "app/HandOver.h"
 
-#include "ui/DisplayStatus.h"
+#include "status/DisplayStatus.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/PlugIns.h"
-#include "ui/RecentDeeds.h"
+#include "ui/news/RecentDeeds.h"
 
 #include <QByteArray>
 #include <QList>

@@ -4,7 +4,7 @@
 #include "app/Services.h"
 #include "attachment/Attachment.h"
 #include "platform/Clock.h"
-#include "ui/StatusRows.h"
+#include "status/StatusRows.h"
 
 #include <QtGlobal>
 

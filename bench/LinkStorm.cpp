@@ -1,8 +1,8 @@
 // Storms of 2,000 pairs of links beside a modem's, in the network namespace that it is started in: what following them
 // costs the product, and a listener that only parses the same messages; and how late the modem's own change is told.
 #include "bench/NoLog.h"
-#include "platform/linux/LeaseFiles.h"
-#include "platform/linux/NetlinkDynamicStore.h"
+#include "platform/linux/network/LeaseFiles.h"
+#include "platform/linux/network/NetlinkDynamicStore.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 // Stands in for a panel: owns the X server's system tray, and prints when an icon asks to be docked, in nanoseconds of
 // CLOCK_MONOTONIC (freedesktop.org, "System Tray Protocol").
-#include "platform/linux/XScreen.h"
+#include "platform/linux/x11/XScreen.h"
 
 #include <cstdio>
 #include <ctime>

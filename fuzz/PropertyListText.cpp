@@ -1,6 +1,6 @@
-#include "setup/PropertyListText.h"
+#include "setup/text/PropertyListText.h"
 
-#include "setup/SettingKeys.h"
+#include "setup/settings/SettingKeys.h"
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
-#include "platform/linux/RouteMessages.h"
+#include "platform/linux/network/RouteMessages.h"
 
-#include "platform/linux/LinkEntries.h"
+#include "platform/linux/network/LinkEntries.h"
 
 #include <QStringList>
 

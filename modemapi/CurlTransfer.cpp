@@ -202,7 +202,8 @@ CURLcode CurlTransfer::perform(const std::stop_token &stop)
     while (state == CURLM_OK && running > 0 && !stop.stop_requested()) {
         state = curl().multi_perform(m_multi.get(), &running);
         if (state == CURLM_OK && running > 0)
-            state = curl().multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(HttpClient::timeout.count()), nullptr);
+            state =
+                curl().multi_poll(m_multi.get(), nullptr, 0, static_cast<int>(HttpClient::timeout.count()), nullptr);
     }
     CURLcode result = CURLE_ABORTED_BY_CALLBACK;
     int queued = 0;

@@ -1,6 +1,6 @@
 #include "setup/window/ChecksPage.h"
 
-#include "setup/Report.h"
+#include "setup/command/Report.h"
 #include "setup/window/Buttons.h"
 #include "setup/window/Marks.h"
 #include "setup/window/TitledItems.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "setup/Chain.h"
+#include "setup/checks/Chain.h"
 
 #include <QWidget>
 

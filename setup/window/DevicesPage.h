@@ -1,6 +1,6 @@
 #pragma once
 
-#include "setup/Report.h"
+#include "setup/command/Report.h"
 
 #include <QList>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "setup/window/SettingField.h"
 
 #include "RouterObserver/ConfigManager.h"
-#include "setup/SettingFindings.h"
+#include "setup/settings/SettingFindings.h"
 #include "setup/window/TitledItems.h"
 
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "setup/SettingKeys.h"
+#include "setup/settings/SettingKeys.h"
 
 #include <QVariant>
 #include <QWidget>

@@ -1,6 +1,6 @@
 #include "setup/window/SettingsPage.h"
 
-#include "setup/SettingKeys.h"
+#include "setup/settings/SettingKeys.h"
 #include "setup/window/Buttons.h"
 #include "setup/window/SettingField.h"
 

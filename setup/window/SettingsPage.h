@@ -1,7 +1,7 @@
 #pragma once
 
-#include "setup/Autostart.h"
-#include "setup/SettingStore.h"
+#include "setup/settings/Autostart.h"
+#include "setup/settings/SettingStore.h"
 
 #include <QVariantMap>
 #include <QWidget>

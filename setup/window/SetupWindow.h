@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/DynamicStore.h"
-#include "setup/SettingStore.h"
-#include "setup/Survey.h"
+#include "setup/checks/Survey.h"
+#include "setup/settings/SettingStore.h"
 
 #include <QHash>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include "simulator/demo/CompanionPanel.h"
 
 #include "simulator/demo/DemoWorld.h"
-#include "ui/CustomView.h"
+#include "ui/icon/CustomView.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include "apn/ProfileSelection.h"
 #include "apn/tool/FolderReport.h"
-#include "platform/linux/DesktopFactsReader.h"
+#include "platform/linux/desktop/DesktopFactsReader.h"
 #include "setup/window/SetupWindow.h"
 #include "simulator/demo/DemoWorld.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "setup/SetupServices.h"
-#include "setup/Survey.h"
+#include "setup/checks/SetupServices.h"
+#include "setup/checks/Survey.h"
 
 #include <memory>
 

@@ -3,7 +3,7 @@
 #include "RouterObserver/ConfigManager.h"
 #include "RouterObserver/SettingFile.h"
 #include "app/Services.h"
-#include "platform/linux/Compositing.h"
+#include "platform/linux/x11/Compositing.h"
 #include "simulator/demo/DemoSetup.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "simulator/demo/ObservedStatusBar.h"
 
-#include "ui/CustomView.h"
+#include "ui/icon/CustomView.h"
 
 #include <algorithm>
 #include <utility>

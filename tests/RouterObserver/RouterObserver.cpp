@@ -4,9 +4,9 @@
 #include "RouterObserver/SettingsProblem.h"
 #include "RouterObserver/UnknownModems.h"
 #include "platform/StateStore.h"
-#include "simulator/RecordingLog.h"
-#include "simulator/SimulatedDeviceRegistry.h"
-#include "simulator/SimulatedNetwork.h"
+#include "simulator/surroundings/RecordingLog.h"
+#include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedNetwork.h"
 #include "tests/support/PrintQt.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "apn/ProfileSelection.h"
 
 #include "apn/ProfileSeal.h"
-#include "simulator/RecordingLog.h"
+#include "simulator/surroundings/RecordingLog.h"
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/PrintQt.h"
 

@@ -1,8 +1,8 @@
-#include "simulator/ReceivedRequest.h"
+#include "simulator/modem/ReceivedRequest.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
-#include "ui/CustomView.h"
-#include "ui/OvAttachedWindow.h"
+#include "ui/balloon/OvAttachedWindow.h"
+#include "ui/icon/CustomView.h"
 
 #include <QApplication>
 

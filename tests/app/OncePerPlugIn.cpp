@@ -1,8 +1,8 @@
 #include "app/HandOver.h"
-#include "simulator/ReceivedRequest.h"
+#include "simulator/modem/ReceivedRequest.h"
+#include "status/DisplayStatus.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
-#include "ui/DisplayStatus.h"
 
 #include <QApplication>
 #include <QMenu>

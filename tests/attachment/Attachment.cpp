@@ -2,7 +2,7 @@
 
 #include "attachment/ThreadGroup.h"
 #include "platform/StepQueue.h"
-#include "simulator/RecordingLog.h"
+#include "simulator/surroundings/RecordingLog.h"
 #include "tests/support/PrintQt.h"
 
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 #include "modemapi/HttpClient.h"
 
 #include "modemapi/Obstacle.h"
-#include "simulator/ModemServer.h"
-#include "simulator/ReceivedRequest.h"
-#include "simulator/SimulatedModem.h"
+#include "simulator/modem/ModemServer.h"
+#include "simulator/modem/ReceivedRequest.h"
+#include "simulator/modem/SimulatedModem.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 

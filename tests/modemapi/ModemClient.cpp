@@ -1,7 +1,7 @@
 #include "modemapi/ModemClient.h"
 
 #include "modemapi/ConnectionStatus.h"
-#include "simulator/ReceivedRequest.h"
+#include "simulator/modem/ReceivedRequest.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 

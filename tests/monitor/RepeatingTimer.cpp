@@ -1,6 +1,6 @@
 #include "monitor/RepeatingTimer.h"
 
-#include "simulator/ManualClock.h"
+#include "simulator/surroundings/ManualClock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tests/platform/Panels.h"
 
-#include "platform/linux/XScreen.h"
+#include "platform/linux/x11/XScreen.h"
 #include "tests/support/VirtualDesktop.h"
 
 #include <QDBusConnection>

@@ -1,5 +1,5 @@
-#include "setup/Chain.h"
-#include "setup/SettingKeys.h"
+#include "setup/checks/Chain.h"
+#include "setup/settings/SettingKeys.h"
 
 #include <QDirIterator>
 #include <QFile>

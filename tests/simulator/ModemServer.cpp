@@ -1,6 +1,6 @@
-#include "simulator/ModemServer.h"
+#include "simulator/modem/ModemServer.h"
 
-#include "simulator/SimulatedModem.h"
+#include "simulator/modem/SimulatedModem.h"
 #include "tests/support/PrintQt.h"
 
 #include <QCryptographicHash>

@@ -1,11 +1,8 @@
 #include "tests/support/Companion.h"
 
 #include "RouterObserver/ConfigManager.h"
-#include "ui/CustomView.h"
+#include "ui/icon/CustomView.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QTest>
 
 #include <memory>
@@ -16,31 +13,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-/// The application that widgets need, and settings of the tests' own.
-class Application : public testing::Environment {
-public:
-    void SetUp() override
-    {
-        const QDir home(qEnvironmentVariable("XDG_CONFIG_HOME"));
-        home.mkpath(u"tarvo"_s);
-        QFile file(home.filePath(u"tarvo/Config.plist"_s));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(R"(<?xml version="1.0"?><plist version="1.0"><dict/></plist>)");
-        file.close();
-        m_application = std::make_unique<QApplication>(m_argc, m_argv);
-    }
-
-    void TearDown() override { m_application.reset(); }
-
-private:
-    char m_name[6] = "tests";
-    char *m_argv[2] = {m_name, nullptr};
-    int m_argc = 1;
-    std::unique_ptr<QApplication> m_application;
-};
-
-const auto *const application = testing::AddGlobalTestEnvironment(new Application);
 
 /// Makes the settings before the controller reads them.
 Services configured(Services services)

@@ -4,14 +4,14 @@
 #include "app/MainController.h"
 #include "modemapi/ModemClient.h"
 #include "platform/StateStore.h"
-#include "simulator/ManualClock.h"
-#include "simulator/ModemServer.h"
-#include "simulator/RecordingLog.h"
-#include "simulator/SimulatedDeviceRegistry.h"
-#include "simulator/SimulatedModem.h"
-#include "simulator/SimulatedNetwork.h"
-#include "simulator/SimulatedStatusBar.h"
-#include "simulator/SimulatedWorkspace.h"
+#include "simulator/modem/ModemServer.h"
+#include "simulator/modem/SimulatedModem.h"
+#include "simulator/surroundings/ManualClock.h"
+#include "simulator/surroundings/RecordingLog.h"
+#include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedNetwork.h"
+#include "simulator/surroundings/SimulatedStatusBar.h"
+#include "simulator/surroundings/SimulatedWorkspace.h"
 
 #include <QMap>
 #include <QVariantMap>

@@ -1,0 +1,116 @@
+#include "platform/linux/desktop/LogindSession.h"
+
+#include "platform/linux/bus/BusConnection.h"
+
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+
+#include <chrono>
+#include <utility>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString managerPath = u"/org/freedesktop/login1"_s;
+const QString managerInterface = u"org.freedesktop.login1.Manager"_s;
+const QString sessionInterface = u"org.freedesktop.login1.Session"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
+constexpr std::chrono::seconds grace{5};
+
+} // namespace
+
+LogindSession::LogindSession(BusConnection &bus, Handler changed)
+    : m_bus(bus)
+    , m_changed(std::move(changed))
+    , m_name(bus, u"org.freedesktop.login1"_s, [this](const QString &owner) { ownerChanged(owner); })
+{
+    m_grace.setSingleShot(true);
+    m_grace.setInterval(grace);
+    connect(&m_grace, &QTimer::timeout, this, [this] { setActive(true); });
+    m_bus.follow(
+        this, [this] { busFound(); }, [] {});
+}
+
+void LogindSession::busFound()
+{
+    m_followed.clear();
+    for (const char *const signal : {"SessionNew", "SessionRemoved"})
+        m_bus.subscribe(managerPath, managerInterface, QLatin1String(signal), this,
+                        SLOT(sessionsChanged(QDBusMessage)));
+}
+
+void LogindSession::ownerChanged(const QString &owner)
+{
+    m_owner = owner;
+    m_session.clear();
+    if (!owner.isEmpty())
+        findSession();
+    else if (!m_active)
+        m_grace.start();
+}
+
+void LogindSession::findSession()
+{
+    // A program that the user's service manager started is in no session: "auto" is then the one on the user's screen.
+    call(managerPath, managerInterface, u"GetSession"_s, {u"auto"_s}, [this](const QDBusMessage &answer) {
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            return followSession(answer.arguments().value(0).value<QDBusObjectPath>().path());
+        m_session.clear();
+        setActive(true);
+    });
+}
+
+void LogindSession::followSession(const QString &path)
+{
+    m_session = path;
+    if (!m_followed.contains(path)) {
+        m_followed.append(path);
+        m_bus.subscribe(path, propertiesInterface, u"PropertiesChanged"_s, this, SLOT(propertiesChanged(QDBusMessage)),
+                        sessionInterface);
+    }
+    readState();
+}
+
+void LogindSession::readState()
+{
+    call(m_session, propertiesInterface, u"Get"_s, {sessionInterface, u"Active"_s}, [this](const QDBusMessage &answer) {
+        const QVariant active = answer.arguments().value(0).value<QDBusVariant>().variant();
+        setActive(answer.type() != QDBusMessage::ReplyMessage || active.toBool());
+    });
+}
+
+void LogindSession::sessionsChanged(const QDBusMessage &signal)
+{
+    // Every user of the machine may send such signals.
+    if (signal.service() == m_owner)
+        findSession();
+}
+
+void LogindSession::propertiesChanged(const QDBusMessage &signal)
+{
+    if (signal.service() == m_owner && signal.path() == m_session)
+        readState();
+}
+
+void LogindSession::setActive(bool active)
+{
+    m_grace.stop();
+    if (std::exchange(m_active, active) != active)
+        m_changed(active);
+}
+
+void LogindSession::call(const QString &path, const QString &interface, const QString &method,
+                         const QVariantList &arguments, const Answer &answered)
+{
+    auto message = QDBusMessage::createMethodCall(m_owner, path, interface, method);
+    message.setArguments(arguments);
+    m_bus.call(message, this, [this, answered, owner = m_owner](const QDBusMessage &answer) {
+        if (owner == m_owner) // else it speaks of another logind than the present one
+            answered(answer);
+    });
+}
+
+} // namespace tarvo

@@ -1,0 +1,88 @@
+#include "setup/settings/Devices.h"
+
+#include "setup/settings/SettingKeys.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString hexadecimal(quint16 number)
+{
+    return u"%1"_s.arg(uint{number}, 4, 16, QChar(u'0'));
+}
+
+int progress(const Device &device)
+{
+    if (!device.network.gateway.isEmpty())
+        return 3;
+    if (!device.network.addresses.isEmpty())
+        return 2;
+    return device.network.isUp ? 1 : 0;
+}
+
+} // namespace
+
+QString Device::identifier() const
+{
+    return hexadecimal(usb.vendor) + u':' + hexadecimal(usb.product);
+}
+
+QString Device::name() const
+{
+    const QString names = QString(usb.vendorName + u' ' + usb.productName).simplified();
+    return names.isEmpty() ? identifier() : names;
+}
+
+Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings)
+{
+    if (identifiersAt(settings, exclusionsPath).contains(QString::number(device.product)))
+        return Support::Excluded;
+    const bool supported = identifiersAt(settings, vendorsPath).contains(QString::number(device.vendor));
+    return supported ? Support::Supported : Support::Unsupported;
+}
+
+QString supportText(Support support)
+{
+    switch (support) {
+    case Support::Supported:
+        return qtTrId("DeviceSupported");
+    case Support::Excluded:
+        return qtTrId("DeviceExcluded");
+    case Support::Unsupported:
+        return qtTrId("DeviceUnsupported");
+    }
+    return {};
+}
+
+std::optional<Device> deviceToCheck(const QList<Device> &devices)
+{
+    std::optional<Device> furthest;
+    for (const Device &device : devices) {
+        if (device.support == Support::Supported && (!furthest || progress(device) > progress(*furthest)))
+            furthest = device;
+    }
+    return furthest;
+}
+
+std::optional<DeviceId> deviceIdFrom(const QString &text)
+{
+    static const QRegularExpression form(u"^([0-9A-Fa-f]{1,4}):([0-9A-Fa-f]{1,4})$"_s);
+    const auto match = form.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return DeviceId{match.captured(1).toUShort(nullptr, 16), match.captured(2).toUShort(nullptr, 16)};
+}
+
+bool isNoModem(DeviceId device)
+{
+    return device.vendor == 0 || device.vendor == 0xffff || QString::number(device.vendor) == exampleVendor;
+}
+
+} // namespace tarvo

@@ -1,0 +1,309 @@
+#include "ui/news/NewsSequence.h"
+
+#include "RouterObserver/ConfigManager.h"
+#include "attachment/Latch.h"
+#include "modemapi/StatusSnapshot.h"
+#include "platform/StepQueue.h"
+#include "platform/SystemLog.h"
+#include "status/DisplayStatus.h"
+#include "ui/balloon/BalloonPresenter.h"
+#include "ui/icon/StatusIcon.h"
+#include "ui/look/Images.h"
+#include "ui/pages/WebPages.h"
+#include "ui/windows/UpdateAlert.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <memory>
+#include <utility>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto perType = 2s; // from one type to the next, besides what is told of it
+
+} // namespace
+
+NewsSequence::NewsSequence(Surroundings surroundings)
+    : m_with(std::move(surroundings))
+{
+}
+
+NewsSequence::~NewsSequence() = default;
+
+void NewsSequence::mouseEnteredHandle(const Work *work)
+{
+    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || startDisplayFlowing()) {
+        m_with.systemLog.write(u"already dislaystatus or no need display"_s);
+        return;
+    }
+    statusDisplayFlowFinishFlag_ = false;
+    if (work) {
+        start(*work);
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    begin(m_with.clock.now());
+}
+
+void NewsSequence::startDisPlayUIStatusThread(const Work &work)
+{
+    statusDisplayFlowFinishFlag_ = statusDisplayFlowFinishFlag(); // one without a thread ends by itself
+    work.whileAttached([this] { m_overrunTold = false; });
+    start(work);
+}
+
+void NewsSequence::showNormalState(const Work &work)
+{
+    const QString normal = u"online"_s;
+    bool changed = false;
+    work.whileAttached([&] {
+        changed = std::exchange(m_shownImage, normal) != normal;
+        m_image = normal;
+    });
+    if (changed)
+        work.post(m_with.mainThread, [this, normal] { m_with.icon.setStatusImage(normal); });
+}
+
+bool NewsSequence::startDisplayFlowing() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return isFlowing(m_with.clock.now());
+}
+
+bool NewsSequence::isFlowing(Clock::TimePoint now) const
+{
+    return startDisplayFlowing_ && (m_hasThread || now < m_emptySequenceEnds);
+}
+
+void NewsSequence::begin(Clock::TimePoint now)
+{
+    startDisplayFlowing_ = true;
+    m_emptySequenceEnds = now + perType * displayTypes.size();
+}
+
+NewsSequence::Rest NewsSequence::restAt(Clock::TimePoint now) const
+{
+    const auto left = static_cast<std::size_t>((m_emptySequenceEnds - now) / perType);
+    return {std::span(displayTypes).last(left), m_emptySequenceEnds - perType * left};
+}
+
+void NewsSequence::start(const Work &work)
+{
+    Rest rest{};
+    work.whileAttached([&] { rest = restToTell(work); });
+    if (!rest.types.empty() && !work.start([this, rest](const Work &own) { displayUIStatus(own, rest); }))
+        endSequence();
+}
+
+NewsSequence::Rest NewsSequence::restToTell(const Work &work)
+{
+    const std::scoped_lock lock(m_mutex);
+    if (m_hasThread)
+        return {};
+    const Clock::TimePoint now = m_with.clock.now();
+    const bool begins = !isFlowing(now);
+    if (begins)
+        begin(now);
+    const Rest rest = restAt(now);
+    const StatusSnapshot snapshot = m_with.snapshot.get(); // what is found without news is evaluated, and no later one
+    m_hasThread = hasNews(snapshot, rest.types);
+    if (m_hasThread)
+        return rest;
+    if (begins) {
+        for (const int type : displayTypes)
+            evaluate(snapshot, type);
+        showEnd(work);
+    }
+    return {};
+}
+
+bool NewsSequence::hasNews(const StatusSnapshot &snapshot, std::span<const int> types) const
+{
+    return !stopProcModemStatus_ && std::ranges::any_of(types, [&](int type) {
+        return !evaluateDisplayType(snapshot, type, m_previous.*previousOf(type)).balloonText.isEmpty();
+    });
+}
+
+void NewsSequence::displayUIStatus(const Work &work, const Rest &rest)
+{
+    m_with.clock.waitUntil(rest.begins, work.stopToken());
+    for (const int type : rest.types)
+        displayNews(work, type);
+    work.whileAttached([&] { showEnd(work); });
+    endSequence();
+}
+
+void NewsSequence::endSequence()
+{
+    statusDisplayFlowFinishFlag_ = true;
+    const std::scoped_lock lock(m_mutex);
+    startDisplayFlowing_ = false;
+    m_hasThread = false;
+}
+
+void NewsSequence::displayNews(const Work &work, int type)
+{
+    const std::stop_token gone = deviceGone();
+    DisplayStatus status;
+    work.whileAttached([&] { status = evaluate(m_with.snapshot.get(), type); });
+    if (!status.balloonText.isEmpty()) {
+        statusDisplayFlowFinishFlag_ = false;
+        if (showBalloon(work, gone, status, type)) {
+            pause(gone, 3s);
+            closeBalloon(gone);
+        }
+    }
+    pause(work.stopToken(), perType);
+}
+
+BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image, int type) const
+{
+    constexpr int imageSize = 64;
+    return {.kind = u"news %1"_s.arg(type),
+            .title = news.page == Page::Firmware ? qtTrId("updateTitleTip") : qtTrId("NewsTitleDataLimit"),
+            .image = imageNamed(image).pixmap(imageSize).toImage(),
+            .openLabel = m_with.pages.canOpen(news.page) ? qtTrId("NewsOpen") : QString(),
+            .opened = [this, page = news.page] { m_with.pages.open(page); }};
+}
+
+bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status,
+                               int type)
+{
+    const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
+    work.whileAttached([&] {
+        m_shownImage = status.image;
+        m_toldClick.reset(); // what is told with the news is that of one step
+    });
+    const auto asked = std::make_shared<Latch>();
+    const auto appeared = std::make_shared<Latch>();
+    work.post(m_with.mainThread, [this, status, news, type, asked, appeared] {
+        m_with.icon.setStatusImage(status.image);
+        if (status.announcesUpdate)
+            m_with.updateAlert.showAlertMsgForUpdate();
+        if (m_with.balloon.isShown())
+            m_with.balloon.toggleAttachedWindowAtPoint(news.text);
+        BalloonExtras extras = extrasOf(news, status.image, type);
+        extras.appeared = [appeared] { appeared->open(); };
+        m_with.balloon.toggleAttachedWindowAtPoint(news.text, extras);
+        if (m_with.told)
+            m_with.told(news);
+        asked->open();
+    });
+    return asked->wait(work.stopToken()) && appeared->wait(deviceGone);
+}
+
+void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
+{
+    const auto closed = std::make_shared<Latch>();
+    // A second report of the device must not leave the balloon: closing it is tied to no work.
+    m_with.mainThread.post([this, closed, deviceGone] {
+        if (!deviceGone.stop_requested())
+            m_with.balloon.dismiss([closed] { closed->open(); });
+    });
+    closed->wait(deviceGone);
+}
+
+void NewsSequence::showEnd(const Work &work)
+{
+    if (std::exchange(m_shownImage, m_image) != m_image && !m_image.isEmpty())
+        work.post(m_with.mainThread, [this, image = m_image] { m_with.icon.setStatusImage(image); });
+    const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
+    if (std::exchange(m_toldClick, click) != click && m_with.clickChanged)
+        work.post(m_with.mainThread, m_with.clickChanged);
+}
+
+std::stop_token NewsSequence::deviceGone() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_deviceGone.get_token();
+}
+
+void NewsSequence::pause(const std::stop_token &stop, std::chrono::seconds duration)
+{
+    m_with.clock.waitUntil(m_with.clock.now() + duration, stop);
+}
+
+bool NewsSequence::PreviousNews::*NewsSequence::previousOf(int type)
+{
+    switch (type) {
+    case DisplayType::NewVersion:
+        return &PreviousNews::previousHaveNewVersion_;
+    case DisplayType::ThreeDayLimitExceeded:
+        return &PreviousNews::previousHaveDateLimitExceededForThreedays_;
+    case DisplayType::MonthlyLimitExceeded:
+        return &PreviousNews::previousHaveDateLimitExceeded_;
+    case DisplayType::MonthlyLimitReached:
+        return &PreviousNews::previousHaveDateLimitReached_;
+    default:
+        return nullptr;
+    }
+}
+
+QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
+{
+    QString text;
+    work.whileAttached([&] { text = evaluate(m_with.snapshot.get(), type).balloonText; });
+    return text;
+}
+
+DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
+{
+    if (stopProcModemStatus_)
+        return {};
+    if (m_overrunTold)
+        snapshot.m_surplusData = std::abs(snapshot.m_surplusData);
+    bool PreviousNews::*const previous = previousOf(type);
+    DisplayStatus status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
+    if (previous)
+        m_previous.*previous = status.isNews;
+    if (!status.balloonText.isEmpty() && m_with.mayTell && !m_with.mayTell(type)) {
+        status.balloonText.clear();
+        status.announcesUpdate = false;
+    }
+    if (!status.image.isEmpty())
+        m_image = status.image;
+    m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
+    m_overrunTold = m_overrunTold || status.tellsOverrun;
+    return status;
+}
+
+QList<int> NewsSequence::seenTypes() const
+{
+    QList<int> types;
+    std::ranges::copy_if(displayTypes, std::back_inserter(types),
+                         [this](int type) { return m_previous.*previousOf(type); });
+    return types;
+}
+
+void NewsSequence::resetForReadyDevice(const QList<int> &seenTypes)
+{
+    stopProcModemStatus_ = false;
+    for (const int type : displayTypes)
+        m_previous.*previousOf(type) = seenTypes.contains(type);
+    m_image.clear();
+    m_shownImage.clear();
+    m_toldClick.reset();
+}
+
+void NewsSequence::resetForStop()
+{
+    stopProcModemStatus_ = true;
+    m_previous = {};
+    m_image.clear();
+    m_shownImage.clear();
+    m_toldClick.reset();
+    const std::scoped_lock lock(m_mutex);
+    m_deviceGone.request_stop();
+    m_deviceGone = {};
+    m_emptySequenceEnds = {};
+}
+
+} // namespace tarvo

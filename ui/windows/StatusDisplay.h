@@ -1,0 +1,62 @@
+#pragma once
+
+#include "status/NewsHistory.h"
+#include "status/StatusRows.h"
+#include "status/UsageHistory.h"
+#include "ui/icon/IconMenu.h"
+#include "ui/windows/StatusWindow.h"
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+namespace tarvo {
+
+class StatusIcon;
+class WebPages;
+
+/// Says how things stand, wherever the user looks: in the icon's tip, its menu, and the status window. What has not
+/// changed is not said again. On the main thread.
+class StatusDisplay {
+public:
+    /// What the display needs from its surroundings; all of it outlives the display.
+    struct Surroundings {
+        StatusIcon &icon;
+        IconMenu &menu;
+        const WebPages &pages;
+        std::function<DeviceDetails()> device; ///< of the modem that is attached
+    };
+
+    /// Says nothing before the first `refresh`.
+    explicit StatusDisplay(Surroundings surroundings);
+    ~StatusDisplay();
+
+    const CompanionStatus &status() const { return m_status; }
+
+    /// @param unknownDevice  vendor and product of the device that is not set up; empty for none
+    void setDetection(Detection detection, const QString &unknownDevice = {});
+    void setSettingsProblem(SettingsProblem problem);
+    /// @param sincePlugIn  the modem's age
+    void setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn);
+    /// Keeps @p news among the recent ones.
+    void addNews(const StandingNews &news);
+    /// Says how things stand, as what a click opens may have changed.
+    void refresh();
+
+    /// Shows the status window in front.
+    void showWindow();
+
+private:
+    void setStatus(const CompanionStatus &status);
+    StatusWindowContent windowContent() const;
+
+    const Surroundings m_with;
+    CompanionStatus m_status;
+    NewsHistory m_news;
+    UsageHistory m_usage;
+    std::unique_ptr<StatusWindow> m_window; ///< made when it is first asked for
+};
+
+} // namespace tarvo
