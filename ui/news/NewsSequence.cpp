@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -128,7 +127,7 @@ NewsSequence::Rest NewsSequence::restToTell(const Work &work)
 bool NewsSequence::hasNews(const StatusSnapshot &snapshot, std::span<const int> types) const
 {
     return !stopProcModemStatus_ && std::ranges::any_of(types, [&](int type) {
-        return !evaluateDisplayType(snapshot, type, m_previous.*previousOf(type)).balloonText.isEmpty();
+        return !evaluateDisplayType(snapshot, type, m_previous.stood(type)).balloonText.isEmpty();
     });
 }
 
@@ -231,22 +230,6 @@ void NewsSequence::pause(const std::stop_token &stop, std::chrono::seconds durat
     m_with.clock.waitUntil(m_with.clock.now() + duration, stop);
 }
 
-bool NewsSequence::PreviousNews::*NewsSequence::previousOf(int type)
-{
-    switch (type) {
-    case DisplayType::NewVersion:
-        return &PreviousNews::previousHaveNewVersion_;
-    case DisplayType::ThreeDayLimitExceeded:
-        return &PreviousNews::previousHaveDateLimitExceededForThreedays_;
-    case DisplayType::MonthlyLimitExceeded:
-        return &PreviousNews::previousHaveDateLimitExceeded_;
-    case DisplayType::MonthlyLimitReached:
-        return &PreviousNews::previousHaveDateLimitReached_;
-    default:
-        return nullptr;
-    }
-}
-
 QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
 {
     QString text;
@@ -260,10 +243,8 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
         return {};
     if (m_overrunTold)
         snapshot.m_surplusData = std::abs(snapshot.m_surplusData);
-    bool PreviousNews::*const previous = previousOf(type);
-    DisplayStatus status = evaluateDisplayType(snapshot, type, previous && m_previous.*previous);
-    if (previous)
-        m_previous.*previous = status.isNews;
+    DisplayStatus status = evaluateDisplayType(snapshot, type, m_previous.stood(type));
+    m_previous.setStood(type, status.isNews);
     if (!status.balloonText.isEmpty() && m_with.mayTell && !m_with.mayTell(type)) {
         status.balloonText.clear();
         status.announcesUpdate = false;
@@ -275,31 +256,25 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
     return status;
 }
 
-QList<int> NewsSequence::seenTypes() const
+void NewsSequence::forgetShown()
 {
-    QList<int> types;
-    std::ranges::copy_if(displayTypes, std::back_inserter(types),
-                         [this](int type) { return m_previous.*previousOf(type); });
-    return types;
+    m_image.clear();
+    m_shownImage.clear();
+    m_toldClick.reset();
 }
 
 void NewsSequence::resetForReadyDevice(const QList<int> &seenTypes)
 {
     stopProcModemStatus_ = false;
-    for (const int type : displayTypes)
-        m_previous.*previousOf(type) = seenTypes.contains(type);
-    m_image.clear();
-    m_shownImage.clear();
-    m_toldClick.reset();
+    m_previous = PreviousNews::ofTypes(seenTypes);
+    forgetShown();
 }
 
 void NewsSequence::resetForStop()
 {
     stopProcModemStatus_ = true;
     m_previous = {};
-    m_image.clear();
-    m_shownImage.clear();
-    m_toldClick.reset();
+    forgetShown();
     const std::scoped_lock lock(m_mutex);
     m_deviceGone.request_stop();
     m_deviceGone = {};

@@ -3,6 +3,7 @@
 #include "attachment/Attachment.h"
 #include "platform/Clock.h"
 #include "status/CompanionStatus.h"
+#include "status/PreviousNews.h"
 
 #include <QList>
 #include <QString>
@@ -89,7 +90,7 @@ public:
     bool stopProcModemStatus() const { return stopProcModemStatus_; }
 
     /// @return the display types whose news stood when they were evaluated last (main thread, when no work is under way)
-    QList<int> seenTypes() const;
+    QList<int> seenTypes() const { return m_previous.types(); }
     /// A device became ready: its news may be told (main thread, when no work is under way).
     /// @param seenTypes  those of whose news it has been told already
     void resetForReadyDevice(const QList<int> &seenTypes = {});
@@ -98,19 +99,6 @@ public:
     void resetForStop();
 
 private:
-    /// What each item was when it was last evaluated. Touched on behalf of the present attachment only.
-    struct PreviousNews {
-        bool previousHaveUnReadSmsStatus_ = false;
-        bool previousHaveNewSmsStatus_ = false;
-        bool previousRoamOnStatus_ = false;
-        bool previousHaveNewVersion_ = false;
-        bool previousNetWorkStatus_ = false;
-        bool previousHaveDateLimitReached_ = false;
-        bool previousHaveDateLimitExceeded_ = false;
-        bool previousHaveDateLimitExceededForThreedays_ = false;
-    };
-
-    static bool PreviousNews::*previousOf(int type);
     bool isFlowing(Clock::TimePoint now) const; ///< with the mutex held, as the next two
     void begin(Clock::TimePoint now);
     Rest restAt(Clock::TimePoint now) const;
@@ -131,6 +119,7 @@ private:
     void closeBalloon(const std::stop_token &deviceGone);
     /// Shows the image and tells of the click target that the sequence has led to (while attached).
     void showEnd(const Work &work);
+    void forgetShown();
     std::stop_token deviceGone() const;
     void pause(const std::stop_token &stop, std::chrono::seconds duration);
 
@@ -142,8 +131,8 @@ private:
     std::stop_source m_deviceGone; ///< a second ready report of the same device does not cut a balloon short
     std::atomic<bool> statusDisplayFlowFinishFlag_{true};
     std::atomic<bool> stopProcModemStatus_{true};
-    PreviousNews m_previous;
     // Touched on behalf of the present attachment only.
+    PreviousNews m_previous;
     bool m_overrunTold = false; ///< since the last page: what is left counts as its magnitude until the next one
     QString m_image; ///< the last image that was asked for; empty for none
     QString m_shownImage; ///< the last one that was shown
