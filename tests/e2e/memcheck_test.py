@@ -4,6 +4,7 @@ Usage: memcheck_test.py [unittest options] PROGRAM MODEM_SIMULATOR SETUP_PROGRAM
 Exit status 77: no network namespaces can be made here.
 """
 
+import pathlib
 import subprocess
 import sys
 import unittest
@@ -12,7 +13,8 @@ import companion_test
 from plugged_modem import enter_namespace
 
 ERROR = 99
-VALGRIND = ["valgrind", "--quiet", f"--error-exitcode={ERROR}", "--track-origins=yes", "--child-silent-after-fork=yes"]
+VALGRIND = ["valgrind", "--quiet", f"--error-exitcode={ERROR}", "--track-origins=yes", "--child-silent-after-fork=yes",
+            f"--suppressions={pathlib.Path(__file__).parent / 'valgrind.supp'}"]
 
 
 class MemcheckTest(companion_test.Companion):
