@@ -95,8 +95,13 @@ TEST_F(Companion, UnplugResetsAndReplugPollsAgain)
     EXPECT_TRUE(controller.news().stopProcModemStatus());
     EXPECT_FALSE(controller.snapshot().isHaveDataLimitExceedForOneMonth_);
     EXPECT_EQ(shownImage(), u"ready"_s);
+    clock.advance(700ms);
     plugIn(modem);
     EXPECT_EQ(statusBar.itemsCreated(), 2) << "the icon stayed";
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    clock.advance(999ms);
+    ASSERT_TRUE(clock.waitForSleepers(1));
+    EXPECT_EQ(modem.device.requests(statusPagePath).size(), 1) << "a second begins with the plug-in";
     tick(modem, 2);
     EXPECT_EQ(modem.device.requests(statusPagePath).size(), 2) << "nobody else asks";
 }

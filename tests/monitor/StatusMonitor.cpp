@@ -61,6 +61,23 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
     EXPECT_EQ(monitor.snapshot().get().obstacle, std::nullopt);
 }
 
+TEST_F(AttachedModem, TheSamePageIsReadAnewForTheNextDevice)
+{
+    StatusMonitor monitor({});
+    for (int device = 0; device < 2; ++device) {
+        monitor.resetForReadyDevice(false);
+        EXPECT_EQ(monitor.snapshot().get(), StatusSnapshot());
+        monitor.setAllStatusByUrlContents(client.work(),
+                                          u"flow_reminder_switch: 'on' monthly_velta_tx: '1'"
+                                          " max_usage_set_for_month: '3'"_s);
+        const StatusSnapshot seen = monitor.snapshot().get();
+        EXPECT_TRUE(seen.haveDataLimitFlag_ && seen.isHaveDataLimitReachedForOneMonth_);
+        EXPECT_FALSE(seen.isHaveDataLimitExceedForOneMonth_ || seen.isHaveDataLimitExceedForThreedays_);
+        EXPECT_EQ(seen.m_totalMonthData, 3);
+        monitor.resetForStop();
+    }
+}
+
 TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
 {
     int evaluated = 0;
