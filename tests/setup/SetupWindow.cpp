@@ -48,6 +48,8 @@ struct SetupWindowTest : testing::Test {
     {
         window = std::make_unique<SetupWindow>(services, survey);
         window->show();
+        window->hide();
+        window->show(); // the devices are looked at again, before any gateway has answered
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
         tabs = window->findChild<QTabWidget *>();
         list = tabs->widget(0)->findChild<QListWidget *>();
@@ -114,6 +116,28 @@ struct SetupWindowTest : testing::Test {
     QTabWidget *tabs = nullptr;
     QListWidget *list = nullptr;
 };
+
+/// Expects a red icon at the left of @p image, and a text beside it that keeps clear of both edges.
+void expectTextBesideIcon(const QImage &image)
+{
+    int besideIcon = image.width() / 2;
+    while (besideIcon > 0 && image.pixelColor(besideIcon - 1, 20) != Qt::red)
+        --besideIcon;
+    EXPECT_GT(besideIcon, 8);
+    const auto isEmpty = [&image](int x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != image.pixel(x, image.height() - 1))
+                return false;
+        }
+        return true;
+    };
+    for (int i = 1; i <= 5; ++i)
+        EXPECT_TRUE(isEmpty(besideIcon + i) && isEmpty(image.width() - i)) << i;
+    bool begins = false;
+    for (int i = 8; i <= 16; ++i)
+        begins = begins || !isEmpty(besideIcon + i);
+    EXPECT_TRUE(begins);
+}
 
 } // namespace
 
@@ -197,6 +221,20 @@ TEST_F(SetupWindowTest, TakesSettingsThatLackAFlagAsTheyAre)
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(SetupWindowTest, ShowsEachFlagAsItIs)
+{
+    write("<plist><dict><key>NeedDialModeJudge</key><true/></dict></plist>");
+    open();
+    tabs->setCurrentIndex(2);
+    QStringList on;
+    for (const auto *const flag : tabs->widget(2)->findChildren<QCheckBox *>()) {
+        EXPECT_TRUE(flag->isVisible());
+        if (flag->isChecked() && flag->text().startsWith(u"Setting_"))
+            on.append(flag->text());
+    }
+    EXPECT_EQ(on, (QStringList{u"Setting_NeedDialModeJudge"_s, u"Setting_ProvisionAccessPoints"_s}));
+}
+
 TEST_F(SetupWindowTest, AsksBeforeItReplacesADamagedFile)
 {
     write("damaged");
@@ -227,20 +265,12 @@ TEST(TitledList, KeepsTextsInsideTheirRows)
     list.setCurrentRow(-1);
     list.resize(240, 400);
     EXPECT_TRUE(waitFor([&] { return list.visualItemRect(list.item(0)).height() > height; })) << "they wrap";
-    const QImage image = list.viewport()->grab().toImage();
-    int besideIcon = image.width() / 2;
-    while (besideIcon > 0 && image.pixelColor(besideIcon - 1, 20) != Qt::red)
-        --besideIcon;
-    EXPECT_GT(besideIcon, 8);
-    const auto isEmpty = [&image](int x) {
-        for (int y = 0; y < image.height(); ++y) {
-            if (image.pixel(x, y) != image.pixel(x, image.height() - 1))
-                return false;
-        }
-        return true;
+    const auto seen = [&list](Qt::LayoutDirection direction) {
+        list.setLayoutDirection(direction);
+        return list.viewport()->grab().toImage().mirrored(direction == Qt::RightToLeft, false);
     };
-    for (int i = 1; i <= 5; ++i)
-        EXPECT_TRUE(isEmpty(besideIcon + i) && isEmpty(image.width() - i)) << i;
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
+        expectTextBesideIcon(seen(direction));
 }
 
 TEST(Autostart, ReadsTheMainGroupAlone)
