@@ -121,6 +121,11 @@ class SetupTest(companion_test.Companion):
         with open("/dev/full", "w", encoding="ascii") as full:
             for arguments in ("list", "--help"):
                 self.setup_program(*arguments.split(), status=1, output=full)
+        displays = "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"
+        environment = {name: value for name, value in os.environ.items() if name not in displays}
+        run = subprocess.run([sys.argv[3]], env=environment, stderr=subprocess.PIPE, text=True, timeout=60, check=False)
+        self.assertEqual(run.returncode, 2, run)
+        self.assertIn("no display", run.stderr)
 
     def test_speaks_one_language_at_a_time(self):
         self.assertIn("No device 19d3:1 is plugged in.", self.setup_program("use", "19d3:1"))
