@@ -47,11 +47,16 @@ TEST(BusConnection, FindsABusThatComesLateAndThenWatchesNothing)
     follow();
     EXPECT_TRUE(waitFor([&] { return told == QStringList{u"lost"_s}; }));
     EXPECT_TRUE(watchesAnything());
+    QObject late;
+    bool isLost = false;
+    bus.follow(
+        &late, [] {}, [&] { isLost = true; });
+    EXPECT_TRUE(isLost) << "who follows late is told at once";
     QDir(folder.path()).mkpath(u"run/dbus"_s);
     const Program daemon({"dbus-daemon", std::string("--config-file=") + TARVO_SESSION_BUS, "--nofork",
                           "--print-address=1", "--address=" + address.toStdString()});
     EXPECT_TRUE(waitFor([&] { return told.last() == u"found"_s; }));
     EXPECT_FALSE(watchesAnything());
     follow();
-    EXPECT_EQ(told.mid(1), (QStringList{u"found"_s, u"found"_s})) << "who follows late is told at once";
+    EXPECT_EQ(told.mid(1), (QStringList{u"found"_s, u"found"_s})) << "as with a bus that is lost";
 }
