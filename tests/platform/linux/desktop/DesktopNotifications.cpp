@@ -9,10 +9,13 @@
 #include "simulator/surroundings/SimulatedNotificationService.h"
 #include "tests/support/DesktopEnvironment.h"
 #include "tests/support/PrintQt.h"
+#include "tests/support/Program.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -179,4 +182,24 @@ TEST(ApplicationService, LetsASecondStartShowTheFirstAndOthersRestartIt)
     background.run<DesktopFacts>([&](const std::stop_token &) { return readDesktopFacts(name); },
                                  [&](const DesktopFacts &read) { facts = read; });
     EXPECT_TRUE(waitFor([&] { return facts.applicationProperties == properties; }));
+}
+
+TEST(ApplicationService, IsNotStartedByTheBusForASecondStart)
+{
+    const QTemporaryDir folder;
+    const QString started = folder.filePath(u"started"_s);
+    const std::pair<QString, QString> files[]{
+        {u"a.service"_s, u"[D-BUS Service]\nName=org.example.Tests\nExec=/bin/touch %1\n"_s.arg(started)},
+        {u"bus.conf"_s,
+         u"<busconfig><include>" TARVO_SESSION_BUS
+         "</include><servicedir>%1</servicedir></busconfig>"_s.arg(folder.path())}};
+    for (const auto &[name, contents] : files) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contents.toUtf8()) > 0);
+    }
+    Program daemon({"dbus-daemon", "--config-file=" + folder.filePath(u"bus.conf"_s).toStdString(), "--nofork",
+                    "--print-address"});
+    EXPECT_FALSE(
+        activateRunningApplication(QString::fromStdString(daemon.readLine()).trimmed(), u"org.example.Tests"_s));
+    EXPECT_FALSE(QFile::exists(started));
 }
