@@ -172,11 +172,14 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOp
     open(page);
     EXPECT_EQ(failures, 1) << "there is no opener";
 
-    QFile file(opener);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("#!/bin/sh\necho $$ \"$@\" > \"$0.out\"\nexit $STATUS\n");
-    file.close();
-    file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    const auto install = [&](const char *script) {
+        QFile file(opener);
+        file.remove();
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(script);
+        file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    };
+    install("#!/bin/sh\necho $$ \"$@\" > \"$0.out\"\nexit $STATUS\n");
     for (const auto &[status, told] : {std::pair("0", 1), {"3", 2}, {"4", 3}}) {
         qputenv("STATUS", status);
         QFile output(opener + u".out"_s);
@@ -194,6 +197,9 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOp
     for (const auto &text : {u""_s, u"http://"_s, u"http:///page"_s, u"page.html"_s, u"http://a b/"_s})
         open(text);
     EXPECT_EQ(failures, 8) << "an incomplete address is told of at once";
+    install("#!/no/such/interpreter\n");
+    open(page);
+    EXPECT_TRUE(waitFor([&] { return failures == 9; })) << "it cannot be started";
 }
 
 TEST_F(LogindWorkspaceTest, EndsAnOpenerThatShowsNothing)
