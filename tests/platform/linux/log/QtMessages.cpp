@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 TEST(QtMessages, GoToTheLogAndTellThatThereIsNoDisplay)
 {
+    const QtMessageHandler before = qInstallMessageHandler(nullptr);
     RecordingLog log;
     {
         const QtMessages messages(log);
@@ -19,4 +20,5 @@ TEST(QtMessages, GoToTheLogAndTellThatThereIsNoDisplay)
     }
     qWarning("to standard error");
     EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_EQ(qInstallMessageHandler(nullptr), before);
 }
