@@ -184,6 +184,19 @@ TEST_F(NetlinkDynamicStoreTest, SurvivesABurstThatOverrunsTheSocket)
     EXPECT_EQ(count(), 2003);
     EXPECT_EQ(router(), u"192.168.8.2"_s) << "what waits in the socket is older than what was read";
     EXPECT_TRUE(m_log.contains(u"network state: events were lost, reading everything again"_s));
+    ip(u"link del group 9"_s);
+    EXPECT_TRUE(waitFor([&] { return count() == 3; })) << "also when nobody asks";
+}
+
+TEST_F(NetlinkDynamicStoreTest, ReadsEverythingBeforeItAnnouncesServices)
+{
+    ip(u"addr add 10.1.1.1/32 dev lo\nlink set lo up"_s);
+    ASSERT_TRUE(waitFor([&] { return router(u"lo"_s) == u"no router"_s; }));
+    ASSERT_TRUE(enterOwnNetwork()); // of whose changes the store hears nothing
+    ip(u"link set lo up\naddr flush dev lo"_s);
+    m_store->announceServices();
+    EXPECT_EQ(router(), u"no service"_s);
+    EXPECT_EQ(router(u"lo"_s), u"no service"_s);
 }
 
 } // namespace

@@ -121,6 +121,10 @@ TEST(NetworkModel, RoutesLeaveWithTheirLink)
     model.setLink(5, u"en5"_s, true);
     EXPECT_EQ(routerOf(model, u"en5"_s), u"no router"_s);
     EXPECT_TRUE(model.areRoutesUncertain());
+    model.removeLink(6);
+    model.setLink(6, u"en6"_s, true);
+    model.addAddress(6, address);
+    EXPECT_EQ(routerOf(model, u"en6"_s), u"no router"_s) << "another link of the same index";
 }
 
 TEST(NetworkModel, RoutesAreReadAgainWhereTheKernelLeavesThemOpen)

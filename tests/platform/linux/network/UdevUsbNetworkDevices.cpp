@@ -53,6 +53,7 @@ TEST(UdevUsbNetworkDevices, AreListedWithTheirNamesAndFollowed)
 {
     const std::unique_ptr<UMockdevTestbed, decltype(&g_object_unref)> testbed(umockdev_testbed_new(), &g_object_unref);
     ASSERT_TRUE(umockdev_testbed_add_from_string(testbed.get(), modems, nullptr));
+    umockdev_testbed_set_attribute(testbed.get(), "/sys/devices/usb1/1-1", "product", "St\x1b\u200bick\n");
     UdevUsbNetworkDevices devices;
     const QList<UsbNetworkDevice> found = devices.devices();
     ASSERT_EQ(found.size(), 2) << "the other one is no USB device";
