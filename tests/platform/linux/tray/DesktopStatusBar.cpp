@@ -2,9 +2,11 @@
 
 #include "platform/linux/bus/BusAddress.h"
 #include "platform/linux/bus/BusConnection.h"
+#include "platform/linux/x11/XScreen.h"
 #include "tests/platform/Panels.h"
 #include "tests/support/DesktopEnvironment.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QBitmap>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -62,6 +64,45 @@ QRect areaOf(const QColor &colour)
     const QImage matching = screenshot().createMaskFromColor(colour.rgb(), Qt::MaskOutColor);
     return QRegion(QBitmap::fromImage(matching)).boundingRect();
 }
+
+/// A tray for translucent icons that puts out each icon as soon as it is in.
+class ExpellingTray final : public QAbstractNativeEventFilter {
+public:
+    ExpellingTray()
+    {
+        QSurfaceFormat translucent;
+        translucent.setAlphaBufferSize(8);
+        m_window.setFormat(translucent);
+        const auto window = static_cast<xcb_window_t>(m_window.winId());
+        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            m_screen.connection, xcb_get_window_attributes(m_screen.connection, window), nullptr));
+        xcb_change_property(m_screen.connection, XCB_PROP_MODE_REPLACE, window,
+                            m_screen.atom("_NET_SYSTEM_TRAY_VISUAL"), XCB_ATOM_VISUALID, 32, 1, &attributes->visual);
+        QCoreApplication::instance()->installNativeEventFilter(this);
+        takeTraySelection(m_window);
+    }
+
+    bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
+    {
+        const auto *const event = static_cast<const xcb_client_message_event_t *>(message);
+        if ((event->response_type & 0x7f) != XCB_CLIENT_MESSAGE || event->type != m_request)
+            return false;
+        const xcb_window_t icon = event->data.data32[2];
+        const XReply<xcb_get_geometry_reply_t> geometry(
+            xcb_get_geometry_reply(m_screen.connection, xcb_get_geometry(m_screen.connection, icon), nullptr));
+        depths.append(geometry ? geometry->depth : 0);
+        for (const xcb_window_t parent : {static_cast<xcb_window_t>(m_window.winId()), m_screen.root})
+            xcb_reparent_window(m_screen.connection, icon, parent, 0, 0);
+        return false;
+    }
+
+    QList<int> depths; ///< of the icons that were taken in
+
+private:
+    const XScreen m_screen = *XScreen::ofApplication();
+    const xcb_atom_t m_request = m_screen.atom("_NET_SYSTEM_TRAY_OPCODE");
+    QWindow m_window;
+};
 
 class DesktopStatusBarTest : public testing::Test {
 protected:
@@ -130,6 +171,14 @@ TEST_F(DesktopStatusBarTest, OutlivesWhatItShows)
     view.reset();
     item.reset();
     EXPECT_TRUE(waitFor([&] { return areaOf(magenta).isEmpty(); }));
+}
+
+TEST_F(DesktopStatusBarTest, GoesBackIntoEachTrayThatPutsItOutSomeTimes)
+{
+    for (const char *const tray : {"first", "second"}) {
+        const ExpellingTray expelling;
+        EXPECT_TRUE(waitFor([&] { return expelling.depths == QList<int>(6, 32); })) << tray << expelling.depths.size();
+    }
 }
 
 TEST_F(DesktopStatusBarTest, NeedsNoBusToSitInATray)
