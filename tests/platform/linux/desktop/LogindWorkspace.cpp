@@ -8,6 +8,7 @@
 #include "tests/support/Program.h"
 #include "tests/support/VirtualDesktop.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -230,6 +231,8 @@ TEST_F(LogindWorkspaceTest, EndsAnOpenerThatShowsNothing)
     EXPECT_TRUE(waitFor([&] { return !isThere(1); })) << "with all that it has started";
     EXPECT_TRUE(isThere(0)) << "it stays for as long as the browser";
     kill(-processes[0].toInt(), SIGKILL);
+    EXPECT_TRUE(waitFor([&] { return !isThere(0); })) << "nothing is kept of it";
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     qputenv("PATH", path);
 }
 
