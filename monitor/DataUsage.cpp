@@ -80,14 +80,16 @@ bool isDigit(char character)
 float leadingNumber(const QString &text)
 {
     const QByteArray bytes = text.toLatin1(); // what is not in it ends a number, as a question mark does
-    const char *start = std::ranges::find_if_not(bytes, isSpace);
+    const char *const begin = bytes.constData(); // ends in a zero, unlike what iterators of a null array point at
+    const char *const end = begin + bytes.size();
+    const char *start = std::find_if_not(begin, end, isSpace);
     if (*start == '+' && start[1] != '-')
         ++start;
     const char first = *start == '-' ? start[1] : *start;
     if (first != '.' && !isDigit(first))
         return 0; // nor is it a name of a number
     float value = 0;
-    const auto result = std::from_chars(start, bytes.cend(), value);
+    const auto result = std::from_chars(start, end, value);
     if (result.ec != std::errc::result_out_of_range)
         return value;
     const auto digits = QString::fromLatin1(QByteArrayView(start, result.ptr));

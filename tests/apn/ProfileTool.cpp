@@ -128,7 +128,7 @@ TEST_F(Tool, WhatComesFromOutsideForgesNoLineAndMovesNoCursor)
     EXPECT_EQ(run({u"unpack"_s, packed}), 0);
     EXPECT_EQ(output, "\x1b[2J\n\n") << "a program gets what is there";
     tool.start(u"script"_s,
-               {u"-qc"_s, QStringLiteral(TARVO_PROFILE_TOOL) + u" unpack '"_s + packed + u'\'', u"/dev/null"_s});
+               {u"-qc"_s, u"'%1' unpack '%2'"_s.arg(QStringLiteral(TARVO_PROFILE_TOOL), packed), u"/dev/null"_s});
     EXPECT_TRUE(tool.waitForFinished());
     EXPECT_EQ(tool.readAllStandardOutput(), "\\x1b[2J\\n\r\n") << "a terminal does not";
 }
