@@ -17,6 +17,17 @@ BusName::BusName(BusConnection &bus, QString name, Handler changed)
         this, [this] { busFound(); }, [this] { busLost(); });
 }
 
+void BusName::call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments,
+                   QObject *receiver, const Answer &answered)
+{
+    auto message = QDBusMessage::createMethodCall(owner().isEmpty() ? m_name : owner(), path, interface, method);
+    message.setArguments(arguments);
+    m_bus.call(message, receiver, [this, answered, asked = owner()](const QDBusMessage &answer) {
+        if (asked == owner())
+            answered(answer);
+    });
+}
+
 void BusName::busFound()
 {
     m_bus.subscribe(u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s, this,

@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 #include <functional>
 #include <optional>
@@ -17,11 +18,17 @@ class BusName final : public QObject {
 
 public:
     using Handler = std::function<void(const QString &owner)>;
+    using Answer = std::function<void(const QDBusMessage &answer)>;
 
     /// @param bus      outlives this object
     /// @param changed  called with the owner's unique name once the bus is found, and when it changes; with an empty text
     ///                 for nobody, also when the bus is lost
     BusName(BusConnection &bus, QString name, Handler changed);
+
+    /// Calls @p method of the name's owner. While nobody owns the name, the bus may start somebody for the call.
+    /// @param answered  given the reply or the error, unless the name has another owner or @p receiver is gone by then
+    void call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments,
+              QObject *receiver, const Answer &answered);
 
 private Q_SLOTS:
     void ownerChanged(const QDBusMessage &signal);
@@ -30,6 +37,7 @@ private:
     void busFound();
     void busLost();
     void tell(const QString &owner);
+    QString owner() const { return m_told.value_or(QString()); }
 
     BusConnection &m_bus;
     const QString m_name;

@@ -55,7 +55,7 @@ void LogindSession::ownerChanged(const QString &owner)
 void LogindSession::findSession()
 {
     // A program that the user's service manager started is in no session: "auto" is then the one on the user's screen.
-    call(managerPath, managerInterface, u"GetSession"_s, {u"auto"_s}, [this](const QDBusMessage &answer) {
+    m_name.call(managerPath, managerInterface, u"GetSession"_s, {u"auto"_s}, this, [this](const QDBusMessage &answer) {
         if (answer.type() == QDBusMessage::ReplyMessage)
             return followSession(answer.arguments().value(0).value<QDBusObjectPath>().path());
         m_session.clear();
@@ -76,10 +76,11 @@ void LogindSession::followSession(const QString &path)
 
 void LogindSession::readState()
 {
-    call(m_session, propertiesInterface, u"Get"_s, {sessionInterface, u"Active"_s}, [this](const QDBusMessage &answer) {
-        const QVariant active = answer.arguments().value(0).value<QDBusVariant>().variant();
-        setActive(answer.type() != QDBusMessage::ReplyMessage || active.toBool());
-    });
+    m_name.call(m_session, propertiesInterface, u"Get"_s, {sessionInterface, u"Active"_s}, this,
+                [this](const QDBusMessage &answer) {
+                    const QVariant active = answer.arguments().value(0).value<QDBusVariant>().variant();
+                    setActive(answer.type() != QDBusMessage::ReplyMessage || active.toBool());
+                });
 }
 
 void LogindSession::sessionsChanged(const QDBusMessage &signal)
@@ -100,17 +101,6 @@ void LogindSession::setActive(bool active)
     m_grace.stop();
     if (std::exchange(m_active, active) != active)
         m_changed(active);
-}
-
-void LogindSession::call(const QString &path, const QString &interface, const QString &method,
-                         const QVariantList &arguments, const Answer &answered)
-{
-    auto message = QDBusMessage::createMethodCall(m_owner, path, interface, method);
-    message.setArguments(arguments);
-    m_bus.call(message, this, [this, answered, owner = m_owner](const QDBusMessage &answer) {
-        if (owner == m_owner) // else it speaks of another logind than the present one
-            answered(answer);
-    });
 }
 
 } // namespace tarvo

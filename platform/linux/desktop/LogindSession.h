@@ -7,7 +7,6 @@
 #include <QString>
 #include <QStringList>
 #include <QTimer>
-#include <QVariantList>
 
 #include <functional>
 
@@ -34,17 +33,12 @@ private Q_SLOTS:
     void propertiesChanged(const QDBusMessage &signal);
 
 private:
-    /// Given the reply or the error.
-    using Answer = std::function<void(const QDBusMessage &answer)>;
-
     void busFound();
     void ownerChanged(const QString &owner);
     void findSession();
     void followSession(const QString &path);
     void readState();
     void setActive(bool active);
-    void call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments,
-              const Answer &answered);
 
     BusConnection &m_bus;
     const Handler m_changed;

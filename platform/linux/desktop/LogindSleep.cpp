@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString service = u"org.freedesktop.login1"_s;
 const QString path = u"/org/freedesktop/login1"_s;
 const QString managerInterface = u"org.freedesktop.login1.Manager"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
@@ -25,7 +24,7 @@ LogindSleep::LogindSleep(BusConnection &bus, SystemLog &log, Handler willSleep, 
     , m_willSleep(std::move(willSleep))
     , m_didWake(std::move(didWake))
     , m_bus(bus)
-    , m_name(bus, service, [this](const QString &owner) { ownerChanged(owner); })
+    , m_name(bus, u"org.freedesktop.login1"_s, [this](const QString &owner) { ownerChanged(owner); })
 {
     m_bus.follow(
         this, [this] { busFound(); }, [this] { busLost(); });
@@ -96,11 +95,7 @@ void LogindSleep::takeLock()
 void LogindSleep::call(const QString &interface, const QString &method, const QVariantList &arguments,
                        const Answer &answered)
 {
-    auto message = QDBusMessage::createMethodCall(m_owner.isEmpty() ? service : m_owner, path, interface, method);
-    message.setArguments(arguments);
-    m_bus.call(message, this, [this, method, answered, owner = m_owner](const QDBusMessage &answer) {
-        if (owner != m_owner)
-            return; // it speaks of another logind than the present one
+    m_name.call(path, interface, method, arguments, this, [this, method, answered](const QDBusMessage &answer) {
         const bool isReply = answer.type() == QDBusMessage::ReplyMessage;
         if (!isReply)
             logOnce(u"logind does not answer %1: %2"_s.arg(method, answer.errorMessage()));
