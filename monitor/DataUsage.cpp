@@ -1,17 +1,13 @@
 #include "monitor/DataUsage.h"
 
-#include "modemapi/AnswerFields.h"
-
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QLocale>
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <utility>
 
 namespace tarvo {
 
@@ -21,20 +17,6 @@ namespace {
 
 constexpr double step = 1024; // one unit to the next, bytes to gigabytes in three
 constexpr double inverseStep = 1 / step;
-
-using Field = std::optional<QString> StatusFields::*;
-
-const std::array<std::pair<QString, Field>, 9> fieldNames{{
-    {u"flow_reminder_switch"_s, &StatusFields::reminderSwitch},
-    {u"max_usage_set_for_month"_s, &StatusFields::monthlyLimit},
-    {u"reminder_threshold_for_data_usage"_s, &StatusFields::monthlyThreshold},
-    {u"max_usage_set_for_three_days"_s, &StatusFields::threeDayLimit},
-    {u"monthly_velta_tx"_s, &StatusFields::monthlySent},
-    {u"monthly_velta_rx"_s, &StatusFields::monthlyReceived},
-    {u"last_three_days_tx_bytes"_s, &StatusFields::threeDaySent},
-    {u"last_three_days_rx_bytes"_s, &StatusFields::threeDayReceived},
-    {u"international_roaming_setting"_s, &StatusFields::roamingSetting},
-}};
 
 float number(const std::optional<QString> &text)
 {
@@ -95,26 +77,6 @@ float leadingNumber(const QString &text)
     const auto digits = QString::fromLatin1(QByteArrayView(start, result.ptr));
     const double wide = QLocale::c().toDouble(digits); // infinite when it overflows
     return std::abs(wide) > 1 ? std::copysign(std::numeric_limits<float>::infinity(), wide < 0 ? -1.0F : 1.0F) : 0.0F;
-}
-
-StatusFields readStatusFields(const QString &content)
-{
-    StatusFields fields;
-    for (const auto &[name, field] : fieldNames)
-        fields.*field = getModemInfoFromKey(name + u": "_s, content);
-    for (const auto &[name, field] : fieldNames) {
-        if (!(fields.*field) || (fields.*field)->isEmpty())
-            fields.*field = getModemInfoFromKeyForWeb5(name + u"\":"_s, content);
-    }
-    return fields;
-}
-
-bool hasStatusField(const QString &content)
-{
-    return std::ranges::any_of(fieldNames, [&](const auto &field) {
-        const QString &name = field.first;
-        return getModemInfoFromKey(name + u": "_s, content) || getModemInfoFromKeyForWeb5(name + u"\":"_s, content);
-    });
 }
 
 bool isRoaming(const StatusFields &fields)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "modemapi/StatusFields.h"
+
 #include <QString>
 
 #include <limits>
@@ -10,28 +12,6 @@ namespace tarvo {
 /// @return the number at the start of @p text, after blanks, with sign, fraction and exponent; 0 when there is none.
 ///         "inf", "nan" and hexadecimal are no numbers; one too large for a float is infinite
 float leadingNumber(const QString &text);
-
-/// The fields of a status page that the snapshot is made of, as texts. A field that neither style has is nil.
-struct StatusFields {
-    std::optional<QString> reminderSwitch{}; ///< "on" when the monthly limit is watched
-    std::optional<QString> monthlyLimit{}; ///< gigabytes
-    std::optional<QString> monthlyThreshold{}; ///< read like a limit in gigabytes
-    std::optional<QString> threeDayLimit{}; ///< gigabytes
-    std::optional<QString> monthlySent{}; ///< bytes, like the next three
-    std::optional<QString> monthlyReceived{};
-    std::optional<QString> threeDaySent{};
-    std::optional<QString> threeDayReceived{};
-    std::optional<QString> roamingSetting{}; ///< "on" when roaming is allowed
-
-    bool operator==(const StatusFields &) const = default;
-};
-
-/// Reads the fields from a status page: in the older style, and where that gives nothing or an empty text, in the JSON
-/// style.
-StatusFields readStatusFields(const QString &content);
-
-/// @return whether @p content has any of these fields, be its text empty
-bool hasStatusField(const QString &content);
 
 /// What stands for an amount that no modem can have: one that is below zero, no number, or above 2^60 bytes.
 inline constexpr float unknownAmount = std::numeric_limits<float>::infinity();

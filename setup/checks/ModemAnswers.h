@@ -35,7 +35,4 @@ std::optional<QString> connectionStatus(const QString &page, const QVariantMap &
 /// @return whether @p page has any field of a status page, read as @p settings say
 bool hasStatusFields(const QString &page, const QVariantMap &settings);
 
-/// @return the fields about data and roaming that @p page does not have in either style
-QStringList missingDataFields(const QString &page);
-
 } // namespace tarvo

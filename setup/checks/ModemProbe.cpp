@@ -3,6 +3,7 @@
 #include "RouterObserver/ConfigManager.h"
 #include "modemapi/AnswerFields.h"
 #include "modemapi/HttpClient.h"
+#include "modemapi/StatusFields.h"
 #include "platform/StrictUtf8.h"
 
 namespace tarvo {
@@ -51,7 +52,7 @@ public:
         if (!facts.hasPage)
             facts.obstacle = obstacleOf(m_answer);
         facts.connection = connectionStatus(m_text, m_question.settings);
-        facts.missingFields = missingDataFields(m_text);
+        facts.missingFields = missingStatusFields(m_text);
         if (facts.hasPage)
             facts.takesCommands = command(u"ppp_status"_s, u"ppp_status"_s).has_value();
         return facts;

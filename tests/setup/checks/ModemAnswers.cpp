@@ -1,5 +1,6 @@
 #include "setup/checks/ModemAnswers.h"
 
+#include "modemapi/StatusFields.h"
 #include "simulator/modem/ModemCondition.h"
 #include "tests/support/PrintQt.h"
 
@@ -15,8 +16,8 @@ TEST(ModemAnswers, AreReadInBothStyles)
         condition.pageStyle = style;
         const QString page = QString::fromUtf8(statusPage(condition));
         EXPECT_EQ(connectionStatus(page, {}), u"ppp_connected"_s);
-        EXPECT_EQ(missingDataFields(page), QStringList());
-        EXPECT_EQ(missingDataFields(QString(page).replace(u"monthly_velta_tx"_s, u"x"_s)),
+        EXPECT_EQ(missingStatusFields(page), QStringList());
+        EXPECT_EQ(missingStatusFields(QString(page).replace(u"monthly_velta_tx"_s, u"x"_s)),
                   QStringList{u"monthly_velta_tx"_s});
     }
     EXPECT_EQ(connectionStatus(u"pppstate: 'on'"_s, {}), u"on"_s);
