@@ -1,14 +1,11 @@
 #include "setup/window/SetupWindow.h"
 
 #include "platform/StateStore.h"
-#include "setup/settings/Autostart.h"
 #include "setup/settings/SettingKeys.h"
-#include "setup/window/TitledItems.h"
 #include "simulator/modem/ModemServer.h"
 #include "simulator/modem/SimulatedModem.h"
 #include "simulator/surroundings/SimulatedUsbNetworkDevices.h"
 #include "tests/support/DesktopEnvironment.h"
-#include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"
 
 #include <QCheckBox>
@@ -16,12 +13,10 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -116,28 +111,6 @@ struct SetupWindowTest : testing::Test {
     QTabWidget *tabs = nullptr;
     QListWidget *list = nullptr;
 };
-
-/// Expects a red icon at the left of @p image, and a text beside it that keeps clear of both edges.
-void expectTextBesideIcon(const QImage &image)
-{
-    int besideIcon = image.width() / 2;
-    while (besideIcon > 0 && image.pixelColor(besideIcon - 1, 20) != Qt::red)
-        --besideIcon;
-    EXPECT_GT(besideIcon, 8);
-    const auto isEmpty = [&image](int x) {
-        for (int y = 0; y < image.height(); ++y) {
-            if (image.pixel(x, y) != image.pixel(x, image.height() - 1))
-                return false;
-        }
-        return true;
-    };
-    for (int i = 1; i <= 5; ++i)
-        EXPECT_TRUE(isEmpty(besideIcon + i) && isEmpty(image.width() - i)) << i;
-    bool begins = false;
-    for (int i = 8; i <= 16; ++i)
-        begins = begins || !isEmpty(besideIcon + i);
-    EXPECT_TRUE(begins);
-}
 
 } // namespace
 
@@ -249,72 +222,4 @@ TEST_F(SetupWindowTest, AsksBeforeItReplacesADamagedFile)
     }
     EXPECT_EQ(vendors(), QStringList{u"6610"_s});
     EXPECT_TRUE(tells(u"Saved OldFileKept"_s));
-}
-
-TEST(TitledList, KeepsTextsInsideTheirRows)
-{
-    QPixmap red(64, 64);
-    red.fill(Qt::red);
-    TitledList list;
-    list.setItems({{red, u"icon"_s, u"title"_s, u"word "_s.repeated(40)}});
-    list.resize(600, 400);
-    list.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
-    const int height = list.visualItemRect(list.item(0)).height();
-    list.clearSelection();
-    list.setCurrentRow(-1);
-    list.resize(240, 400);
-    EXPECT_TRUE(waitFor([&] { return list.visualItemRect(list.item(0)).height() > height; })) << "they wrap";
-    const auto seen = [&list](Qt::LayoutDirection direction) {
-        list.setLayoutDirection(direction);
-        return list.viewport()->grab().toImage().mirrored(direction == Qt::RightToLeft, false);
-    };
-    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
-        expectTextBesideIcon(seen(direction));
-}
-
-TEST(Autostart, ReadsTheMainGroupAlone)
-{
-    const std::tuple<QByteArray, bool, QByteArray> cases[] = {
-        {"Hidden=true\n[Desktop Entry]\nExec=a\n", true,
-         "Hidden=true\n[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\nExec=a\n"},
-        {"[Other]\nHidden=true\n[Desktop Entry]\n", true,
-         "[Other]\nHidden=true\n[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\n"},
-        {"[Desktop Entry]\nX-GNOME-Autostart-enabled = false \n", false,
-         "[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\n"},
-    };
-    for (const auto &[entry, starts, off] : cases) {
-        EXPECT_EQ(startsAtLogin(entry), starts) << entry.toStdString();
-        EXPECT_EQ(withStartAtLogin(entry, false), off);
-    }
-}
-
-TEST(Autostart, IsSwitchedInTheUsersCopyOfTheEntry)
-{
-    const QByteArray entry = "[Desktop Entry]\nExec=tarvo\nHidden=false\n[Other]\nHidden=true\n";
-    const QByteArray off = withStartAtLogin(entry, false);
-    EXPECT_EQ(off, "[Desktop Entry]\nHidden=true\nX-GNOME-Autostart-enabled=false\nExec=tarvo\n[Other]\nHidden=true\n");
-    for (const auto &[bytes, starts] : {std::pair(entry, true), {off, false}, {withStartAtLogin(off, true), true}})
-        EXPECT_EQ(startsAtLogin(bytes), starts);
-
-    EXPECT_EQ(Autostart().isOn(), std::nullopt) << "nothing is installed";
-    const QDir system(qEnvironmentVariable("XDG_CONFIG_DIRS"));
-    system.mkpath(u"autostart"_s);
-    QFile file(system.filePath(u"autostart/tarvo.desktop"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(entry) > 0);
-    file.close();
-    EXPECT_EQ(Autostart().isOn(), true);
-    EXPECT_EQ(Autostart().set(false), QString());
-    EXPECT_EQ(Autostart().isOn(), false);
-    QFile hidden(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/tarvo.desktop"_s);
-    ASSERT_TRUE(hidden.open(QIODevice::WriteOnly) && hidden.write("[Desktop Entry]\nHidden=true\n") > 0);
-    hidden.close();
-    {
-        const FullDisk full;
-        EXPECT_NE(Autostart().set(true), QString());
-    }
-    EXPECT_EQ(Autostart().isOn(), false) << "the entry is as it was";
-    EXPECT_EQ(Autostart().set(true), QString());
-    ASSERT_TRUE(hidden.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(hidden.readAll().contains("Exec=tarvo")) << "an entry that says only that it is hidden";
 }
