@@ -2,6 +2,8 @@
 
 #include "tests/support/PrintQt.h"
 
+#include <QByteArrayList>
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -26,13 +28,20 @@ ChainFacts wholeFacts()
     return facts;
 }
 
-/// @return the marks, a letter each: o, B, u or s
-std::string marks(const QList<Check> &checks)
+/// @return the links that are not in order, one after the other as one: "port broken, page to session skipped"
+std::string flaws(const QList<Check> &checks)
 {
-    std::string letters;
-    for (const Check &check : checks)
-        letters += "oBus"[static_cast<int>(check.mark)];
-    return letters;
+    const QByteArray words[] = {{}, " broken", " unknown", " skipped"};
+    QByteArrayList runs;
+    for (qsizetype first = 0, end = 0; first < checks.size(); first = end) {
+        const Mark mark = checks[first].mark;
+        while (end < checks.size() && checks[end].mark == mark)
+            ++end;
+        const QByteArray ids = checks[first].id + (end - first > 1 ? " to " + checks[end - 1].id : "");
+        if (mark != Mark::Ok)
+            runs.append(ids + words[static_cast<int>(mark)]);
+    }
+    return runs.join(", ").toStdString();
 }
 
 UserText firstAdvice(const QList<Check> &checks)
@@ -49,68 +58,84 @@ UserText firstAdvice(const QList<Check> &checks)
 TEST(Chain, SaysForEachBrokenLinkWhatToDo)
 {
     const std::tuple<std::function<void(ChainFacts &)>, std::string, UserText> cases[] = {
-        {[](auto &) {}, "oooooooooooooooo", {}},
-        {[](auto &f) { f.settingsPath.clear(); }, "Bssssssssssooooo", {"FixNoSettings"}},
-        {[](auto &f) { f.settingsProblem = u"why"_s; }, "Bssssssssssooooo", {"FixUnreadable", {u"/c"_s, u"why"_s}}},
+        {[](auto &) {}, "", {}},
+        {[](auto &f) { f.settingsPath.clear(); }, "settings broken, keys to session skipped", {"FixNoSettings"}},
+        {[](auto &f) { f.settingsProblem = u"why"_s; },
+         "settings broken, keys to session skipped",
+         {"FixUnreadable", {u"/c"_s, u"why"_s}}},
         {[](auto &f) {
              f.findings = {{Fault::NoVendor, {}}, {Fault::UnknownKey, u"x"_s}};
          },
-         "oBoooooooooooooo",
+         "keys broken",
          {"FaultNoVendor"}},
-        {[](auto &f) { f.devices.clear(); }, "ooBssssssssooooo", {"FixNoDevice"}},
-        {[](auto &f) { f.devices[0].support = Support::Unsupported; }, "ooBssssssssooooo", {"FixUnsupported"}},
+        {[](auto &f) { f.devices.clear(); }, "device broken, link to session skipped", {"FixNoDevice"}},
+        {[](auto &f) { f.devices[0].support = Support::Unsupported; },
+         "device broken, link to session skipped",
+         {"FixUnsupported"}},
         {[](auto &f) { f.devices[0].support = Support::Excluded; },
-         "ooBssssssssooooo",
+         "device broken, link to session skipped",
          {"FixExcluded", {u"0001:0000"_s}}},
-        {[](auto &f) { f.devices[0].network.isUp = false; }, "oooBsssssssooooo", {"FixLinkDown", {u"u1"_s}}},
-        {[](auto &f) { f.devices[0].network.addresses.clear(); }, "ooooBssssssooooo", {"FixNoAddress", {u"u1"_s}}},
-        {[](auto &f) { f.devices[0].network.gateway.clear(); }, "oooooBsssssooooo", {"FixNoGateway", {u"u1"_s}}},
+        {[](auto &f) { f.devices[0].network.isUp = false; },
+         "link broken, address to session skipped",
+         {"FixLinkDown", {u"u1"_s}}},
+        {[](auto &f) { f.devices[0].network.addresses.clear(); },
+         "address broken, gateway to session skipped",
+         {"FixNoAddress", {u"u1"_s}}},
+        {[](auto &f) { f.devices[0].network.gateway.clear(); },
+         "gateway broken, port to session skipped",
+         {"FixNoGateway", {u"u1"_s}}},
         {[](auto &f) {
              f.devices[0].network.gateway.clear();
              f.devices[0].network.routeWithoutMetric = u"e0"_s;
          },
-         "oooooBsssssooooo",
+         "gateway broken, port to session skipped",
          {"FixHiddenGateway", {u"u1"_s, u"e0"_s}}},
-        {[](auto &f) { f.modem.reset(); }, "oooooouuuuuooooo", {}},
-        {[](auto &f) { f.modem->answers = false; }, "ooooooBssssooooo", {"FixNoAnswer", {u"10.0.0.1"_s}}},
-        {[](auto &f) { f.modem->hasPage = false; }, "oooooooBsssooooo", {"FixNoPage", {u"page"_s}}},
-        {[](auto &f) { *f.modem = {.obstacle = Obstacle::Silence}; }, "ooooooBssssooooo", {"FixBusy", {u"10.0.0.1"_s}}},
+        {[](auto &f) { f.modem.reset(); }, "port to session unknown", {}},
+        {[](auto &f) { f.modem->answers = false; },
+         "port broken, page to session skipped",
+         {"FixNoAnswer", {u"10.0.0.1"_s}}},
+        {[](auto &f) { f.modem->hasPage = false; },
+         "page broken, connection to session skipped",
+         {"FixNoPage", {u"page"_s}}},
+        {[](auto &f) { *f.modem = {.obstacle = Obstacle::Silence}; },
+         "port broken, page to session skipped",
+         {"FixBusy", {u"10.0.0.1"_s}}},
         {[](auto &f) { *f.modem = {.answers = true, .obstacle = Obstacle::Busy}; },
-         "oooooooBsssooooo",
+         "page broken, connection to session skipped",
          {"FixBusy", {u"10.0.0.1"_s}}},
         {[](auto &f) { *f.modem = {.answers = true, .obstacle = Obstacle::WantsPassword}; },
-         "oooooooBsssooooo",
+         "page broken, connection to session skipped",
          {"FixPassword", {u"10.0.0.1"_s}}},
         {[](auto &f) { *f.modem = {.answers = true, .obstacle = Obstacle::WantsHttps}; },
-         "oooooooBsssooooo",
+         "page broken, connection to session skipped",
          {"FixHttps", {u"10.0.0.1"_s}}},
         {[](auto &f) { *f.modem = {.answers = true, .obstacle = Obstacle::OtherPage}; },
-         "oooooooBsssooooo",
+         "page broken, connection to session skipped",
          {"FixOtherPage", {u"page"_s}}},
-        {[](auto &f) { f.modem->connection.reset(); }, "ooooooooBooooooo", {"FixNoConnection", {u"page"_s}}},
+        {[](auto &f) { f.modem->connection.reset(); }, "connection broken", {"FixNoConnection", {u"page"_s}}},
         {[](auto &f) {
              f.modem->missingFields = QStringList{u"a"_s, u"b"_s};
          },
-         "oooooooooBoooooo",
+         "data broken",
          {"FixNoData", {u"a, b"_s}}},
-        {[](auto &f) { f.modem->givesSession = false; }, "ooooooooooBooooo", {"FixNoSession"}},
-        {[](auto &f) { f.profiles.wanted = f.profiles.folderExists = false; }, "ooooooooooosoooo", {}},
-        {[](auto &f) { f.profiles.folderExists = false; }, "oooooooooooBoooo", {"FixNoProfiles", {u"/p"_s}}},
-        {[](auto &f) { f.profiles.problems = QStringList{u"x"_s}; }, "oooooooooooBoooo", {"FixProfiles", {u"/p"_s}}},
+        {[](auto &f) { f.modem->givesSession = false; }, "session broken", {"FixNoSession"}},
+        {[](auto &f) { f.profiles.wanted = f.profiles.folderExists = false; }, "profiles skipped", {}},
+        {[](auto &f) { f.profiles.folderExists = false; }, "profiles broken", {"FixNoProfiles", {u"/p"_s}}},
+        {[](auto &f) { f.profiles.problems = QStringList{u"x"_s}; }, "profiles broken", {"FixProfiles", {u"/p"_s}}},
         {[](auto &f) {
              f.desktop = {false, {}, true, {}};
          },
-         "ooooooooooooBuou",
+         "tray broken, notifications unknown, companion unknown",
          {"FixNoTray"}},
-        {[](auto &f) { f.desktop.runsApplication = false; }, "oooooooooooooooB", {"FixNotRunning"}},
-        {[](auto &f) { f.settingsDigest = u"changed"_s; }, "oooooooooooooooB", {"FixOlderSettings"}},
-        {[](auto &f) { f.desktop.applicationProperties.clear(); }, "ooooooooooooooou", {}},
+        {[](auto &f) { f.desktop.runsApplication = false; }, "companion broken", {"FixNotRunning"}},
+        {[](auto &f) { f.settingsDigest = u"changed"_s; }, "companion broken", {"FixOlderSettings"}},
+        {[](auto &f) { f.desktop.applicationProperties.clear(); }, "companion unknown", {}},
     };
     for (const auto &[change, expected, advice] : cases) {
         ChainFacts facts = wholeFacts();
         change(facts);
         const QList<Check> checks = checkChain(facts);
-        EXPECT_EQ(marks(checks), expected) << advice.id.constData();
+        EXPECT_EQ(flaws(checks), expected) << advice.id.constData();
         EXPECT_EQ(firstAdvice(checks), advice) << firstAdvice(checks).id.constData();
         EXPECT_EQ(isWhole(checks), advice == UserText());
     }

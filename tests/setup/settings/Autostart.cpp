@@ -3,10 +3,10 @@
 #include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
+
+#include <gtest/gtest.h>
 
 #include <utility>
 
