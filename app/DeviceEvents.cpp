@@ -48,6 +48,7 @@ void MainController::resume()
     if (routerObserver_->isInterfaceRouterReady("IOUSBInterface")
         || routerObserver_->isInterfaceRouterReady("IOUSBHostInterface"))
         startGetModemInfo();
+    detect();
 }
 
 void MainController::procECMReady(const ReadyDictionary &ready)

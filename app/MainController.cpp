@@ -139,10 +139,13 @@ void MainController::applicationDidFinishLaunching()
 
 void MainController::detect()
 {
+    const bool supported = routerObserver_ && routerObserver_->hasSupportedInterface();
     const auto unknown = m_unknownModems ? m_unknownModems->first() : std::nullopt;
     if (router())
         m_display.setDetection(Detection::Attached);
-    else if (routerObserver_ && routerObserver_->hasSupportedInterface())
+    else if (supported && isResting())
+        m_display.setDetection(Detection::LeftAlone);
+    else if (supported)
         waitForModem();
     else if (unknown)
         m_display.setDetection(Detection::NotSetUp, *unknown);

@@ -22,6 +22,7 @@ enum class SimState {
 /// What the status page tells beside that of which news are made. What the page does not tell is nil.
 struct ModemDetails {
     std::optional<bool> connected{};
+    bool connecting = false; ///< a connection is being made; `connected` is false then
     SimState sim = SimState::Unknown;
     std::optional<bool> dialsByItself{};
     std::optional<bool> roamingAllowed{};

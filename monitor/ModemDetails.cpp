@@ -4,6 +4,7 @@
 #include "modemapi/ConnectionStatus.h"
 
 #include <QMap>
+#include <QStringList>
 
 namespace tarvo {
 
@@ -21,6 +22,13 @@ SimState simState(const std::optional<QString> &mainState)
     return states.value(mainState.value_or(QString()), SimState::Unknown);
 }
 
+/// @return whether @p status is the one before one of those that mean a connection
+bool isConnecting(const QString &status)
+{
+    return QStringList{u"ppp_connecting"_s, u"connecting"_s, u"ipv6_connecting"_s, u"ipv4_ipv6_connecting"_s}.contains(
+        status);
+}
+
 } // namespace
 
 bool isStatusPage(const QString &content)
@@ -33,8 +41,10 @@ bool isStatusPage(const QString &content)
 ModemDetails readModemDetails(const QString &content, const StatusFields &fields)
 {
     ModemDetails details;
-    if (const auto status = getConnectionStatusWithWebContent(content))
+    if (const auto status = getConnectionStatusWithWebContent(content)) {
         details.connected = isConnectedWithStautusContent(status);
+        details.connecting = !*details.connected && isConnecting(*status);
+    }
     details.sim = simState(getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content));
     if (const auto mode = getModemInfoFromKeyForWeb5(u"dial_mode\":"_s, content))
         details.dialsByItself = *mode == u"auto_dial";

@@ -2,6 +2,7 @@
 
 #include "status/DataAmounts.h"
 #include "status/DisplayStatus.h"
+#include "status/Situation.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -11,27 +12,6 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString connectionText(const ModemDetails &details)
-{
-    switch (details.sim) {
-    case SimState::Missing:
-        return qtTrId("StatusSimMissing");
-    case SimState::Damaged:
-        return qtTrId("StatusSimDamaged");
-    case SimState::NeedsPin:
-        return qtTrId("StatusSimNeedsPin");
-    case SimState::NeedsPuk:
-        return qtTrId("StatusSimNeedsPuk");
-    case SimState::Locked:
-        return qtTrId("StatusSimLocked");
-    case SimState::Unknown:
-        break;
-    }
-    if (!details.connected)
-        return qtTrId("StatusModemFound");
-    return *details.connected ? qtTrId("StatusConnected") : qtTrId("StatusNotConnected");
-}
 
 QString withoutModem(SettingsProblem problem)
 {
@@ -68,19 +48,53 @@ QString obstacleText(Obstacle obstacle)
     return qtTrId("StatusNotAnswering");
 }
 
-QString attachedSummary(const StatusSnapshot &snapshot)
+QString simText(SimState sim)
 {
-    if (!snapshot.answering)
-        return qtTrId("StatusModemFound");
-    if (!*snapshot.answering)
-        return obstacleText(snapshot.obstacle.value_or(Obstacle::NoAnswer));
-    QString summary = connectionText(snapshot.details);
-    const auto add = [&](const QString &part) { summary = qtTrId("StatusAnd").arg(summary, part); };
-    if (snapshot.details.countsMonth)
-        add(amountOfLimit(static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.m_totalMonthData)));
-    if (snapshot.details.roamingAllowed)
-        add(*snapshot.details.roamingAllowed ? qtTrId("StatusRoamingOn") : qtTrId("StatusRoamingOff"));
-    return summary;
+    switch (sim) {
+    case SimState::Missing:
+        return qtTrId("StatusSimMissing");
+    case SimState::Damaged:
+        return qtTrId("StatusSimDamaged");
+    case SimState::NeedsPin:
+        return qtTrId("StatusSimNeedsPin");
+    case SimState::NeedsPuk:
+        return qtTrId("StatusSimNeedsPuk");
+    case SimState::Locked:
+    case SimState::Unknown:
+        break;
+    }
+    return qtTrId("StatusSimLocked");
+}
+
+QString situationText(Situation situation, const CompanionStatus &status)
+{
+    switch (situation) {
+    case Situation::NoSettings:
+    case Situation::NoModem:
+        return withoutModem(status.settingsProblem);
+    case Situation::NotSetUp:
+        return qtTrId("StatusNotSetUp").arg(status.unknownDevice);
+    case Situation::WaitingForAddress:
+        return qtTrId("StatusWaitingForAddress");
+    case Situation::NoGateway:
+        return qtTrId("StatusNoGateway");
+    case Situation::Asleep:
+        return qtTrId("StatusAsleep");
+    case Situation::Found:
+    case Situation::Answering:
+        break;
+    case Situation::NotAnswering:
+        return obstacleText(status.snapshot.obstacle.value_or(Obstacle::NoAnswer));
+    case Situation::SimNeedsUser:
+        return simText(status.snapshot.details.sim);
+    case Situation::Connecting:
+        return qtTrId("StatusConnecting");
+    case Situation::NotConnected:
+        return qtTrId("StatusNotConnected");
+    case Situation::Connected:
+        return qtTrId("StatusConnected");
+    }
+    return qtTrId("StatusModemFound");
 }
 
 Page pageOf(int displayType)
@@ -92,25 +106,23 @@ Page pageOf(int displayType)
 
 QString summaryOf(const CompanionStatus &status)
 {
-    switch (status.detection) {
-    case Detection::NoModem:
-        return withoutModem(status.settingsProblem);
-    case Detection::NotSetUp:
-        return qtTrId("StatusNotSetUp").arg(status.unknownDevice);
-    case Detection::WaitingForAddress:
-        return qtTrId("StatusWaitingForAddress");
-    case Detection::NoGateway:
-        return qtTrId("StatusNoGateway");
-    case Detection::Attached:
-        break;
-    }
-    return attachedSummary(status.snapshot);
+    const Situation situation = situationOf(status);
+    QString summary = situationText(situation, status);
+    if (!answers(situation))
+        return summary;
+    const StatusSnapshot &snapshot = status.snapshot;
+    const auto add = [&](const QString &part) { summary = qtTrId("StatusAnd").arg(summary, part); };
+    if (snapshot.details.countsMonth)
+        add(amountOfLimit(static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.m_totalMonthData)));
+    if (snapshot.details.roamingAllowed)
+        add(*snapshot.details.roamingAllowed ? qtTrId("StatusRoamingOn") : qtTrId("StatusRoamingOff"));
+    return summary;
 }
 
 QList<StandingNews> standingNews(const CompanionStatus &status)
 {
     QList<StandingNews> news;
-    if (status.detection != Detection::Attached)
+    if (!isPolled(situationOf(status)))
         return news;
     for (const int type : displayTypes) {
         const DisplayStatus shown = evaluateDisplayType(status.snapshot, type, false);

@@ -14,6 +14,7 @@ enum class Detection {
     NotSetUp, ///< a USB network device with a gateway, which the settings do not name
     WaitingForAddress, ///< a supported modem without an address
     NoGateway, ///< a supported modem with an address, and no router
+    LeftAlone, ///< a supported modem that is not asked for anything at present
     Attached, ///< a modem that is polled
 };
 

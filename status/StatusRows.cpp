@@ -1,5 +1,7 @@
 #include "status/StatusRows.h"
 
+#include "status/Situation.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
@@ -22,6 +24,13 @@ QString choice(const std::optional<bool> &value, const QString &whenTrue, const 
     return *value ? whenTrue : whenFalse;
 }
 
+QString connectionText(const ModemDetails &details)
+{
+    if (details.connecting)
+        return qtTrId("StatusConnecting");
+    return choice(details.connected, qtTrId("StatusConnected"), qtTrId("StatusNotConnected"));
+}
+
 QString deviceText(const DeviceDetails &device)
 {
     if (device.name.isEmpty() || device.usbIdentity.isEmpty())
@@ -38,14 +47,14 @@ QString timeText(const QDateTime &time)
 
 QList<StatusRow> statusRows(const CompanionStatus &status, const DeviceDetails &device)
 {
-    const bool attached = status.detection == Detection::Attached;
+    const bool attached = isPolled(situationOf(status));
     const ModemDetails details = attached ? status.snapshot.details : ModemDetails();
     const DeviceDetails shown = attached ? device : DeviceDetails();
     const QString firmware =
         status.snapshot.isHaveNewVersion_ ? qtTrId("ValueFirmwareNew") : qtTrId("ValueFirmwareNoneOffered");
     const QString sent = qtTrId("ValueAccessPointsSent", shown.accessPointsSent);
     const StatusRow rows[] = {
-        {qtTrId("RowConnection"), choice(details.connected, qtTrId("StatusConnected"), qtTrId("StatusNotConnected"))},
+        {qtTrId("RowConnection"), connectionText(details)},
         {qtTrId("RowDialMode"), choice(details.dialsByItself, qtTrId("ValueDialAuto"), qtTrId("ValueDialManual"))},
         {qtTrId("RowRoaming"), choice(details.roamingAllowed, qtTrId("ValueOn"), qtTrId("ValueOff"))},
         {qtTrId("RowFirmware"), attached ? firmware : QString()},

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>تم العثور على المودم، بلا بوابة</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>متوقف مؤقتًا، لا يُستعلَم عن حالة المودم حاليًا</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>تم العثور على المودم</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>لا يستجيب المودم بصفحة حالة</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>جارٍ الاتصال</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

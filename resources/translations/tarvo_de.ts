@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Modem gefunden, aber ohne Gateway</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>Pausiert, das Modem wird derzeit nicht abgefragt</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Modem gefunden</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>Das Modem antwortet nicht mit einer Statusseite</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Verbindung wird hergestellt</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

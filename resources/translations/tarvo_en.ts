@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Modem found, without a gateway</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>Paused, the modem is not asked at present</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Modem found</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>The modem does not answer with a status page</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Connecting</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

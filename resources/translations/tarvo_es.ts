@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Módem encontrado, sin puerta de enlace</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>En pausa, el módem no se consulta por ahora</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Módem encontrado</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>El módem no responde con una página de estado</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Conectando</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Modem détecté, sans passerelle</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>En pause, le modem n’est pas interrogé pour l’instant</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Modem détecté</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>Le modem ne répond pas par une page d’état</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Connexion en cours</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Modem trovato, senza gateway</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>In pausa, il modem al momento non viene interrogato</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Modem trovato</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>Il modem non risponde con una pagina di stato</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Connessione in corso</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>モデムを検出、ゲートウェイがありません</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>一時停止中、現在モデムには問い合わせていません</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>モデムを検出しました</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>モデムが状態ページを返しません</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>接続中です</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

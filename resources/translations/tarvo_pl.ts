@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Znaleziono modem, brak bramy</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>Wstrzymano, modem nie jest teraz odpytywany</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Znaleziono modem</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>Modem nie odpowiada stroną stanu</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Łączenie</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Modem encontrado, sem gateway</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>Em pausa, o modem não está sendo consultado no momento</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Modem encontrado</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>O modem não responde com uma página de estado</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Conectando</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>Модем найден, шлюза нет</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>Приостановлено, модем сейчас не опрашивается</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>Модем найден</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>Модем не отвечает страницей состояния</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>Подключение</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -79,6 +79,10 @@
         <source>Modem found, without a gateway</source>
         <translation>已找到调制解调器，但没有网关</translation>
     </message>
+    <message id="StatusAsleep">
+        <source>Paused, the modem is not asked at present</source>
+        <translation>已暂停，目前不查询调制解调器</translation>
+    </message>
     <message id="StatusModemFound">
         <source>Modem found</source>
         <translation>已找到调制解调器</translation>
@@ -102,6 +106,10 @@
     <message id="StatusOtherPage">
         <source>The modem does not answer with a status page</source>
         <translation>调制解调器没有返回状态页</translation>
+    </message>
+    <message id="StatusConnecting">
+        <source>Connecting</source>
+        <translation>正在连接</translation>
     </message>
     <message id="StatusNotConnected">
         <source>Not connected</source>

@@ -226,6 +226,10 @@ TEST_F(Companion, AModemWithoutGatewayIsForgottenWithItsRemoval)
     network.addInterface(u"en6"_s);
     unplug();
     EXPECT_EQ(detection(), Detection::WaitingForAddress) << "the other one has no address yet";
+    workspace.sleep();
+    EXPECT_EQ(detection(), Detection::LeftAlone);
+    workspace.wake();
+    EXPECT_EQ(detection(), Detection::WaitingForAddress);
 }
 
 TEST_F(Companion, AFailedPassIsLoggedAndTheNextOneIsTried)

@@ -107,5 +107,7 @@ TEST(ModemDetails, AreWhatThePageTells)
         uR"("international_roaming_setting":"on","flow_reminder_switch":"on",)"
         uR"("reminder_threshold_for_data_usage":"8","last_three_days_rx_bytes":"1073741824")"_s;
     EXPECT_EQ(readModemDetails(page, readStatusFields(page)),
-              (ModemDetails{true, SimState::NeedsPuk, false, true, true, 8, 1}));
+              (ModemDetails{true, false, SimState::NeedsPuk, false, true, true, 8, 1}));
+    EXPECT_TRUE(readModemDetails(u"ppp_status: 'ppp_connecting'"_s, {}).connecting);
+    EXPECT_FALSE(readModemDetails(u"ppp_status: 'ppp_disconnecting'"_s, {}).connecting);
 }

@@ -93,11 +93,11 @@ void IconMenu::apply()
     m_clickPage = m_content.clickPage;
     m_click->setText(clickText(m_clickPage));
     m_click->setEnabled(m_clickPage != Page::None);
-    m_modemPage->setEnabled(m_content.hasModem);
+    m_modemPage->setEnabled(isPolled(m_content.situation));
     if (m_messages)
         m_messages->setEnabled(m_content.hasMessages);
     if (m_settings)
-        m_settings->setText(m_content.offersSetup ? qtTrId("MenuSetUpModem") : qtTrId("MenuSettings"));
+        m_settings->setText(wantsSetup(m_content.situation) ? qtTrId("MenuSetUpModem") : qtTrId("MenuSettings"));
     applyNews();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "status/NewsHistory.h"
+#include "status/Situation.h"
 
 #include <QList>
 #include <QMenu>
@@ -13,11 +14,10 @@ namespace tarvo {
 
 /// What the icon's menu says.
 struct MenuContent {
+    Situation situation = Situation::NoModem;
     QString summary{};
     Page clickPage = Page::None; ///< what a click on the icon opens; `None` when it opens no page
-    bool hasModem = false;
     bool hasMessages = false; ///< the page of the messages can be opened at present
-    bool offersSetup = false; ///< a device is there that is not set up, or the settings name none
     QList<ToldNews> news{};
 
     bool operator==(const MenuContent &) const = default;

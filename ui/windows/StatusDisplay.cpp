@@ -61,13 +61,11 @@ void StatusDisplay::setStatus(const CompanionStatus &status)
 void StatusDisplay::refresh()
 {
     m_with.icon.setStatusToolTip(tipOf(m_status));
-    m_with.menu.setContent(
-        {.summary = summaryOf(m_status),
-         .clickPage = m_with.pages.clickPage(),
-         .hasModem = m_status.detection == Detection::Attached,
-         .hasMessages = m_with.pages.canOpen(Page::Messages),
-         .offersSetup = m_status.detection == Detection::NotSetUp || m_status.settingsProblem != SettingsProblem::None,
-         .news = m_news.news()});
+    m_with.menu.setContent({.situation = situationOf(m_status),
+                            .summary = summaryOf(m_status),
+                            .clickPage = m_with.pages.clickPage(),
+                            .hasMessages = m_with.pages.canOpen(Page::Messages),
+                            .news = m_news.news()});
 }
 
 void StatusDisplay::showWindow()

@@ -1,6 +1,7 @@
 #include "ui/windows/StatusWindow.h"
 
 #include "status/DataAmounts.h"
+#include "status/Situation.h"
 #include "ui/look/Images.h"
 #include "ui/windows/UsageBar.h"
 #include "ui/windows/UsagePlot.h"
@@ -165,21 +166,20 @@ void StatusWindow::refresh()
 
 void StatusWindow::showAmounts(const CompanionStatus &status)
 {
-    const bool attached = status.detection == Detection::Attached && status.snapshot.answering.value_or(false);
+    const bool known = answers(situationOf(status));
     const StatusSnapshot &snapshot = status.snapshot;
-    const auto fill = [](const Amount &amount, const UsageBar::Amounts &amounts, bool known) {
-        const QString text = known ? amountOfLimit(amounts.used, amounts.limit) : u"–"_s;
+    const auto fill = [](const Amount &amount, const UsageBar::Amounts &amounts, bool told) {
+        const QString text = told ? amountOfLimit(amounts.used, amounts.limit) : u"–"_s;
         amount.text->setText(text);
-        const auto shown = [&](double value) { return known && isKnownAmount(value) ? value : 0; };
+        const auto shown = [&](double value) { return told && isKnownAmount(value) ? value : 0; };
         amount.bar->setAmounts({shown(amounts.used), shown(amounts.reminder), shown(amounts.limit)}, text);
     };
     fill(m_month,
          {static_cast<double>(snapshot.m_useData), static_cast<double>(snapshot.details.reminderThreshold),
           static_cast<double>(snapshot.m_totalMonthData)},
-         attached && snapshot.details.countsMonth);
+         known && snapshot.details.countsMonth);
     fill(m_threeDays,
-         {static_cast<double>(snapshot.details.threeDayUse), 0, static_cast<double>(snapshot.m_totalThreeData)},
-         attached);
+         {static_cast<double>(snapshot.details.threeDayUse), 0, static_cast<double>(snapshot.m_totalThreeData)}, known);
 }
 
 void StatusWindow::copyDetails() const

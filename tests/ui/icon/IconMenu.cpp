@@ -41,19 +41,20 @@ TEST(IconMenu, HasTheSameEntriesAtAllTimesAndStandsStillWhileItIsOpen)
     EXPECT_EQ(texts(menu.menu()), before);
 
     menu.menu().popup({});
-    menu.setContent({.summary = u"Rock & Roll"_s,
+    menu.setContent({.situation = Situation::NotAnswering,
+                     .summary = u"Rock & Roll"_s,
                      .clickPage = Page::Firmware,
-                     .hasModem = true,
                      .hasMessages = true,
-                     .offersSetup = true,
                      .news = {{QDateTime::currentDateTime(), {u"news"_s, Page::Firmware}}}});
     EXPECT_EQ(texts(menu.menu()), before);
     menu.menu().close();
     QCoreApplication::processEvents();
     EXPECT_EQ(texts(menu.menu()),
               (QStringList{u"Rock && Roll"_s, u"MenuOpenFirmwarePage"_s, u"MenuOpenModemPage"_s, u"MenuOpenMessages"_s,
-                           u"MenuRecentNews"_s, u"MenuSetUpModem"_s, u"MenuAbout"_s, u"MenuQuit"_s}));
+                           u"MenuRecentNews"_s, u"MenuSettings"_s, u"MenuAbout"_s, u"MenuQuit"_s}));
     for (QAction *action : menu.menu().actions())
         action->menu() ? action->menu()->actions().first()->trigger() : action->trigger();
     EXPECT_EQ(done.join(u','), u"status,page 2,modem,messages,page 2,settings,about,quit"_s);
+    menu.setContent({.situation = Situation::NotSetUp});
+    EXPECT_TRUE(texts(menu.menu()).contains(u"MenuSetUpModem"_s));
 }
