@@ -36,14 +36,14 @@ ApplicationService::ApplicationService(BusConnection &bus, QString applicationId
     , m_handlers(std::move(handlers))
     , m_properties(std::move(properties))
 {
+    m_bus.serve(applicationObjectPath(m_applicationId), *this);
     m_bus.follow(
-        this, [this] { busFound(); }, [] {});
+        this, [this] { requestName(); }, [] {});
 }
 
-void ApplicationService::busFound()
+void ApplicationService::requestName()
 {
     constexpr quint32 doNotQueue = 4;
-    m_bus.serve(applicationObjectPath(m_applicationId), *this);
     m_bus.callBus(u"RequestName"_s, {m_applicationId, doNotQueue}, this, [](const QDBusMessage &) {});
 }
 

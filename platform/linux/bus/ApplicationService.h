@@ -32,7 +32,7 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
-    void busFound();
+    void requestName();
     /// @return the answer to @p question of the interface org.freedesktop.DBus.Properties
     QDBusMessage answerAboutProperties(const QDBusMessage &question) const;
 

@@ -2,6 +2,7 @@
 
 #include "platform/linux/bus/BusAddress.h"
 
+#include <QDBusError>
 #include <QDBusPendingCallWatcher>
 #include <QFile>
 #include <QFileInfo>
@@ -31,6 +32,11 @@ QString unusedName()
 {
     static int count = 0;
     return u"tarvo-bus-%1"_s.arg(++count);
+}
+
+QDBusMessage noBus()
+{
+    return QDBusMessage::createError(QDBusError::Disconnected, u"there is no bus"_s);
 }
 
 QString socketPathOf(const QString &address)
@@ -92,14 +98,20 @@ void BusConnection::follow(QObject *receiver, const Handler &found, const Handle
 
 void BusConnection::call(const QDBusMessage &message, QObject *receiver, const Answer &answered, int timeout)
 {
-    if (m_name.isEmpty())
+    if (m_name.isEmpty()) {
+        QMetaObject::invokeMethod(
+            receiver, [answered] { answered(noBus()); }, Qt::QueuedConnection);
         return;
+    }
     auto *const pending = new QDBusPendingCallWatcher(connection().asyncCall(message, timeout), receiver);
-    connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending, answered, asked = m_name] {
+    const auto answerOnce = [this, pending, answered](const QDBusMessage &answer) {
+        pending->disconnect(this);
+        disconnect(pending);
         pending->deleteLater();
-        if (asked == m_name)
-            answered(pending->reply());
-    });
+        answered(answer);
+    };
+    connect(pending, &QDBusPendingCallWatcher::finished, this, [=] { answerOnce(pending->reply()); });
+    connect(this, &BusConnection::closed, pending, [=] { answerOnce(noBus()); });
 }
 
 void BusConnection::callBus(const QString &method, const QVariantList &arguments, QObject *receiver,
@@ -112,7 +124,9 @@ void BusConnection::callBus(const QString &method, const QVariantList &arguments
 
 void BusConnection::serve(const QString &path, QDBusVirtualObject &object)
 {
-    connection().registerVirtualObject(path, &object);
+    m_served.emplace_back(path, &object);
+    if (m_state == State::Found)
+        connection().registerVirtualObject(path, &object);
 }
 
 void BusConnection::send(const QDBusMessage &message)
@@ -124,12 +138,29 @@ void BusConnection::send(const QDBusMessage &message)
 void BusConnection::subscribe(const QString &path, const QString &interface, const QString &signal, QObject *receiver,
                               const char *slot, const QString &firstArgument)
 {
-    const auto isFirst = firstArgument.isEmpty() ? QString() : u",arg0='%1'"_s.arg(firstArgument);
+    m_subscriptions.push_back({path, interface, signal, receiver, slot, firstArgument});
+    if (m_state == State::Found)
+        watch(m_subscriptions.back());
+}
+
+void BusConnection::watch(const Subscription &to)
+{
+    const auto isFirst = to.firstArgument.isEmpty() ? QString() : u",arg0='%1'"_s.arg(to.firstArgument);
     callBus(u"AddMatch"_s,
-            {u"type='signal',path='%1',interface='%2',member='%3'%4"_s.arg(path, interface, signal, isFirst)}, this,
-            [](const QDBusMessage &) {});
-    const auto arguments = firstArgument.isEmpty() ? QStringList() : QStringList{firstArgument};
-    connection().connect(QString(), path, interface, signal, arguments, QString(), receiver, slot);
+            {u"type='signal',path='%1',interface='%2',member='%3'%4"_s.arg(to.path, to.interface, to.signal, isFirst)},
+            this, [](const QDBusMessage &) {});
+    const auto arguments = to.firstArgument.isEmpty() ? QStringList() : QStringList{to.firstArgument};
+    connection().connect(QString(), to.path, to.interface, to.signal, arguments, QString(), to.receiver, to.slot);
+}
+
+void BusConnection::restore()
+{
+    std::erase_if(m_subscriptions, [](const Subscription &each) { return !each.receiver; });
+    std::erase_if(m_served, [](const auto &each) { return !each.second; });
+    for (const Subscription &each : m_subscriptions)
+        watch(each);
+    for (const auto &[path, object] : m_served)
+        connection().registerVirtualObject(path, object);
 }
 
 void BusConnection::open()
@@ -181,6 +212,7 @@ void BusConnection::greet()
             return disconnected();
         m_attempts = 0;
         watchFolder({});
+        restore();
         setState(State::Found);
     });
 }
@@ -197,6 +229,7 @@ void BusConnection::disconnected()
         return; // the end of a connection is told in several ways
     close();
     setState(State::Lost);
+    Q_EMIT closed();
     waitForBus(false);
 }
 

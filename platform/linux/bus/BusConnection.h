@@ -4,21 +4,25 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QFileSystemWatcher>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 
 #include <functional>
 #include <limits>
 #include <memory>
+#include <utility>
+#include <vector>
 
-class QDBusVirtualObject;
 class QSocketNotifier;
 
 namespace tarvo {
 
-/// A connection to a message bus that never waits for the bus, and that is made again when the bus comes back.
+/// A connection to a message bus that never waits for the bus, and that is made again when the bus comes back. What is
+/// watched or served is so on each connection.
 ///
 /// A bus that listens but does not answer counts as none until it answers. One that is not there is tried again a few
 /// times, each after a longer while. From then on nothing wakes up until something happens where the bus puts its socket.
@@ -43,8 +47,9 @@ public:
     /// and at once the one that is true by now; for as long as @p receiver lives.
     void follow(QObject *receiver, const Handler &found, const Handler &lost);
 
-    /// Makes a call; nothing without a bus.
-    /// @param answered  given the reply or the error, unless @p receiver or the connection is gone by then
+    /// Makes a call.
+    /// @param answered  given the reply or the error later and once, unless @p receiver or this object is gone by then;
+    ///                  without a bus, or when the bus goes, the error `QDBusError::Disconnected`, after @p lost is called
     /// @param timeout   milliseconds until there is an error in place of a reply
     void call(const QDBusMessage &message, QObject *receiver, const Answer &answered, int timeout = endless);
     /// Calls @p method of the bus itself, as above.
@@ -52,10 +57,10 @@ public:
     /// Sends @p message without wanting a reply; nothing without a bus.
     void send(const QDBusMessage &message);
 
-    /// Lets @p object answer what is sent to @p path from now on, for as long as both it and the connection live.
+    /// Lets @p object answer what is sent to @p path from now on, for as long as both live.
     void serve(const QString &path, QDBusVirtualObject &object);
 
-    /// Has @p slot of @p receiver called by a signal from now on, for as long as the bus is connected.
+    /// Has @p slot of @p receiver called by a signal from now on, for as long as both live.
     ///
     /// Whoever may talk to the bus may send that signal to us: where that matters the slot looks at the sender.
     /// @param firstArgument  what the signal's first argument must be; empty for any
@@ -68,15 +73,27 @@ private Q_SLOTS:
 Q_SIGNALS:
     void found();
     void lost();
+    void closed(); ///< what was asked over the connection that was there will not be answered
 
 private:
     enum class State { Unknown, Lost, Found };
+
+    struct Subscription {
+        QString path;
+        QString interface;
+        QString signal;
+        QPointer<QObject> receiver;
+        const char *slot;
+        QString firstArgument;
+    };
 
     void open();
     void probeChanged();
     void dropProbe();
     void greet();
     void close();
+    void watch(const Subscription &to);
+    void restore();
     void setState(State state);
     void waitForBus(bool listens);
     void watchFolder(const QString &folder);
@@ -89,6 +106,8 @@ private:
     std::unique_ptr<BusProbe> m_probe;
     std::unique_ptr<QSocketNotifier> m_probeNotifier;
     QString m_name; ///< of the present connection; empty without one
+    std::vector<Subscription> m_subscriptions;
+    std::vector<std::pair<QString, QPointer<QDBusVirtualObject>>> m_served; ///< by path
     QTimer m_patience;
     QTimer m_retry;
     int m_attempts = 0;

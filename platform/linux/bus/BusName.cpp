@@ -2,6 +2,8 @@
 
 #include "platform/linux/bus/BusConnection.h"
 
+#include <QDBusError>
+
 #include <utility>
 
 namespace tarvo {
@@ -13,8 +15,10 @@ BusName::BusName(BusConnection &bus, QString name, Handler changed)
     , m_name(std::move(name))
     , m_changed(std::move(changed))
 {
+    m_bus.subscribe(u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s, this,
+                    SLOT(ownerChanged(QDBusMessage)), m_name);
     m_bus.follow(
-        this, [this] { busFound(); }, [this] { busLost(); });
+        this, [this] { askForOwner(); }, [this] { busLost(); });
 }
 
 void BusName::call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments,
@@ -23,15 +27,12 @@ void BusName::call(const QString &path, const QString &interface, const QString 
     auto message = QDBusMessage::createMethodCall(owner().isEmpty() ? m_name : owner(), path, interface, method);
     message.setArguments(arguments);
     m_bus.call(message, receiver, [this, answered, asked = owner()](const QDBusMessage &answer) {
-        if (asked == owner())
-            answered(answer);
+        answered(asked == owner() ? answer : QDBusMessage::createError(QDBusError::Disconnected, u"it has gone"_s));
     });
 }
 
-void BusName::busFound()
+void BusName::askForOwner()
 {
-    m_bus.subscribe(u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s, this,
-                    SLOT(ownerChanged(QDBusMessage)), m_name);
     // The answer comes among the signals in the order in which the bus saw it all, so the last word is right.
     m_bus.callBus(u"GetNameOwner"_s, {m_name}, this, [this](const QDBusMessage &answer) {
         const bool owned = answer.type() == QDBusMessage::ReplyMessage;

@@ -26,7 +26,8 @@ public:
     BusName(BusConnection &bus, QString name, Handler changed);
 
     /// Calls @p method of the name's owner. While nobody owns the name, the bus may start somebody for the call.
-    /// @param answered  given the reply or the error, unless the name has another owner or @p receiver is gone by then
+    /// @param answered  given the reply or the error, as by `BusConnection::call`; the error `QDBusError::Disconnected` when
+    ///                  the name has another owner by then
     void call(const QString &path, const QString &interface, const QString &method, const QVariantList &arguments,
               QObject *receiver, const Answer &answered);
 
@@ -34,7 +35,7 @@ private Q_SLOTS:
     void ownerChanged(const QDBusMessage &signal);
 
 private:
-    void busFound();
+    void askForOwner();
     void busLost();
     void tell(const QString &owner);
     QString owner() const { return m_told.value_or(QString()); }

@@ -50,8 +50,11 @@ DesktopNotifications::DesktopNotifications(BusConnection &bus, SystemLog &system
     , m_systemLog(systemLog)
     , m_service(bus, serviceName(), [this](const QString &owner) { ownerChanged(owner); })
 {
+    const QString path = u"/org/freedesktop/Notifications"_s;
+    m_bus.subscribe(path, serviceName(), u"ActionInvoked"_s, this, SLOT(actionInvoked(QDBusMessage)));
+    m_bus.subscribe(path, serviceName(), u"NotificationClosed"_s, this, SLOT(notificationClosed(QDBusMessage)));
     m_bus.follow(
-        this, [this] { askWhetherStartable(); }, [this] { busLost(); });
+        this, [this] { askWhetherStartable(); }, [this] { m_startable = false; });
 }
 
 DesktopNotifications::~DesktopNotifications()
@@ -60,19 +63,8 @@ DesktopNotifications::~DesktopNotifications()
         closeAtService(place.identifier);
 }
 
-void DesktopNotifications::busLost()
-{
-    m_startable = false;
-    for (auto &[kind, place] : m_places) // what is asked for will not be answered any more
-        if (const auto answered = std::exchange(place.answered, {}))
-            answered(false);
-}
-
 void DesktopNotifications::askWhetherStartable()
 {
-    const QString path = u"/org/freedesktop/Notifications"_s;
-    m_bus.subscribe(path, serviceName(), u"ActionInvoked"_s, this, SLOT(actionInvoked(QDBusMessage)));
-    m_bus.subscribe(path, serviceName(), u"NotificationClosed"_s, this, SLOT(notificationClosed(QDBusMessage)));
     m_bus.callBus(u"ListActivatableNames"_s, {}, this, [this](const QDBusMessage &answer) {
         m_startable = answer.arguments().value(0).toStringList().contains(serviceName());
     });

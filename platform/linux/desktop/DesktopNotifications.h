@@ -43,7 +43,6 @@ private:
         std::function<void(bool shown)> answered{}; ///< empty when the request was answered, or nobody wants to know
     };
 
-    void busLost();
     void askWhetherStartable();
     void ownerChanged(const QString &owner);
     QStringList actionsOf(const Notification &notification) const;

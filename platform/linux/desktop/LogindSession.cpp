@@ -2,6 +2,7 @@
 
 #include "platform/linux/bus/BusConnection.h"
 
+#include <QDBusError>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
@@ -20,6 +21,12 @@ const QString sessionInterface = u"org.freedesktop.login1.Session"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 constexpr std::chrono::seconds grace{5};
 
+/// @return whether the logind that was asked has gone; who comes next is asked again
+bool hasGone(const QDBusMessage &answer)
+{
+    return QDBusError(answer).type() == QDBusError::Disconnected;
+}
+
 } // namespace
 
 LogindSession::LogindSession(BusConnection &bus, Handler changed)
@@ -30,13 +37,6 @@ LogindSession::LogindSession(BusConnection &bus, Handler changed)
     m_grace.setSingleShot(true);
     m_grace.setInterval(grace);
     connect(&m_grace, &QTimer::timeout, this, [this] { setActive(true); });
-    m_bus.follow(
-        this, [this] { busFound(); }, [] {});
-}
-
-void LogindSession::busFound()
-{
-    m_followed.clear();
     for (const char *const signal : {"SessionNew", "SessionRemoved"})
         m_bus.subscribe(managerPath, managerInterface, QLatin1String(signal), this,
                         SLOT(sessionsChanged(QDBusMessage)));
@@ -58,6 +58,8 @@ void LogindSession::findSession()
     m_name.call(managerPath, managerInterface, u"GetSession"_s, {u"auto"_s}, this, [this](const QDBusMessage &answer) {
         if (answer.type() == QDBusMessage::ReplyMessage)
             return followSession(answer.arguments().value(0).value<QDBusObjectPath>().path());
+        if (hasGone(answer))
+            return;
         m_session.clear();
         setActive(true);
     });
@@ -78,6 +80,8 @@ void LogindSession::readState()
 {
     m_name.call(m_session, propertiesInterface, u"Get"_s, {sessionInterface, u"Active"_s}, this,
                 [this](const QDBusMessage &answer) {
+                    if (hasGone(answer))
+                        return;
                     const QVariant active = answer.arguments().value(0).value<QDBusVariant>().variant();
                     setActive(answer.type() != QDBusMessage::ReplyMessage || active.toBool());
                 });

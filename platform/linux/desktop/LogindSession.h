@@ -33,7 +33,6 @@ private Q_SLOTS:
     void propertiesChanged(const QDBusMessage &signal);
 
 private:
-    void busFound();
     void ownerChanged(const QString &owner);
     void findSession();
     void followSession(const QString &path);
@@ -44,7 +43,7 @@ private:
     const Handler m_changed;
     QString m_owner; ///< the unique name of logind; empty while there is none
     QString m_session; ///< the path of the session's object; empty while none is known
-    QStringList m_followed; ///< the paths whose signals come, of the present connection
+    QStringList m_followed; ///< the paths whose signals come
     bool m_active = true;
     QTimer m_grace; ///< runs while a logind that went may just be starting anew
     BusName m_name;

@@ -3,6 +3,7 @@
 #include "platform/SystemLog.h"
 #include "platform/linux/bus/BusConnection.h"
 
+#include <QDBusError>
 #include <QDBusVariant>
 
 #include <utility>
@@ -23,19 +24,14 @@ LogindSleep::LogindSleep(BusConnection &bus, SystemLog &log, Handler willSleep, 
     : m_log(log)
     , m_willSleep(std::move(willSleep))
     , m_didWake(std::move(didWake))
-    , m_bus(bus)
     , m_name(bus, u"org.freedesktop.login1"_s, [this](const QString &owner) { ownerChanged(owner); })
 {
-    m_bus.follow(
-        this, [this] { busFound(); }, [this] { busLost(); });
+    bus.subscribe(path, managerInterface, u"PrepareForSleep"_s, this, SLOT(prepareForSleep(QDBusMessage)));
+    bus.follow(
+        this, [] {}, [this] { busLost(); });
 }
 
 LogindSleep::~LogindSleep() = default;
-
-void LogindSleep::busFound()
-{
-    m_bus.subscribe(path, managerInterface, u"PrepareForSleep"_s, this, SLOT(prepareForSleep(QDBusMessage)));
-}
 
 void LogindSleep::busLost()
 {
@@ -96,6 +92,8 @@ void LogindSleep::call(const QString &interface, const QString &method, const QV
                        const Answer &answered)
 {
     m_name.call(path, interface, method, arguments, this, [this, method, answered](const QDBusMessage &answer) {
+        if (QDBusError(answer).type() == QDBusError::Disconnected)
+            return; // who comes next is asked again
         const bool isReply = answer.type() == QDBusMessage::ReplyMessage;
         if (!isReply)
             logOnce(u"logind does not answer %1: %2"_s.arg(method, answer.errorMessage()));

@@ -35,10 +35,9 @@ private Q_SLOTS:
     void prepareForSleep(const QDBusMessage &signal);
 
 private:
-    /// Given the first value of a reply; no value when there was an error.
+    /// Given the first value of a reply; no value when there was an error. Not called once that logind has gone.
     using Answer = std::function<void(const QVariant &value)>;
 
-    void busFound();
     void busLost();
     void ownerChanged(const QString &owner);
     void readState();
@@ -50,7 +49,6 @@ private:
     SystemLog &m_log;
     const Handler m_willSleep;
     const Handler m_didWake;
-    BusConnection &m_bus;
     QString m_owner; ///< the unique name of the logind that is listened to; empty while none is known
     bool m_ownerAsked = false; ///< the bus has told who owns the name, if anybody
     QDBusUnixFileDescriptor m_lock;

@@ -38,12 +38,6 @@ NotifierHosts::NotifierHosts(BusConnection &bus, std::function<void()> changed)
     , m_bus(bus)
     , m_watcher(bus, watcherService, [this](const QString &owner) { ownerChanged(owner); })
 {
-    m_bus.follow(
-        this, [this] { busFound(); }, [] {});
-}
-
-void NotifierHosts::busFound()
-{
     for (const char *const signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.subscribe(watcherPath, watcherService, QLatin1String(signal), this, SLOT(askForHost()));
     m_bus.subscribe(watcherPath, watcherService, u"StatusNotifierItemRegistered"_s, this,

@@ -33,7 +33,6 @@ public:
     bool offersItems(quint32 process) const { return m_itemProcesses.contains(process); }
 
 private:
-    void busFound();
     void ownerChanged(const QString &owner);
     void hostAnswered(const QDBusMessage &answer);
     void setHosted(bool hosted);
