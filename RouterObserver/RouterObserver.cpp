@@ -22,7 +22,7 @@ namespace {
 constexpr qsizetype maxBSDNameSize = 255;
 
 /// How long a router may come after its interface's address.
-constexpr std::chrono::seconds gatewayPatience(3);
+constexpr std::chrono::seconds gatewayTimeout(3);
 
 QVariantList deviceIdentifiers(const QString &key)
 {
@@ -65,8 +65,8 @@ RouterObserver::RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &devic
     , systemLog_(systemLog)
     , preferences_{dynamicStore}
 {
-    gatewayPatience_.setSingleShot(true);
-    QObject::connect(&gatewayPatience_, &QTimer::timeout, &gatewayPatience_, [this] { noteMissingGateways(); });
+    gatewayTimer_.setSingleShot(true);
+    QObject::connect(&gatewayTimer_, &QTimer::timeout, &gatewayTimer_, [this] { noteMissingGateways(); });
 }
 
 RouterObserver::~RouterObserver() = default;
@@ -178,7 +178,7 @@ void RouterObserver::updateSupportedInterfaceIPv4(DynamicStoreSession &session, 
         resetModemPlugedInTime();
         const ReadyDictionary ready = readyDictionary(entry, service);
         if (!ready.router)
-            gatewayPatience_.start(gatewayPatience);
+            gatewayTimer_.start(gatewayTimeout);
         ipv4Observer(ready);
         return;
     }

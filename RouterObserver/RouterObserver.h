@@ -120,7 +120,7 @@ private:
     std::unique_ptr<DynamicStoreSession> ipv4MonitorRls_;
     bool watchIPv4On_ = false;
     std::optional<QDateTime> modemPlugedInTime_;
-    QTimer gatewayPatience_; ///< runs when an interface had no router lately
+    QTimer gatewayTimer_; ///< runs when an interface had no router lately
     QSet<IOServiceHandle> withoutGateway_; ///< devices of which that has been logged
 };
 

@@ -12,7 +12,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr milliseconds connectPatience{500}; // a modem is a cable's length away
+constexpr milliseconds slowConnectTime{500}; // a modem is a cable's length away
 
 const CurlLibrary &curl()
 {
@@ -117,7 +117,7 @@ HttpAnswer CurlTransfer::fetch(const QUrl &url, const HttpRequest &request, Link
     describe(answer);
     const bool inVain = result == CURLE_OPERATION_TIMEDOUT && receipt.size == 0;
     const milliseconds connecting(told<curl_off_t>(CURLINFO_CONNECT_TIME_T) / 1000);
-    m_hadToWait = told<long>(CURLINFO_NUM_CONNECTS) > 0 && (inVain || connecting >= connectPatience);
+    m_hadToWait = told<long>(CURLINFO_NUM_CONNECTS) > 0 && (inVain || connecting >= slowConnectTime);
     if (result == CURLE_OK)
         answer.data = std::move(receipt.body);
     else

@@ -16,7 +16,7 @@ using std::chrono::steady_clock;
 namespace {
 
 constexpr int maximumRedirects = 5;
-constexpr milliseconds secondConnectionPatience{1000};
+constexpr milliseconds secondConnectionTimeout{1000};
 
 bool sameServer(const QUrl &one, const QUrl &other)
 {
@@ -59,7 +59,7 @@ private:
         const auto left = [&] { return std::chrono::duration_cast<milliseconds>(deadline - steady_clock::now()); };
         const Link link = linkFor(request);
         if (link == Link::Kept && m_isOpen && !m_canBeKept) {
-            const milliseconds limit = std::min(left(), secondConnectionPatience);
+            const milliseconds limit = std::min(left(), secondConnectionTimeout);
             HttpAnswer answer = m_transfer.fetch(url, request, Link::Own, limit, stop);
             keep(answer.status != 0);
             if (!answer.error)

@@ -12,7 +12,7 @@ namespace tarvo {
 
 namespace {
 
-constexpr std::chrono::milliseconds patienceAtTheEnd{500};
+constexpr std::chrono::milliseconds endTimeout{500};
 
 } // namespace
 
@@ -34,7 +34,7 @@ Background::~Background()
 {
     m_state->stop.request_stop();
     std::unique_lock lock(m_state->mutex);
-    m_state->ended.wait_for(lock, patienceAtTheEnd, [this] { return m_state->running == 0; });
+    m_state->ended.wait_for(lock, endTimeout, [this] { return m_state->running == 0; });
     m_state->results.reset();
 }
 

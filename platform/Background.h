@@ -31,9 +31,9 @@ public:
         });
     }
 
-    /// The same, but delivers @p otherwise when there is no result after @p patience. Work that cannot be ended goes on.
+    /// The same, but delivers @p otherwise when there is no result after @p timeout. Work that cannot be ended goes on.
     template <typename Result>
-    void runFor(std::chrono::milliseconds patience, Result otherwise, std::function<Result(std::stop_token stop)> work,
+    void runFor(std::chrono::milliseconds timeout, Result otherwise, std::function<Result(std::stop_token stop)> work,
                 std::function<void(const Result &result)> deliver)
     {
         const std::function<void(const Result &)> deliverOnce = [delivered = std::make_shared<bool>(false),
@@ -42,7 +42,7 @@ public:
                 deliver(result);
         };
         run<Result>(std::move(work), deliverOnce);
-        QTimer::singleShot(patience, &m_timers,
+        QTimer::singleShot(timeout, &m_timers,
                            [deliverOnce, otherwise = std::move(otherwise)] { deliverOnce(otherwise); });
     }
 

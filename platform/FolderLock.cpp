@@ -19,9 +19,9 @@ FolderLock::~FolderLock()
         close(m_descriptor);
 }
 
-bool FolderLock::take(const QString &path, std::chrono::milliseconds patience)
+bool FolderLock::take(const QString &path, std::chrono::milliseconds timeout)
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     m_descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     while (m_descriptor >= 0 && flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         if (std::chrono::steady_clock::now() > deadline)

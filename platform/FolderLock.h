@@ -16,8 +16,8 @@ public:
     FolderLock &operator=(const FolderLock &) = delete;
 
     /// Takes the lock of the folder at @p path, once.
-    /// @return false when others held it for as long as @p patience; where folders have no locks, nobody holds any
-    bool take(const QString &path, std::chrono::milliseconds patience);
+    /// @return false when others held it for as long as @p timeout; where folders have no locks, nobody holds any
+    bool take(const QString &path, std::chrono::milliseconds timeout);
 
 private:
     int m_descriptor = -1;

@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A desktop whose bus says nothing is not waited for any longer.
-constexpr std::chrono::seconds desktopPatience{5};
+constexpr std::chrono::seconds desktopTimeout{5};
 /// Longer than the requests to a modem take.
-constexpr std::chrono::seconds patience{30};
+constexpr std::chrono::seconds readTimeout{30};
 
 bool sendsAccessPoints(const QVariantMap &settings)
 {
@@ -81,17 +81,17 @@ void Survey::check(std::function<void(const QList<Check> &checks)> deliver)
     gathering->facts = factsAtHand(settings);
     gathering->deliver = std::move(deliver);
     gather<DesktopFacts>(
-        gathering, desktopPatience, [read = m_services.readDesktop](const std::stop_token &) { return read(); },
+        gathering, desktopTimeout, [read = m_services.readDesktop](const std::stop_token &) { return read(); },
         [](ChainFacts &facts, const DesktopFacts &desktop) { facts.desktop = desktop; });
     if (!settings.path.isEmpty() && sendsAccessPoints(settings.values)) {
         gather<ProfileFacts>(
-            gathering, patience, [read = m_services.readProfiles](const std::stop_token &) { return read(); },
+            gathering, readTimeout, [read = m_services.readProfiles](const std::stop_token &) { return read(); },
             [](ChainFacts &facts, const ProfileFacts &profiles) { facts.profiles = profiles; });
     }
     const std::optional<Device> device = deviceToCheck(gathering->facts.devices);
     if (device && !device->network.gateway.isEmpty()) {
         gather<ModemFacts>(
-            gathering, patience,
+            gathering, readTimeout,
             [question = questionFor(*device, settings.values)](const std::stop_token &stop) {
                 return askModem(question, stop);
             },
@@ -115,7 +115,7 @@ ChainFacts Survey::factsAtHand(const SettingsInForce &settings) const
 void Survey::restartCompanion(std::function<void(ActionResult result)> deliver)
 {
     m_background.runFor<ActionResult>(
-        desktopPatience, ActionResult::Failed,
+        desktopTimeout, ActionResult::Failed,
         [restart = m_services.restartCompanion](const std::stop_token &) { return restart(); }, std::move(deliver));
 }
 

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostBackups = 100;
-constexpr std::chrono::seconds patience{5}; // a change takes far less
+constexpr std::chrono::seconds lockTimeout{5}; // a change takes far less
 
 bool isIdentifier(const QVariant &value)
 {
@@ -101,7 +101,7 @@ QString claimSettings(FolderLock &lock, Scope scope)
         return refusal;
     const QString folder = QFileInfo(path).path();
     makeFolder(folder, scope);
-    return lock.take(folder, patience) ? QString() : qtTrId("SettingsBeingChanged").arg(folder);
+    return lock.take(folder, lockTimeout) ? QString() : qtTrId("SettingsBeingChanged").arg(folder);
 }
 
 /// Settings to start a change from.

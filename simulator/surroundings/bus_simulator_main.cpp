@@ -18,11 +18,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 10s;
+constexpr auto answerTimeout = 10s;
 
 bool becomes(const std::function<bool()> &condition)
 {
-    return QTest::qWaitFor(condition, static_cast<int>(std::chrono::milliseconds(patience).count()));
+    return QTest::qWaitFor(condition, static_cast<int>(std::chrono::milliseconds(answerTimeout).count()));
 }
 
 /// Puts the machine to sleep as logind does: when the lock to delay it has been given back.
@@ -42,7 +42,7 @@ std::string timeToAnswer(const QDBusConnection &bus)
     const QDBusMessage answer =
         bus.call(QDBusMessage::createMethodCall(u"io.github.tarvo.Tarvo"_s, u"/io/github/tarvo/Tarvo"_s,
                                                 u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s),
-                 QDBus::Block, std::chrono::milliseconds(patience).count());
+                 QDBus::Block, std::chrono::milliseconds(answerTimeout).count());
     return answer.type() == QDBusMessage::ReplyMessage ? std::to_string(timer.elapsed()) : "no answer";
 }
 

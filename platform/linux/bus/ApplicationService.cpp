@@ -20,7 +20,7 @@ namespace {
 
 const QString applicationInterface = u"org.freedesktop.Application"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
-constexpr auto patience = 4s;
+constexpr auto activationTimeout = 4s;
 
 } // namespace
 
@@ -107,7 +107,7 @@ bool activateRunningApplication(const QString &busAddress, const QString &applic
                  [&](const QDBusMessage &answer) { loop.exit(answer.type() == QDBusMessage::ReplyMessage ? 1 : 0); });
     };
     bus.follow(&loop, activate, [&] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QTimer::singleShot(activationTimeout, &loop, &QEventLoop::quit);
     return loop.exec() == 1;
 }
 

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::milliseconds patience{500}; // with the first answer, before the bus counts as none
+constexpr std::chrono::milliseconds answerTimeout{500}; // with the first answer, before the bus counts as none
 constexpr int maxAttempts = 5;
 constexpr std::chrono::seconds firstPause{1};
 constexpr long maxMessageSize = 64 << 10;
@@ -72,9 +72,9 @@ BusConnection::BusConnection(QString address)
     , m_socketPath(socketPathOf(m_address))
 {
     m_retry.setSingleShot(true);
-    m_patience.setSingleShot(true);
+    m_answerTimer.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &BusConnection::open);
-    connect(&m_patience, &QTimer::timeout, this, [this] { setState(State::Lost); });
+    connect(&m_answerTimer, &QTimer::timeout, this, [this] { setState(State::Lost); });
     connect(&m_folders, &QFileSystemWatcher::directoryChanged, this, &BusConnection::socketFolderChanged);
     // From the event loop, so that whoever follows from the start is told in the order of following.
     QMetaObject::invokeMethod(this, &BusConnection::open, Qt::QueuedConnection);
@@ -167,7 +167,7 @@ void BusConnection::open()
 {
     m_retry.stop();
     if (m_state == State::Unknown)
-        m_patience.start(patience);
+        m_answerTimer.start(answerTimeout);
     dropProbe();
     m_probe = std::make_unique<BusProbe>(m_address);
     if (m_probe->descriptor() >= 0) {
@@ -235,7 +235,7 @@ void BusConnection::disconnected()
 
 void BusConnection::setState(State state)
 {
-    m_patience.stop();
+    m_answerTimer.stop();
     if (std::exchange(m_state, state) == state)
         return;
     state == State::Found ? Q_EMIT found() : Q_EMIT lost();

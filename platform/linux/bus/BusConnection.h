@@ -108,7 +108,7 @@ private:
     QString m_name; ///< of the present connection; empty without one
     std::vector<Subscription> m_subscriptions;
     std::vector<std::pair<QString, QPointer<QDBusVirtualObject>>> m_served; ///< by path
-    QTimer m_patience;
+    QTimer m_answerTimer; ///< runs until the bus has given its first answer, or counts as none
     QTimer m_retry;
     int m_attempts = 0;
     QFileSystemWatcher m_folders;

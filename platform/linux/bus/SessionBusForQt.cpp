@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 1s;
+constexpr auto answerTimeout = 1s;
 constexpr const char *variable = "DBUS_SESSION_BUS_ADDRESS";
 
 std::optional<QByteArray> valueOf(const char *name)
@@ -27,7 +27,7 @@ std::optional<QByteArray> valueOf(const char *name)
 bool isMute(const QString &address)
 {
     BusProbe bus(address);
-    const QDeadlineTimer end(patience);
+    const QDeadlineTimer end(answerTimeout);
     while (bus.update() == BusProbe::State::Mute && bus.descriptor() >= 0 && !end.hasExpired()) {
         pollfd answer{.fd = bus.descriptor(), .events = POLLIN, .revents = 0};
         poll(&answer, 1, static_cast<int>(end.remainingTime()));

@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto patience = 1s; // then it is shown in another way
+constexpr auto displayTimeout = 1s; // then it is shown in another way
 
 const QString &serviceName()
 {
@@ -99,7 +99,7 @@ void DesktopNotifications::show(const Notification &notification, std::function<
             shown(answer, place, request, opened);
         },
         answerTimeout);
-    QTimer::singleShot(patience, this, [this, kind = notification.kind, request] { giveUp(kind, request); });
+    QTimer::singleShot(displayTimeout, this, [this, kind = notification.kind, request] { giveUp(kind, request); });
 }
 
 QStringList DesktopNotifications::actionsOf(const Notification &notification) const

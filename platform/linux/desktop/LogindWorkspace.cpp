@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto openerPatience = 15s;
+constexpr auto openerTimeout = 15s;
 
 /// Starts @p program with @p url as its argument. On a desktop without an opener of its own it stays for as long as the
 /// browser that it has started, or is that browser: so it is left alone, and goes on when we end. One that shows nothing
@@ -45,7 +45,7 @@ void runOpener(const QString &program, const QUrl &url, QObject &listener, const
         process->deleteLater();
         failed();
     });
-    QTimer::singleShot(openerPatience, &listener, [process = QPointer(process), &listener, failed] {
+    QTimer::singleShot(openerTimeout, &listener, [process = QPointer(process), &listener, failed] {
         if (!process)
             return;
         process->disconnect(&listener);

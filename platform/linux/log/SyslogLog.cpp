@@ -20,8 +20,8 @@ void writeOrCount(const QByteArray &line, quint64 &lost, const Write &write)
 
 } // namespace
 
-SyslogLog::SyslogLog(const QByteArray &socketPath, std::chrono::milliseconds patience)
-    : m_patience(patience)
+SyslogLog::SyslogLog(const QByteArray &socketPath, std::chrono::milliseconds tellDelay)
+    : m_tellDelay(tellDelay)
     , m_syslog(socketPath)
 {
     m_silence.setSingleShot(true);
@@ -42,16 +42,16 @@ void SyslogLog::write(const QString &line)
     // Not at each line: the thread of the timer would wake up for it.
     if (m_repetitions.isPending() && !std::exchange(m_awaitsSilence, true))
         QMetaObject::invokeMethod(
-            &m_silence, [this] { m_silence.start(m_patience); }, Qt::QueuedConnection);
+            &m_silence, [this] { m_silence.start(m_tellDelay); }, Qt::QueuedConnection);
 }
 
 void SyslogLog::tellWhatIsPending()
 {
     const std::scoped_lock lock(m_mutex);
     const auto silentFor = std::chrono::steady_clock::now() - m_lastSaid;
-    m_awaitsSilence = m_repetitions.isPending() && silentFor < m_patience;
+    m_awaitsSilence = m_repetitions.isPending() && silentFor < m_tellDelay;
     if (m_awaitsSilence)
-        m_silence.start(std::chrono::ceil<std::chrono::milliseconds>(m_patience - silentFor));
+        m_silence.start(std::chrono::ceil<std::chrono::milliseconds>(m_tellDelay - silentFor));
     else
         writeAll(m_repetitions.finish());
 }

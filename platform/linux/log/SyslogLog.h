@@ -21,9 +21,9 @@ namespace tarvo {
 class SyslogLog final : public SystemLog {
 public:
     /// @param socketPath  where syslog takes lines
-    /// @param patience    how long nothing is said before what is pending is told
+    /// @param tellDelay   how long nothing is said before what is pending is told
     explicit SyslogLog(const QByteArray &socketPath = "/dev/log",
-                       std::chrono::milliseconds patience = std::chrono::seconds(5));
+                       std::chrono::milliseconds tellDelay = std::chrono::seconds(5));
     ~SyslogLog() override;
     SyslogLog(const SyslogLog &) = delete;
     SyslogLog &operator=(const SyslogLog &) = delete;
@@ -36,7 +36,7 @@ private:
 
     std::mutex m_mutex;
     RepetitionFilter m_repetitions;
-    const std::chrono::milliseconds m_patience;
+    const std::chrono::milliseconds m_tellDelay;
     std::chrono::steady_clock::time_point m_lastSaid;
     bool m_awaitsSilence = false; ///< the timer runs, or is about to
     QTimer m_silence;

@@ -21,11 +21,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto publicationDelay = 200ms; // udev takes less to rename a new link
-constexpr auto breath = 4ms; // in a storm, many events to a wake-up, but fewer than the socket holds
+constexpr auto wakeUpInterval = 4ms; // in a storm, many events to a wake-up, but fewer than the socket holds
 constexpr auto gapLineInterval = 10s;
 constexpr int mostRoundsAtOnce = 4;
 constexpr int messagesBetweenEvents = 32;
-constexpr std::chrono::milliseconds mostPatience = 30s;
+constexpr std::chrono::milliseconds longestReadAgainDelay = 30s;
 
 bool isLoopback(const NetworkLink &link)
 {
@@ -45,7 +45,7 @@ NetlinkDynamicStore::NetlinkDynamicStore(SystemLog &systemLog, LeaseFacts &lease
     : m_systemLog(systemLog)
     , m_leases(leases)
     , m_available(m_events.isOpen() && m_events.subscribe())
-    , m_patience(publicationDelay)
+    , m_readAgainDelay(publicationDelay)
 {
     if (!m_available) {
         m_systemLog.write(u"network state: no netlink socket"_s);
@@ -69,11 +69,11 @@ void NetlinkDynamicStore::followEvents()
         receiveEvents();
         publishSoon();
         m_notifier->setEnabled(false);
-        m_breathTimer.start(breath);
+        m_pauseTimer.start(wakeUpInterval);
     });
-    m_breathTimer.setSingleShot(true);
-    m_breathTimer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&m_breathTimer, &QTimer::timeout, m_notifier.get(), [this] { m_notifier->setEnabled(true); });
+    m_pauseTimer.setSingleShot(true);
+    m_pauseTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_pauseTimer, &QTimer::timeout, m_notifier.get(), [this] { m_notifier->setEnabled(true); });
 }
 
 NetlinkDynamicStore::~NetlinkDynamicStore()
@@ -147,9 +147,10 @@ void NetlinkDynamicStore::readEverything()
     m_gap = false;
     m_readAgainTimer.stop();
     if (outcome == NetlinkSocket::Dumped::Interrupted)
-        m_readAgainTimer.start(m_patience);
-    m_patience =
-        outcome == NetlinkSocket::Dumped::Interrupted ? std::min(2 * m_patience, mostPatience) : publicationDelay;
+        m_readAgainTimer.start(m_readAgainDelay);
+    m_readAgainDelay = outcome == NetlinkSocket::Dumped::Interrupted
+        ? std::min(2 * m_readAgainDelay, longestReadAgainDelay)
+        : publicationDelay;
 }
 
 void NetlinkDynamicStore::readRoutes()

@@ -70,7 +70,7 @@ private:
     NetworkModel m_model;
     /// Something was missed: the model is to be read again.
     bool m_gap = true;
-    std::chrono::milliseconds m_patience; ///< until what was read while it changed is read again
+    std::chrono::milliseconds m_readAgainDelay; ///< until what was read while it changed is read again
     QDeadlineTimer m_nextGapLine;
 
     LinkEntries m_linkEntries;
@@ -79,7 +79,7 @@ private:
     std::function<void(int)> m_linkRemoved;
 
     std::unique_ptr<QSocketNotifier> m_notifier;
-    QTimer m_breathTimer; ///< runs while the notifier is off
+    QTimer m_pauseTimer; ///< runs while the notifier is off
     QTimer m_publicationTimer;
     QTimer m_readAgainTimer;
 };

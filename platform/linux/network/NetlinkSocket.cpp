@@ -33,8 +33,8 @@ NetlinkSocket::NetlinkSocket()
     if (!m_socket || nl_connect(m_socket.get(), NETLINK_ROUTE) < 0)
         return;
     nl_socket_set_buffer_size(m_socket.get(), receiveBufferBytes, 0);
-    const timeval patience{.tv_sec = 1, .tv_usec = 0}; // the kernel answers at once, or not at all
-    m_open = setsockopt(descriptor(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience) == 0;
+    const timeval timeout{.tv_sec = 1, .tv_usec = 0}; // the kernel answers at once, or not at all
+    m_open = setsockopt(descriptor(), SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout) == 0;
 }
 
 int NetlinkSocket::descriptor() const

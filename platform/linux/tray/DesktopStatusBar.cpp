@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto settlingTime = 1s;
+constexpr auto settlingDelay = 1s;
 
 bool isKnownForwarder(quint32 process)
 {
@@ -115,7 +115,7 @@ BarKind DesktopStatusBar::settled(BarKind wanted)
     if (m_hasSettled || !m_trays)
         return wanted;
     if (!m_settling.isActive())
-        m_settling.start(settlingTime);
+        m_settling.start(settlingDelay);
     return BarKind::None;
 }
 
