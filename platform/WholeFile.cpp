@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <system_error>
 
 namespace tarvo {
 
@@ -19,7 +18,7 @@ QString writeWholeFile(const QString &path, const QByteArray &bytes,
     if (file.write(bytes) != bytes.size() || !file.flush())
         return file.errorString();
     if (fsync(file.handle()) != 0 && errno != EINVAL) // which says that there is nothing to wait for
-        return QString::fromStdString(std::generic_category().message(errno));
+        return qt_error_string(errno);
     return file.commit() ? QString() : file.errorString();
 }
 

@@ -15,7 +15,6 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <system_error>
 
 namespace tarvo {
 
@@ -61,7 +60,7 @@ QString rename(const QString &from, const QString &to)
 {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0
         ? QString()
-        : u"%1: %2"_s.arg(from, QString::fromStdString(std::generic_category().message(errno)));
+        : u"%1: %2"_s.arg(from, qt_error_string(errno));
 }
 
 /// Moves what is at @p path aside, which takes no room on the disk.
