@@ -21,6 +21,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Some desktops leave this role black on their dark windows.
+void setQuietText()
+{
+    QPalette quiet;
+    QColor text = QApplication::palette().color(QPalette::WindowText);
+    text.setAlphaF(0.6F);
+    quiet.setColor(QPalette::PlaceholderText, text);
+    QApplication::setPalette(quiet);
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     static tarvo::DemoFolder folder; // static, so that it also goes where the parser ends the program
@@ -31,11 +45,7 @@ int main(int argc, char **argv)
     });
     QApplication::setApplicationName(u"tarvo-demo"_s);
     QApplication::setWindowIcon(tarvo::applicationImage());
-    QPalette quiet; // some desktops leave this role black on their dark windows
-    QColor quietText = QApplication::palette().color(QPalette::WindowText);
-    quietText.setAlphaF(0.6F);
-    quiet.setColor(QPalette::PlaceholderText, quietText);
-    QApplication::setPalette(quiet);
+    setQuietText();
     for (const QString &program : {u"tarvo"_s, u"tarvo-setup"_s})
         tarvo::installTranslations(application, QLocale(), program);
     QCommandLineParser parser;
