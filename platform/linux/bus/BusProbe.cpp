@@ -20,6 +20,9 @@ constexpr qsizetype maxAnswerSize = 4096;
 
 /// The call that a bus wants first: a header of 16 bytes, then path, destination, interface and member, each in a
 /// multiple of eight bytes (D-Bus specification, "Message Format").
+///
+/// The sd-bus of libsystemd, which is loaded in any case, would say it for us; half a megabyte more of that library would
+/// then stay in memory for the sake of these bytes.
 QByteArray helloMessage()
 {
     static constexpr char bytes[] = "l\1\0\1\0\0\0\0\1\0\0\0\x6e\0\0\0"
