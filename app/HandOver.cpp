@@ -17,6 +17,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
+constexpr const char *variable = "TARVO_HAND_OVER";
 constexpr qsizetype longestText = 64 * 1024;
 constexpr qsizetype longestAddress = 64;
 
@@ -69,6 +70,18 @@ RecentDeeds::Deed readDeed(const QJsonObject &json)
 }
 
 } // namespace
+
+HandOver takeHandOver()
+{
+    const HandOver handOver = readHandOver(qgetenv(variable));
+    qunsetenv(variable);
+    return handOver;
+}
+
+void leaveHandOver(const HandOver &handOver)
+{
+    qputenv(variable, toText(handOver));
+}
 
 QByteArray toText(const HandOver &handOver)
 {

@@ -17,6 +17,13 @@ struct HandOver {
     bool operator==(const HandOver &) const = default;
 };
 
+/// @return what the program whose place this one takes has left; once, so that the programs that this one starts do not
+///         find it
+HandOver takeHandOver();
+
+/// Leaves @p handOver to the program that takes the place of this one, when it executes itself anew.
+void leaveHandOver(const HandOver &handOver);
+
 /// @return @p handOver as one line of text
 QByteArray toText(const HandOver &handOver);
 

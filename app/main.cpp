@@ -1,5 +1,7 @@
 #include "RouterObserver/ConfigManager.h"
 #include "RouterObserver/SettingFile.h"
+#include "app/Arguments.h"
+#include "app/HandOver.h"
 #include "app/MainController.h"
 #include "platform/linux/bus/ApplicationService.h"
 #include "platform/linux/bus/BusAddress.h"
@@ -39,14 +41,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString applicationId = u"io.github.tarvo.Tarvo"_s;
-const char *const handOverVariable = "TARVO_HAND_OVER"; // what the program that starts over hands to the new one
-
-/// Begins anew, as only a new process can show its icon in a host of a session bus that came late; not at once, lest a bus
-/// in trouble keeps the program busy.
-void startOverLater(QApplication &application)
-{
-    QTimer::singleShot(std::chrono::seconds(10), &application, [] { QApplication::exit(Restart::exitStatus); });
-}
 
 /// @return the program that makes the settings, beside this one or in the PATH; empty when it is not installed
 QString findSetupProgram()
@@ -65,29 +59,6 @@ QString deviceName(UsbNetworkDevices &devices, const QString &interfaceName)
     return {};
 }
 
-/// Carries out the command line, which only asks for texts. @return the exit status; nil when the program shall run
-std::optional<int> answerArguments(int argc, char **argv)
-{
-    const QByteArrayView argument(argc > 1 ? argv[1] : "");
-    if (argument.isEmpty())
-        return std::nullopt;
-    if (argument == "--version") {
-        QTextStream(stdout) << "tarvo " TARVO_VERSION "\n";
-        return EXIT_SUCCESS;
-    }
-    if (argument == "--help") {
-        QTextStream(stdout) << "Usage: tarvo\n"
-                               "Shows the state of a USB broadband modem in the status bar, and keeps running.\n"
-                               "When it runs already, shows its status window.\n\n"
-                               "  --help     Show this text.\n"
-                               "  --version  Show the version.\n\n"
-                               "Settings are made with tarvo-setup(1). See tarvo(1) for more.\n";
-        return EXIT_SUCCESS;
-    }
-    QTextStream(stderr) << "tarvo: unknown argument " << argv[1] << "; see tarvo --help\n";
-    return EXIT_FAILURE;
-}
-
 /// Has the instance that runs already show itself. @return the exit status
 int showRunningInstance()
 {
@@ -100,7 +71,7 @@ int showRunningInstance()
 /// The operating system and the desktop, as the controller sees them.
 class Surroundings {
 public:
-    Surroundings(QApplication &application, SystemLog &systemLog);
+    Surroundings(Restart &restart, SystemLog &systemLog);
 
     Services services();
     BusConnection &sessionBus() { return m_sessionBus; }
@@ -125,9 +96,9 @@ private:
     UdevUsbNetworkDevices m_usbDevices;
 };
 
-Surroundings::Surroundings(QApplication &application, SystemLog &systemLog)
+Surroundings::Surroundings(Restart &restart, SystemLog &systemLog)
     : m_systemLog(systemLog)
-    , m_statusBar(m_sessionBus, [&application] { startOverLater(application); })
+    , m_statusBar(m_sessionBus, [&restart] { restart.requestLater(); }) // the icon shows only in a new process then
 {
     m_lookAgain.setSingleShot(true);
     QObject::connect(&m_lookAgain, &QTimer::timeout, &m_lookAgain, [this] {
@@ -188,19 +159,11 @@ void logSettings(SystemLog &systemLog)
         systemLog.write(*problem);
 }
 
-/// @return what was handed over to this program, which the programs that it starts are not to find
-HandOver takeHandOver()
-{
-    const HandOver handOver = readHandOver(qgetenv(handOverVariable));
-    qunsetenv(handOverVariable);
-    return handOver;
-}
-
 int run(QApplication &application, SystemLog &systemLog)
 {
     logSettings(systemLog);
-    Surroundings surroundings(application, systemLog);
     Restart restart;
+    Surroundings surroundings(restart, systemLog);
     MainController controller(surroundings.services());
     const ApplicationService service(
         surroundings.sessionBus(), applicationId,
@@ -217,7 +180,7 @@ int run(QApplication &application, SystemLog &systemLog)
     controller.applicationDidFinishLaunching();
     const int status = QApplication::exec();
     if (status == Restart::exitStatus)
-        qputenv(handOverVariable, toText(controller.handOver()));
+        leaveHandOver(controller.handOver());
     return status;
 }
 

@@ -41,8 +41,18 @@ Restart::Restart()
 
 void Restart::request()
 {
-    if (!m_timer.isActive())
-        m_timer.start(std::max(m_last + pauseBetween - now(), 0ms));
+    endIn(std::max(m_last + pauseBetween - now(), 0ms));
+}
+
+void Restart::requestLater()
+{
+    endIn(pauseBetween);
+}
+
+void Restart::endIn(milliseconds pause)
+{
+    if (!m_timer.isActive() || m_timer.remainingTimeAsDuration() > pause)
+        m_timer.start(pause);
 }
 
 void Restart::execute(char **argv)
