@@ -112,8 +112,9 @@ void MainController::startGetModemInfo()
 
 void MainController::startGetModemStatus()
 {
-    m_icon.showPolling();
+    m_display.setImage(u"online"_s);
     attach();
+    m_icon.startToolbarStatus();
 }
 
 void MainController::attach()
@@ -134,6 +135,7 @@ void MainController::stopGetModemStatus()
         m_balloon.toggleAttachedWindowAtPoint(qtTrId("DeviceRemovedTip"));
     m_balloon.withdraw();
     m_updateAlert.close();
+    m_display.setImage({});
     m_icon.showRemoval();
     detect();
 }

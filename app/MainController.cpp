@@ -43,9 +43,10 @@ MainController::MainController(Services services)
                      .isScreenComposited = m_services.isScreenComposited,
                      .iconFrame = [this] { return m_icon.frame(); }})
     , m_updateAlert(m_pages)
-    , m_news({m_monitor.snapshot(), m_pages, m_icon, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog, [this](const StandingNews &news) { m_display.addNews(news); },
-              [this] { m_display.refresh(); }, [this](int type) { return m_recentDeeds.claim(type); }})
+    , m_news({m_monitor.snapshot(), m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
+              m_services.systemLog, [this](const QString &image) { m_display.setImage(image); },
+              [this](const StandingNews &news) { m_display.addNews(news); }, [this] { m_display.refresh(); },
+              [this](int type) { return m_recentDeeds.claim(type); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
     , m_poller(m_services.clock, m_services.systemLog,
@@ -120,6 +121,7 @@ void MainController::applicationDidFinishLaunching()
     if (!routerObserver_)
         routerObserver_ =
             std::make_unique<RouterObserver>(m_services.dynamicStore, m_services.deviceRegistry, m_services.systemLog);
+    m_display.refresh();
     m_icon.startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
         RouterReports{[this](const ReadyDictionary &ready) { procECMReady(ready); },
@@ -134,7 +136,6 @@ void MainController::applicationDidFinishLaunching()
         log(line);
     m_display.setSettingsProblem(problem);
     detect();
-    m_display.refresh();
 }
 
 void MainController::detect()

@@ -140,4 +140,10 @@ QString tipOf(const CompanionStatus &status)
     return lines.join(u'\n');
 }
 
+QString pictureOf(const CompanionStatus &status, const QString &image)
+{
+    const bool isAsleep = situationOf(status) == Situation::Asleep;
+    return isAsleep || image.isEmpty() ? u"ready"_s : image;
+}
+
 } // namespace tarvo

@@ -48,4 +48,8 @@ QList<StandingNews> standingNews(const CompanionStatus &status);
 /// @return the icon's tool tip: the summary, then each standing piece of news in a line of its own
 QString tipOf(const CompanionStatus &status);
 
+/// @param image  the name of the one that was asked for last; empty for none
+/// @return the name of the image that stands for how things are
+QString pictureOf(const CompanionStatus &status, const QString &image);
+
 } // namespace tarvo

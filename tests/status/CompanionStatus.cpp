@@ -91,6 +91,13 @@ TEST(CompanionStatus, TheTipHoldsEachStandingNewsInALine)
     EXPECT_EQ(tipOf(status), u"No modem"_s);
 }
 
+TEST(CompanionStatus, ThePictureIsTheOneThatWasAskedForUnlessTheModemIsLeftAlone)
+{
+    EXPECT_EQ(pictureOf({.detection = Detection::Attached}, u"newVersion"_s), u"newVersion"_s);
+    EXPECT_EQ(pictureOf({}, {}), u"ready"_s);
+    EXPECT_EQ(pictureOf({.detection = Detection::LeftAlone}, u"newVersion"_s), u"ready"_s);
+}
+
 TEST(StatusRows, AreAlwaysTheSameAndSayWhatIsKnown)
 {
     const InLanguage english(QLocale::English);

@@ -16,10 +16,16 @@ using namespace std::chrono_literals;
 
 StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Actions actions)
     : m_statusBar(statusBar)
-    , m_systemLog(systemLog)
     , m_menu(menu)
     , m_actions(std::move(actions))
+    , cview_(std::make_unique<CustomView>(systemLog))
 {
+    QObject::connect(cview_.get(), &CustomView::clicked, &m_context, [this] { clicked(); });
+    QObject::connect(cview_.get(), &CustomView::mouseEntered, &m_context, m_actions.pointerEntered);
+    QObject::connect(cview_.get(), &CustomView::appearanceChanged, &m_context, [this] {
+        if (statusItem_)
+            statusItem_->viewChanged();
+    });
 }
 
 StatusIcon::~StatusIcon() = default;
@@ -28,47 +34,16 @@ void StatusIcon::startToolbarStatus()
 {
     if (!configurationFlag(u"IsDisplayNetStatusInToolBar"_s) || statusItem_)
         return;
-    createStatusItems(u"ready"_s);
-}
-
-void StatusIcon::showPolling()
-{
-    if (!configurationFlag(u"IsDisplayNetStatusInToolBar"_s))
-        return;
-    if (statusItem_)
-        setStatusImage(u"online"_s);
-    else
-        createStatusItems(u"online"_s);
-}
-
-void StatusIcon::showRemoval()
-{
-    if (!configurationFlag(u"NeedDisplayWhenDeviceRemoved"_s)) {
-        removeStatusItems();
-        return;
-    }
-    setStatusImage(u"ready"_s);
-}
-
-void StatusIcon::createStatusItems(const QString &imageName)
-{
     statusDisplay_ = m_statusBar.createItem(variableStatusItemLength);
     statusItem_ = m_statusBar.createItem(squareStatusItemLength);
-    cview_ = std::make_unique<CustomView>(m_systemLog);
-    cview_->setImage(imageName);
-    cview_->setTip(m_toolTip);
-    QObject::connect(cview_.get(), &CustomView::clicked, &m_context, [this] { clicked(); });
-    QObject::connect(cview_.get(), &CustomView::mouseEntered, &m_context, m_actions.pointerEntered);
-    QObject::connect(cview_.get(), &CustomView::appearanceChanged, &m_context, [this] {
-        if (statusItem_)
-            statusItem_->viewChanged();
-    });
     statusItem_->setMenu(&m_menu);
     statusItem_->setView(cview_.get());
 }
 
-void StatusIcon::removeStatusItems()
+void StatusIcon::showRemoval()
 {
+    if (configurationFlag(u"NeedDisplayWhenDeviceRemoved"_s))
+        return;
     statusItem_.reset();
     statusDisplay_.reset();
 }
@@ -83,20 +58,12 @@ void StatusIcon::clicked()
 
 void StatusIcon::setStatusImage(const QString &name)
 {
-    if (cview_)
-        cview_->setImage(name);
+    cview_->setImage(name);
 }
 
 void StatusIcon::setStatusToolTip(const QString &toolTip)
 {
-    m_toolTip = toolTip;
-    if (cview_)
-        cview_->setTip(toolTip);
-}
-
-QString StatusIcon::image() const
-{
-    return cview_ ? cview_->image() : u"ready"_s;
+    cview_->setTip(toolTip);
 }
 
 std::optional<QRect> StatusIcon::frame() const

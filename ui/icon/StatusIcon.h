@@ -32,20 +32,15 @@ public:
     StatusIcon(const StatusIcon &) = delete;
     StatusIcon &operator=(const StatusIcon &) = delete;
 
-    /// Creates the status items and the icon, once, where the settings want them.
+    /// Creates the status items with the icon, unless they are there, where the settings want them.
     void startToolbarStatus();
-    /// Polling starts: the icon is there, and shows "online", where the settings want it.
-    void showPolling();
-    /// The modem is gone: the icon shows "ready", or goes along, as the settings say.
+    /// The modem is gone: so is the icon, where the settings say so.
     void showRemoval();
 
-    /// Shows the image named @p name; nothing without an icon.
+    /// Shows the image named @p name, whenever the icon is in the bar.
     void setStatusImage(const QString &name);
-    /// Sets the tool tip, of this icon and of one that comes later.
+    /// Sets the tool tip, likewise.
     void setStatusToolTip(const QString &toolTip);
-
-    /// @return the name of the image that is shown; "ready" without an icon
-    QString image() const;
 
     /// @return where the icon is, in global coordinates with y downwards; nil when that is not known
     std::optional<QRect> frame() const;
@@ -56,21 +51,17 @@ public:
     void disSendcondStatus();
 
 private:
-    void createStatusItems(const QString &imageName);
-    void removeStatusItems();
     void clicked();
 
     StatusBar &m_statusBar;
-    SystemLog &m_systemLog;
     QMenu &m_menu;
     const Actions m_actions;
     QObject m_context; ///< what is connected to it ends with the icon
 
-    std::unique_ptr<CustomView> cview_;
+    const std::unique_ptr<CustomView> cview_;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<StatusItem> statusDisplay_;
     std::unique_ptr<QTimer> firstStatusTimer_;
-    QString m_toolTip;
     QElapsedTimer m_lastClick;
 };
 

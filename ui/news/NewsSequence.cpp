@@ -7,7 +7,6 @@
 #include "platform/SystemLog.h"
 #include "status/DisplayStatus.h"
 #include "ui/balloon/BalloonPresenter.h"
-#include "ui/icon/StatusIcon.h"
 #include "ui/look/Images.h"
 #include "ui/pages/WebPages.h"
 #include "ui/windows/UpdateAlert.h"
@@ -27,6 +26,13 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto perType = 2s; // from one type to the next, besides what is told of it
+
+/// Lets a step of the sequence replace @p image, unless it has none.
+void replace(QString &image, const QString &ofStep)
+{
+    if (!ofStep.isEmpty())
+        image = ofStep;
+}
 
 } // namespace
 
@@ -61,14 +67,7 @@ void NewsSequence::startDisPlayUIStatusThread(const Work &work)
 
 void NewsSequence::showNormalState(const Work &work)
 {
-    const QString normal = u"online"_s;
-    bool changed = false;
-    work.whileAttached([&] {
-        changed = std::exchange(m_shownImage, normal) != normal;
-        m_image = normal;
-    });
-    if (changed)
-        work.post(m_with.mainThread, [this, normal] { m_with.icon.setStatusImage(normal); });
+    work.whileAttached([&] { ask(work, u"online"_s); });
 }
 
 bool NewsSequence::startDisplayFlowing() const
@@ -117,9 +116,10 @@ NewsSequence::Rest NewsSequence::restToTell(const Work &work)
     if (m_hasThread)
         return rest;
     if (begins) {
+        QString image;
         for (const int type : displayTypes)
-            evaluate(snapshot, type);
-        showEnd(work);
+            replace(image, evaluate(snapshot, type).image);
+        showEnd(work, image);
     }
     return {};
 }
@@ -134,9 +134,10 @@ bool NewsSequence::hasNews(const StatusSnapshot &snapshot, std::span<const int> 
 void NewsSequence::displayUIStatus(const Work &work, const Rest &rest)
 {
     m_with.clock.waitUntil(rest.begins, work.stopToken());
+    QString image;
     for (const int type : rest.types)
-        displayNews(work, type);
-    work.whileAttached([&] { showEnd(work); });
+        replace(image, displayNews(work, type));
+    work.whileAttached([&] { showEnd(work, image); });
     endSequence();
 }
 
@@ -148,7 +149,7 @@ void NewsSequence::endSequence()
     m_hasThread = false;
 }
 
-void NewsSequence::displayNews(const Work &work, int type)
+QString NewsSequence::displayNews(const Work &work, int type)
 {
     const std::stop_token gone = deviceGone();
     DisplayStatus status;
@@ -161,6 +162,7 @@ void NewsSequence::displayNews(const Work &work, int type)
         }
     }
     pause(work.stopToken(), perType);
+    return status.image;
 }
 
 BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image, int type) const
@@ -178,13 +180,13 @@ bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGo
 {
     const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
     work.whileAttached([&] {
-        m_shownImage = status.image;
+        m_image = status.image;
         m_toldClick.reset(); // what is told with the news is that of one step
     });
     const auto asked = std::make_shared<Latch>();
     const auto appeared = std::make_shared<Latch>();
     work.post(m_with.mainThread, [this, status, news, type, asked, appeared] {
-        m_with.icon.setStatusImage(status.image);
+        m_with.showImage(status.image);
         if (status.announcesUpdate)
             m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.balloon.isShown())
@@ -210,10 +212,16 @@ void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
     closed->wait(deviceGone);
 }
 
-void NewsSequence::showEnd(const Work &work)
+void NewsSequence::ask(const Work &work, const QString &image)
 {
-    if (std::exchange(m_shownImage, m_image) != m_image && !m_image.isEmpty())
-        work.post(m_with.mainThread, [this, image = m_image] { m_with.icon.setStatusImage(image); });
+    if (std::exchange(m_image, image) != image)
+        work.post(m_with.mainThread, [this, image] { m_with.showImage(image); });
+}
+
+void NewsSequence::showEnd(const Work &work, const QString &image)
+{
+    if (!image.isEmpty())
+        ask(work, image);
     const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
     if (std::exchange(m_toldClick, click) != click && m_with.clickChanged)
         work.post(m_with.mainThread, m_with.clickChanged);
@@ -249,8 +257,6 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
         status.balloonText.clear();
         status.announcesUpdate = false;
     }
-    if (!status.image.isEmpty())
-        m_image = status.image;
     m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
     m_overrunTold = m_overrunTold || status.tellsOverrun;
     return status;
@@ -259,7 +265,6 @@ DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
 void NewsSequence::forgetShown()
 {
     m_image.clear();
-    m_shownImage.clear();
     m_toldClick.reset();
 }
 

@@ -20,7 +20,6 @@ namespace tarvo {
 
 class BalloonPresenter;
 class SharedSnapshot;
-class StatusIcon;
 class StepQueue;
 class SystemLog;
 class UpdateAlert;
@@ -42,12 +41,13 @@ public:
     struct Surroundings {
         const SharedSnapshot &snapshot;
         WebPages &pages;
-        StatusIcon &icon;
         BalloonPresenter &balloon;
         UpdateAlert &updateAlert;
         StepQueue &mainThread;
         Clock &clock;
         SystemLog &systemLog;
+        /// Told the name of each image that the icon is to show from now on.
+        std::function<void(const QString &image)> showImage;
         /// Told of each piece of news that a balloon tells.
         std::function<void(const StandingNews &news)> told{};
         /// Told when a sequence ended and the icon's click opens another page than was last told.
@@ -74,7 +74,7 @@ public:
     void mouseEnteredHandle(const Work *work);
     /// A status page was evaluated: starts a sequence unless one runs, or has the one that runs tell the news (any thread).
     void startDisPlayUIStatusThread(const Work &work);
-    /// No notice is pending: the icon shows "online", unless it does so already (any thread).
+    /// No notice is pending: the icon is to show "online" (any thread).
     void showNormalState(const Work &work);
     /// The sequence itself, as far as it is still to come (display thread).
     void displayUIStatus(const Work &work, const Rest &rest);
@@ -111,14 +111,18 @@ private:
     /// Evaluates one display type of @p snapshot (while attached).
     DisplayStatus evaluate(StatusSnapshot snapshot, int type);
     /// One step of the sequence: shows what is new for one display type, then waits.
-    void displayNews(const Work &work, int type);
+    /// @return the image that stands for the type's news; empty for none
+    QString displayNews(const Work &work, int type);
     BalloonExtras extrasOf(const StandingNews &news, const QString &image, int type) const;
     /// Shows the balloon of @p status, and waits until it is on the screen. @return whether it came there
     bool showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status, int type);
     /// Closes the balloon, and waits until it is closed.
     void closeBalloon(const std::stop_token &deviceGone);
-    /// Shows the image and tells of the click target that the sequence has led to (while attached).
-    void showEnd(const Work &work);
+    /// Tells the image, unless it is the last that was told (while attached).
+    void ask(const Work &work, const QString &image);
+    /// Tells the image and the click target that the sequence has led to (while attached).
+    /// @param image  empty leaves it as it is
+    void showEnd(const Work &work, const QString &image);
     void forgetShown();
     std::stop_token deviceGone() const;
     void pause(const std::stop_token &stop, std::chrono::seconds duration);
@@ -134,8 +138,7 @@ private:
     // Touched on behalf of the present attachment only.
     PreviousNews m_previous;
     bool m_overrunTold = false; ///< since the last page: what is left counts as its magnitude until the next one
-    QString m_image; ///< the last image that was asked for; empty for none
-    QString m_shownImage; ///< the last one that was shown
+    QString m_image; ///< the last image that was told; empty for none
     std::optional<bool> m_toldClick; ///< whether the click opens the firmware page, as last told; nil after news
 };
 

@@ -44,6 +44,12 @@ void StatusDisplay::setSnapshot(const StatusSnapshot &snapshot, std::chrono::sec
     setStatus(status);
 }
 
+void StatusDisplay::setImage(const QString &image)
+{
+    m_image = image;
+    refresh();
+}
+
 void StatusDisplay::addNews(const StandingNews &news)
 {
     m_news.add(news, QDateTime::currentDateTime());
@@ -60,6 +66,7 @@ void StatusDisplay::setStatus(const CompanionStatus &status)
 
 void StatusDisplay::refresh()
 {
+    m_with.icon.setStatusImage(pictureOf(m_status, m_image));
     m_with.icon.setStatusToolTip(tipOf(m_status));
     m_with.menu.setContent({.situation = situationOf(m_status),
                             .summary = summaryOf(m_status),
@@ -77,7 +84,7 @@ void StatusDisplay::showWindow()
 
 StatusWindowContent StatusDisplay::windowContent() const
 {
-    return {m_with.icon.image(), m_status, m_with.device(), m_usage.samples()};
+    return {pictureOf(m_status, m_image), m_status, m_with.device(), m_usage.samples()};
 }
 
 } // namespace tarvo

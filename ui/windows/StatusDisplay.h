@@ -17,7 +17,7 @@ namespace tarvo {
 class StatusIcon;
 class WebPages;
 
-/// Says how things stand, wherever the user looks: in the icon's tip, its menu, and the status window. What has not
+/// Says how things stand, wherever the user looks: in the icon's image and tip, its menu, and the status window. What has not
 /// changed is not said again. On the main thread.
 class StatusDisplay {
 public:
@@ -40,6 +40,8 @@ public:
     void setSettingsProblem(SettingsProblem problem);
     /// @param sincePlugIn  the modem's age
     void setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn);
+    /// The icon is to show the image named @p image, as long as that suits how things stand; empty for none.
+    void setImage(const QString &image);
     /// Keeps @p news among the recent ones.
     void addNews(const StandingNews &news);
     /// Says how things stand, as what a click opens may have changed.
@@ -54,6 +56,7 @@ private:
 
     const Surroundings m_with;
     CompanionStatus m_status;
+    QString m_image; ///< the last one that was asked for
     NewsHistory m_news;
     UsageHistory m_usage;
     std::unique_ptr<StatusWindow> m_window; ///< made when it is first asked for

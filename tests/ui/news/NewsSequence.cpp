@@ -84,7 +84,8 @@ struct BalloonSequence : AttachedModem {
     UpdateAlert alert{pages};
     QStringList told;
     QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
-    NewsSequence news{{snapshot, pages, icon, balloon, alert, mainThread, clock, systemLog,
+    NewsSequence news{{snapshot, pages, balloon, alert, mainThread, clock, systemLog,
+                       [this](const QString &image) { icon.setStatusImage(image); },
                        [this](const StandingNews &each) { told += each.text; },
                        [this] { clicks += pages.openUpdateUrlWhileHasNewVersion(); }}};
 };
@@ -131,6 +132,9 @@ TEST_F(BalloonSequence, ShowsEachNewsForThreeSecondsAndOnce)
     EXPECT_EQ(statusBar.itemWithView()->viewChanges(), changes) << "nothing alternates";
     EXPECT_EQ(told, (QStringList{u"HaveNewVersionTipWhenConnected"_s, u"DatalimitExceed"_s}));
     EXPECT_EQ(clicks, QList{false}) << "as the last step left it";
+    snapshot.reset({.isHaveNewVersion_ = true});
+    news.startDisPlayUIStatusThread(client.work());
+    EXPECT_TRUE(eventually([&] { return view.image() == u"newVersion"_s; })) << "what stands";
 }
 
 TEST_F(BalloonSequence, CountsTheTimeOfANotificationFromWhenItIsAnsweredAndOpensWhatItTells)
