@@ -112,7 +112,7 @@ void MainController::startGetModemInfo()
 
 void MainController::startGetModemStatus()
 {
-    m_display.setImage(u"online"_s);
+    m_presentation.setImage(u"online"_s);
     attach();
     m_icon.startToolbarStatus();
 }
@@ -135,7 +135,7 @@ void MainController::stopGetModemStatus()
         m_balloon.toggleAttachedWindowAtPoint(qtTrId("DeviceRemovedTip"));
     m_balloon.withdraw();
     m_updateAlert.close();
-    m_display.setImage({});
+    m_presentation.setImage({});
     m_icon.showRemoval();
     detect();
 }

@@ -1,6 +1,6 @@
 #include "app/HandOver.h"
 
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

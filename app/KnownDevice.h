@@ -4,7 +4,7 @@
 #include "app/Services.h"
 #include "attachment/Attachment.h"
 #include "platform/Clock.h"
-#include "status/StatusRows.h"
+#include "status/DetailRows.h"
 
 #include <QtGlobal>
 

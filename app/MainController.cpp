@@ -24,7 +24,7 @@ MainController::MainController(Services services)
                  .changed =
                      [this](const Work &work, const StatusSnapshot &snapshot) {
                          work.post(m_mainThread,
-                                   [this, snapshot] { m_display.setSnapshot(snapshot, m_device.sinceReport()); });
+                                   [this, snapshot] { m_presentation.setSnapshot(snapshot, m_device.sinceReport()); });
                      }})
     , m_pages(
           m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
@@ -32,20 +32,21 @@ MainController::MainController(Services services)
           [this] { return m_recentDeeds.claim(RecentDeeds::openedPages); })
     , m_menu(menuActions())
     , m_icon(m_services.statusBar, m_services.systemLog, m_menu.menu(),
-             {.click = [this] { iconClicked(); },
+             {.clicked = [this] { iconClicked(); },
               .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
-    , m_display({m_icon, m_menu, m_pages, [this] { return m_device.details(m_provisioner.accessPointsSent()); }})
-    , m_balloon({.notifications = m_services.notifications,
-                 .isScreenComposited = m_services.isScreenComposited,
+    , m_presentation({m_icon, m_menu, m_pages}, [this] { return m_device.details(m_provisioner.accessPointsSent()); })
+    , m_balloon(m_services.notifications,
+                {.isScreenComposited = m_services.isScreenComposited,
                  .iconFrame = [this] { return m_icon.frame(); },
                  .clicked = [this] { iconClicked(); }})
-    , m_pageFailure({.notifications = m_services.notifications,
-                     .isScreenComposited = m_services.isScreenComposited,
-                     .iconFrame = [this] { return m_icon.frame(); }})
+    , m_pageFailure(
+          m_services.notifications,
+          {.isScreenComposited = m_services.isScreenComposited, .iconFrame = [this] { return m_icon.frame(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog, [this](const QString &image) { m_display.setImage(image); },
-              [this](const StandingNews &news) { m_display.addNews(news); }, [this] { m_display.refresh(); },
+              m_services.systemLog},
+             {[this](const QString &image) { m_presentation.setImage(image); },
+              [this](const StandingNews &news) { m_presentation.addNews(news); }, [this] { m_presentation.refresh(); },
               [this](int type) { return m_recentDeeds.claim(type); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
@@ -89,7 +90,7 @@ void MainController::iconClicked()
 
 void MainController::showStatus()
 {
-    m_display.showWindow();
+    m_presentation.showWindow();
 }
 
 void MainController::couldNotOpen(const QString &page)
@@ -121,7 +122,7 @@ void MainController::applicationDidFinishLaunching()
     if (!routerObserver_)
         routerObserver_ =
             std::make_unique<RouterObserver>(m_services.dynamicStore, m_services.deviceRegistry, m_services.systemLog);
-    m_display.refresh();
+    m_presentation.refresh();
     m_icon.startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
         RouterReports{[this](const ReadyDictionary &ready) { procECMReady(ready); },
@@ -134,7 +135,7 @@ void MainController::applicationDidFinishLaunching()
         problem == SettingsProblem::None ? unmatchedVendorLine(ConfigManager::sharedConfigManager()) : logLine(problem);
     if (!line.isEmpty())
         log(line);
-    m_display.setSettingsProblem(problem);
+    m_presentation.setSettingsProblem(problem);
     detect();
 }
 
@@ -143,20 +144,20 @@ void MainController::detect()
     const bool supported = routerObserver_ && routerObserver_->hasSupportedInterface();
     const auto unknown = m_unknownModems ? m_unknownModems->first() : std::nullopt;
     if (router())
-        m_display.setDetection(Detection::Attached);
+        m_presentation.setDetection(Detection::Attached);
     else if (supported && isResting())
-        m_display.setDetection(Detection::LeftAlone);
+        m_presentation.setDetection(Detection::LeftAlone);
     else if (supported)
         waitForModem();
     else if (unknown)
-        m_display.setDetection(Detection::NotSetUp, *unknown);
+        m_presentation.setDetection(Detection::NotSetUp, *unknown);
     else
-        m_display.setDetection(Detection::NoModem);
+        m_presentation.setDetection(Detection::NoModem);
 }
 
 void MainController::waitForModem()
 {
-    m_display.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
+    m_presentation.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
     if (!std::exchange(m_preparesHttp, true))
         m_threads.start(&HttpClient::prepare);
 }

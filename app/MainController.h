@@ -21,7 +21,7 @@
 #include "ui/pages/PageFailureNotice.h"
 #include "ui/pages/WebPages.h"
 #include "ui/windows/AboutDialog.h"
-#include "ui/windows/StatusDisplay.h"
+#include "ui/windows/Presentation.h"
 #include "ui/windows/UpdateAlert.h"
 
 #include <QString>
@@ -89,7 +89,7 @@ public:
     const NewsSequence &news() const { return m_news; }
     const WebPages &pages() const { return m_pages; }
     const ApnProvisioner &provisioner() const { return m_provisioner; }
-    const StatusDisplay &display() const { return m_display; }
+    const Presentation &presentation() const { return m_presentation; }
 
 private:
     void log(const QString &line) const;
@@ -97,7 +97,7 @@ private:
     void iconClicked();
     void couldNotOpen(const QString &page);
     std::optional<QString> router() const;
-    /// Tells the display what is detected.
+    /// Has shown what is detected.
     void detect();
     /// A supported modem is there and has no address yet, which leaves time to prepare.
     void waitForModem();
@@ -130,7 +130,7 @@ private:
     WebPages m_pages;
     IconMenu m_menu;
     StatusIcon m_icon;
-    StatusDisplay m_display;
+    Presentation m_presentation;
     BalloonPresenter m_balloon;
     PageFailureNotice m_pageFailure;
     UpdateAlert m_updateAlert;

@@ -1,7 +1,7 @@
 #include "status/CompanionStatus.h"
 
 #include "status/DataAmounts.h"
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 #include "status/Situation.h"
 
 #include <QCoreApplication>
@@ -125,7 +125,7 @@ QList<StandingNews> standingNews(const CompanionStatus &status)
     if (!isPolled(situationOf(status)))
         return news;
     for (const int type : displayTypes) {
-        const DisplayStatus shown = evaluateDisplayType(status.snapshot, type, false);
+        const NewsEffect shown = evaluateDisplayType(status.snapshot, type, false);
         if (shown.isNews)
             news.append({shown.balloonText, pageOf(type)});
     }

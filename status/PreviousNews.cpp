@@ -1,6 +1,6 @@
 #include "status/PreviousNews.h"
 
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 
 #include <algorithm>
 #include <iterator>

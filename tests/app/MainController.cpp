@@ -188,7 +188,7 @@ TEST_F(Companion, WakeWithAReadyModemThatWasNeverReportedStartsAWorkerThatAsksNo
     }
     ASSERT_TRUE(clock.waitForSleepers(1));
     EXPECT_EQ(shownImage(), u"online"_s);
-    EXPECT_NE(controller.display().status().detection, Detection::Attached);
+    EXPECT_NE(controller.presentation().status().detection, Detection::Attached);
     EXPECT_FALSE(systemLog.contains(u"data is nil"_s));
 }
 
@@ -219,7 +219,7 @@ TEST_F(Companion, AModemWithoutGatewayIsForgottenWithItsRemoval)
 {
     registry.addModem(u"en5"_s, 4660, 1);
     registry.addModem(u"en6"_s, 4660, 1);
-    const auto detection = [&] { return controller.display().status().detection; };
+    const auto detection = [&] { return controller.presentation().status().detection; };
     network.addInterface(u"en5"_s);
     network.setIPv4(u"en5"_s, std::nullopt);
     EXPECT_EQ(detection(), Detection::NoGateway);

@@ -1,6 +1,6 @@
 #include "app/HandOver.h"
 #include "simulator/modem/ReceivedRequest.h"
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 #include "tests/support/Companion.h"
 #include "tests/support/PrintQt.h"
 

@@ -1,6 +1,6 @@
 #include "status/CompanionStatus.h"
 
-#include "status/StatusRows.h"
+#include "status/DetailRows.h"
 #include "tests/support/PrintQt.h"
 #include "ui/look/Translations.h"
 
@@ -98,12 +98,12 @@ TEST(CompanionStatus, ThePictureIsTheOneThatWasAskedForUnlessTheModemIsLeftAlone
     EXPECT_EQ(pictureOf({.detection = Detection::LeftAlone}, u"newVersion"_s), u"ready"_s);
 }
 
-TEST(StatusRows, AreAlwaysTheSameAndSayWhatIsKnown)
+TEST(DetailRows, AreAlwaysTheSameAndSayWhatIsKnown)
 {
     const InLanguage english(QLocale::English);
     const DeviceDetails device{.name = u"Stick"_s, .usbIdentity = u"1234:5678"_s, .accessPointsSent = 2};
-    const auto known = statusRows(attached(true, {.connected = true, .dialsByItself = true}), device);
-    const auto unknown = statusRows({}, device);
+    const auto known = detailRows(attached(true, {.connected = true, .dialsByItself = true}), device);
+    const auto unknown = detailRows({}, device);
     ASSERT_EQ(known.size(), unknown.size());
     QStringList values;
     for (qsizetype i = 0; i < known.size(); ++i) {

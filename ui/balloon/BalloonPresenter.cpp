@@ -105,8 +105,9 @@ std::unique_ptr<OvAttachedWindow> balloonInCorner(QWidget *view)
 
 } // namespace
 
-BalloonPresenter::BalloonPresenter(Surroundings surroundings)
-    : m_with(std::move(surroundings))
+BalloonPresenter::BalloonPresenter(Notifications *notifications, Callbacks callbacks)
+    : m_notifications(notifications)
+    , m_callbacks(std::move(callbacks))
     , balloonView_(std::make_unique<QWidget>())
 {
     Ui::BalloonView interface;
@@ -144,13 +145,13 @@ void BalloonPresenter::close()
 void BalloonPresenter::withdraw()
 {
     for (const QString &kind : std::exchange(m_notified, {}))
-        m_with.notifications->close(kind);
+        m_notifications->close(kind);
 }
 
 std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const BalloonExtras &extras)
 {
-    const std::optional<QRect> iconFrame = m_with.iconFrame ? m_with.iconFrame() : std::nullopt;
-    if (iconFrame || !m_with.notifications || !m_with.notifications->available()) {
+    const std::optional<QRect> iconFrame = m_callbacks.iconFrame ? m_callbacks.iconFrame() : std::nullopt;
+    if (iconFrame || !m_notifications || !m_notifications->available()) {
         auto window = showWindow(text, iconFrame);
         if (extras.appeared)
             extras.appeared();
@@ -165,15 +166,15 @@ std::unique_ptr<Balloon> BalloonPresenter::show(const QString &text, const Ballo
                                     .openLabel = extras.openLabel,
                                     .opened = extras.opened};
     return std::make_unique<NotificationBalloon>(
-        *m_with.notifications, notification, [this, text] { return showWindow(text, std::nullopt); }, extras.appeared);
+        *m_notifications, notification, [this, text] { return showWindow(text, std::nullopt); }, extras.appeared);
 }
 
 void BalloonPresenter::listenTo(const OvAttachedWindow &window)
 {
     // Not at once: the window is still handling the event that it tells of.
     const auto clicked = [this] {
-        if (m_with.clicked)
-            m_with.clicked();
+        if (m_callbacks.clicked)
+            m_callbacks.clicked();
         close();
     };
     const auto left = [this] {
@@ -198,7 +199,7 @@ std::unique_ptr<Balloon> BalloonPresenter::showWindow(const QString &text, const
     QPalette palette = ballooonTextField_->palette();
     palette.setColor(QPalette::WindowText, window->borderColor());
     ballooonTextField_->setPalette(palette);
-    window->setTranslucent(m_with.isScreenComposited && m_with.isScreenComposited());
+    window->setTranslucent(m_callbacks.isScreenComposited && m_callbacks.isScreenComposited());
     window->setAccessibleName(text);
     listenTo(*window);
     return std::make_unique<WindowBalloon>(std::move(window));

@@ -33,16 +33,16 @@ struct BalloonExtras {
 /// is known, else as a notification, else in a balloon at the corner near the panel. Used on the main thread only.
 class BalloonPresenter {
 public:
-    /// What the presenter needs from its surroundings, all on the main thread.
-    struct Surroundings {
-        Notifications *notifications = nullptr; ///< outlives the presenter; null where there are none
+    /// What the presenter asks for and tells, all on the main thread.
+    struct Callbacks {
         std::function<bool()> isScreenComposited{}; ///< whether windows may be translucent; empty means no
         /// Tells where the icon is, in global coordinates with y downwards; nil when that is not known.
         std::function<std::optional<QRect>()> iconFrame{};
         std::function<void()> clicked{}; ///< the user has clicked a balloon
     };
 
-    explicit BalloonPresenter(Surroundings surroundings);
+    /// @param notifications  outlives the presenter; null where there are none
+    BalloonPresenter(Notifications *notifications, Callbacks callbacks);
     ~BalloonPresenter();
     BalloonPresenter(const BalloonPresenter &) = delete;
     BalloonPresenter &operator=(const BalloonPresenter &) = delete;
@@ -64,7 +64,8 @@ private:
     std::unique_ptr<Balloon> showWindow(const QString &text, const std::optional<QRect> &iconFrame);
     void listenTo(const OvAttachedWindow &window);
 
-    const Surroundings m_with;
+    Notifications *const m_notifications;
+    const Callbacks m_callbacks;
     std::unique_ptr<QWidget> balloonView_;
     QLabel *ballooonTextField_ = nullptr;
     std::function<void()> m_closed; ///< told when the balloon that is being dismissed has been closed

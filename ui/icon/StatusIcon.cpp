@@ -14,14 +14,14 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Actions actions)
+StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Callbacks callbacks)
     : m_statusBar(statusBar)
     , m_menu(menu)
-    , m_actions(std::move(actions))
+    , m_callbacks(std::move(callbacks))
     , cview_(std::make_unique<CustomView>(systemLog))
 {
     QObject::connect(cview_.get(), &CustomView::clicked, &m_context, [this] { clicked(); });
-    QObject::connect(cview_.get(), &CustomView::mouseEntered, &m_context, m_actions.pointerEntered);
+    QObject::connect(cview_.get(), &CustomView::mouseEntered, &m_context, m_callbacks.pointerEntered);
     QObject::connect(cview_.get(), &CustomView::appearanceChanged, &m_context, [this] {
         if (statusItem_)
             statusItem_->viewChanged();
@@ -53,7 +53,7 @@ void StatusIcon::clicked()
     const bool second = m_lastClick.isValid() && !m_lastClick.hasExpired(QApplication::doubleClickInterval());
     m_lastClick.start();
     if (!second)
-        m_actions.click();
+        m_callbacks.clicked();
 }
 
 void StatusIcon::setStatusImage(const QString &name)

@@ -21,13 +21,13 @@ class SystemLog;
 class StatusIcon {
 public:
     /// What the user does with the icon. Each is called on the main thread.
-    struct Actions {
-        std::function<void()> click; ///< on the icon itself; a double click is one click
+    struct Callbacks {
+        std::function<void()> clicked; ///< on the icon itself; a double click is one click
         std::function<void()> pointerEntered; ///< the icon; not in every bar
     };
 
     /// @param statusBar, systemLog, menu  outlive the icon
-    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Actions actions);
+    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Callbacks callbacks);
     ~StatusIcon();
     StatusIcon(const StatusIcon &) = delete;
     StatusIcon &operator=(const StatusIcon &) = delete;
@@ -55,7 +55,7 @@ private:
 
     StatusBar &m_statusBar;
     QMenu &m_menu;
-    const Actions m_actions;
+    const Callbacks m_callbacks;
     QObject m_context; ///< what is connected to it ends with the icon
 
     const std::unique_ptr<CustomView> cview_;

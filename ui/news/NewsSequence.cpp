@@ -5,7 +5,7 @@
 #include "modemapi/StatusSnapshot.h"
 #include "platform/StepQueue.h"
 #include "platform/SystemLog.h"
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 #include "ui/balloon/BalloonPresenter.h"
 #include "ui/look/Images.h"
 #include "ui/pages/WebPages.h"
@@ -36,8 +36,9 @@ void replace(QString &image, const QString &ofStep)
 
 } // namespace
 
-NewsSequence::NewsSequence(Surroundings surroundings)
-    : m_with(std::move(surroundings))
+NewsSequence::NewsSequence(const Dependencies &dependencies, Callbacks callbacks)
+    : m_with(dependencies)
+    , m_callbacks(std::move(callbacks))
 {
 }
 
@@ -152,17 +153,17 @@ void NewsSequence::endSequence()
 QString NewsSequence::displayNews(const Work &work, int type)
 {
     const std::stop_token gone = deviceGone();
-    DisplayStatus status;
-    work.whileAttached([&] { status = evaluate(m_with.snapshot.get(), type); });
-    if (!status.balloonText.isEmpty()) {
+    NewsEffect effect;
+    work.whileAttached([&] { effect = evaluate(m_with.snapshot.get(), type); });
+    if (!effect.balloonText.isEmpty()) {
         statusDisplayFlowFinishFlag_ = false;
-        if (showBalloon(work, gone, status, type)) {
+        if (showBalloon(work, gone, effect, type)) {
             pause(gone, 3s);
             closeBalloon(gone);
         }
     }
     pause(work.stopToken(), perType);
-    return status.image;
+    return effect.image;
 }
 
 BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &image, int type) const
@@ -175,27 +176,26 @@ BalloonExtras NewsSequence::extrasOf(const StandingNews &news, const QString &im
             .opened = [this, page = news.page] { m_with.pages.open(page); }};
 }
 
-bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status,
-                               int type)
+bool NewsSequence::showBalloon(const Work &work, const std::stop_token &deviceGone, const NewsEffect &effect, int type)
 {
-    const StandingNews news{status.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
+    const StandingNews news{effect.balloonText, type == DisplayType::NewVersion ? Page::Firmware : Page::DataLimit};
     work.whileAttached([&] {
-        m_image = status.image;
+        m_image = effect.image;
         m_toldClick.reset(); // what is told with the news is that of one step
     });
     const auto asked = std::make_shared<Latch>();
     const auto appeared = std::make_shared<Latch>();
-    work.post(m_with.mainThread, [this, status, news, type, asked, appeared] {
-        m_with.showImage(status.image);
-        if (status.announcesUpdate)
+    work.post(m_with.mainThread, [this, effect, news, type, asked, appeared] {
+        m_callbacks.showImage(effect.image);
+        if (effect.announcesUpdate)
             m_with.updateAlert.showAlertMsgForUpdate();
         if (m_with.balloon.isShown())
             m_with.balloon.toggleAttachedWindowAtPoint(news.text);
-        BalloonExtras extras = extrasOf(news, status.image, type);
+        BalloonExtras extras = extrasOf(news, effect.image, type);
         extras.appeared = [appeared] { appeared->open(); };
         m_with.balloon.toggleAttachedWindowAtPoint(news.text, extras);
-        if (m_with.told)
-            m_with.told(news);
+        if (m_callbacks.told)
+            m_callbacks.told(news);
         asked->open();
     });
     return asked->wait(work.stopToken()) && appeared->wait(deviceGone);
@@ -215,7 +215,7 @@ void NewsSequence::closeBalloon(const std::stop_token &deviceGone)
 void NewsSequence::ask(const Work &work, const QString &image)
 {
     if (std::exchange(m_image, image) != image)
-        work.post(m_with.mainThread, [this, image] { m_with.showImage(image); });
+        work.post(m_with.mainThread, [this, image] { m_callbacks.showImage(image); });
 }
 
 void NewsSequence::showEnd(const Work &work, const QString &image)
@@ -223,8 +223,8 @@ void NewsSequence::showEnd(const Work &work, const QString &image)
     if (!image.isEmpty())
         ask(work, image);
     const bool click = m_with.pages.openUpdateUrlWhileHasNewVersion();
-    if (std::exchange(m_toldClick, click) != click && m_with.clickChanged)
-        work.post(m_with.mainThread, m_with.clickChanged);
+    if (std::exchange(m_toldClick, click) != click && m_callbacks.clickChanged)
+        work.post(m_with.mainThread, m_callbacks.clickChanged);
 }
 
 std::stop_token NewsSequence::deviceGone() const
@@ -245,21 +245,21 @@ QString NewsSequence::getDisplayStatusByType(const Work &work, int type)
     return text;
 }
 
-DisplayStatus NewsSequence::evaluate(StatusSnapshot snapshot, int type)
+NewsEffect NewsSequence::evaluate(StatusSnapshot snapshot, int type)
 {
     if (stopProcModemStatus_)
         return {};
     if (m_overrunTold)
         snapshot.m_surplusData = std::abs(snapshot.m_surplusData);
-    DisplayStatus status = evaluateDisplayType(snapshot, type, m_previous.stood(type));
-    m_previous.setStood(type, status.isNews);
-    if (!status.balloonText.isEmpty() && m_with.mayTell && !m_with.mayTell(type)) {
-        status.balloonText.clear();
-        status.announcesUpdate = false;
+    NewsEffect effect = evaluateDisplayType(snapshot, type, m_previous.stood(type));
+    m_previous.setStood(type, effect.isNews);
+    if (!effect.balloonText.isEmpty() && m_callbacks.mayTell && !m_callbacks.mayTell(type)) {
+        effect.balloonText.clear();
+        effect.announcesUpdate = false;
     }
-    m_with.pages.setClickTargets(status.clickOpensUpdatePage, status.clickOpensLimitPage);
-    m_overrunTold = m_overrunTold || status.tellsOverrun;
-    return status;
+    m_with.pages.setClickTargets(effect.clickOpensUpdatePage, effect.clickOpensLimitPage);
+    m_overrunTold = m_overrunTold || effect.tellsOverrun;
+    return effect;
 }
 
 void NewsSequence::forgetShown()

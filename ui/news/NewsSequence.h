@@ -25,7 +25,7 @@ class SystemLog;
 class UpdateAlert;
 class WebPages;
 struct BalloonExtras;
-struct DisplayStatus;
+struct NewsEffect;
 
 /// Tells the user the news, one after the other, by icon and balloon, and knows what was shown before.
 ///
@@ -38,7 +38,7 @@ class NewsSequence {
 public:
     /// What the sequence shows the news with. All of it outlives the sequence, and is used on the main thread only, but
     /// for the snapshot, the pages' click targets, the clock and the log.
-    struct Surroundings {
+    struct Dependencies {
         const SharedSnapshot &snapshot;
         WebPages &pages;
         BalloonPresenter &balloon;
@@ -46,6 +46,9 @@ public:
         StepQueue &mainThread;
         Clock &clock;
         SystemLog &systemLog;
+    };
+    /// Whom the sequence tells and asks: on the main thread, but for `mayTell`.
+    struct Callbacks {
         /// Told the name of each image that the icon is to show from now on.
         std::function<void(const QString &image)> showImage;
         /// Told of each piece of news that a balloon tells.
@@ -57,7 +60,7 @@ public:
     };
 
     /// Nothing has been shown, and there is no device yet.
-    explicit NewsSequence(Surroundings surroundings);
+    NewsSequence(const Dependencies &dependencies, Callbacks callbacks);
     /// No sequence may run any more, nor be waited for.
     ~NewsSequence();
     NewsSequence(const NewsSequence &) = delete;
@@ -109,13 +112,13 @@ private:
     void endSequence();
     bool hasNews(const StatusSnapshot &snapshot, std::span<const int> types) const;
     /// Evaluates one display type of @p snapshot (while attached).
-    DisplayStatus evaluate(StatusSnapshot snapshot, int type);
+    NewsEffect evaluate(StatusSnapshot snapshot, int type);
     /// One step of the sequence: shows what is new for one display type, then waits.
     /// @return the image that stands for the type's news; empty for none
     QString displayNews(const Work &work, int type);
     BalloonExtras extrasOf(const StandingNews &news, const QString &image, int type) const;
-    /// Shows the balloon of @p status, and waits until it is on the screen. @return whether it came there
-    bool showBalloon(const Work &work, const std::stop_token &deviceGone, const DisplayStatus &status, int type);
+    /// Shows the balloon of @p effect, and waits until it is on the screen. @return whether it came there
+    bool showBalloon(const Work &work, const std::stop_token &deviceGone, const NewsEffect &effect, int type);
     /// Closes the balloon, and waits until it is closed.
     void closeBalloon(const std::stop_token &deviceGone);
     /// Tells the image, unless it is the last that was told (while attached).
@@ -127,7 +130,8 @@ private:
     std::stop_token deviceGone() const;
     void pause(const std::stop_token &stop, std::chrono::seconds duration);
 
-    const Surroundings m_with;
+    const Dependencies m_with;
+    const Callbacks m_callbacks;
     mutable std::mutex m_mutex; ///< guards the next four
     bool startDisplayFlowing_ = false;
     Clock::TimePoint m_emptySequenceEnds{}; ///< when the sequence is over if it has nothing to tell

@@ -27,18 +27,11 @@ QString shortened(const QString &page)
     return page.size() > most ? page.left(most - 1) + u'\u2026' : page;
 }
 
-BalloonPresenter::Surroundings forBalloonsOnly(BalloonPresenter::Surroundings surroundings)
-{
-    surroundings.notifications = nullptr;
-    surroundings.clicked = {};
-    return surroundings;
-}
-
 } // namespace
 
-PageFailureNotice::PageFailureNotice(BalloonPresenter::Surroundings surroundings)
-    : m_notifications(surroundings.notifications)
-    , m_balloon(forBalloonsOnly(std::move(surroundings)))
+PageFailureNotice::PageFailureNotice(Notifications *notifications, BalloonPresenter::Callbacks callbacks)
+    : m_notifications(notifications)
+    , m_balloon(nullptr, std::move(callbacks))
 {
     m_closing.setSingleShot(true);
     m_closing.setInterval(10s);

@@ -13,8 +13,8 @@ class Notifications;
 /// notifications. Used on the main thread only.
 class PageFailureNotice {
 public:
-    /// @param surroundings  as those of the news' balloons, but that a click only closes this one
-    explicit PageFailureNotice(BalloonPresenter::Surroundings surroundings);
+    /// @param notifications, callbacks  as those of the news' balloons, but that a click only closes this one
+    PageFailureNotice(Notifications *notifications, BalloonPresenter::Callbacks callbacks);
     ~PageFailureNotice();
     PageFailureNotice(const PageFailureNotice &) = delete;
     PageFailureNotice &operator=(const PageFailureNotice &) = delete;

@@ -98,7 +98,7 @@ void StatusWindow::addRows(QVBoxLayout &layout)
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->setHorizontalSpacing(gap);
-    for (const StatusRow &row : statusRows({}, {})) {
+    for (const DetailRow &row : detailRows({}, {})) {
         QLabel *value = m_values.emplace_back(valueLabel());
         value->setAccessibleName(row.label);
         auto *label = new QLabel(row.label);
@@ -157,7 +157,7 @@ void StatusWindow::refresh()
     m_summary->setText(summaryOf(content.status));
     showAmounts(content.status);
     m_plot->setSamples(content.usage);
-    const QList<StatusRow> rows = statusRows(content.status, content.device);
+    const QList<DetailRow> rows = detailRows(content.status, content.device);
     for (qsizetype i = 0; i < rows.size(); ++i) {
         if (m_values[i]->text() != rows[i].value)
             m_values[i]->setText(rows[i].value);

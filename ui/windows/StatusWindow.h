@@ -1,6 +1,6 @@
 #pragma once
 
-#include "status/StatusRows.h"
+#include "status/DetailRows.h"
 #include "status/UsageHistory.h"
 
 #include <QList>
@@ -64,7 +64,7 @@ private:
     Amount m_month{};
     Amount m_threeDays{};
     UsagePlot *m_plot;
-    QList<QLabel *> m_values; ///< in the order of `statusRows`
+    QList<QLabel *> m_values; ///< in the order of `detailRows`
 };
 
 } // namespace tarvo

@@ -33,8 +33,7 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
     SimulatedNotifications notifications;
     std::optional<QRect> icon = QRect(400, 0, 24, 24);
     int clicks = 0;
-    BalloonPresenter presenter(
-        {.notifications = &notifications, .iconFrame = [&] { return icon; }, .clicked = [&] { ++clicks; }});
+    BalloonPresenter presenter(&notifications, {.iconFrame = [&] { return icon; }, .clicked = [&] { ++clicks; }});
     int appeared = 0;
     const auto toggle = [&] {
         presenter.toggleAttachedWindowAtPoint(u"news"_s, {.kind = u"a"_s, .appeared = [&] { ++appeared; }});
@@ -90,7 +89,7 @@ TEST(BalloonPresenter, PointsAtTheIconOrNotifiesOrUsesACorner)
 TEST(PageFailureNotice, NotifiesOrShowsABalloon)
 {
     SimulatedNotifications notifications;
-    PageFailureNotice notice({.notifications = &notifications});
+    PageFailureNotice notice(&notifications, {});
     notice.tell(u"http://a/"_s);
     EXPECT_TRUE(notifications.shown() && notifications.shown()->title == u"CannotOpenTitle" && !shownWindow());
     notifications.accept();

@@ -77,15 +77,15 @@ struct BalloonSequence : AttachedModem {
     StatusIcon icon{statusBar, systemLog, menu, {[] {}, [this] { news.mouseEnteredHandle(&client.work()); }}};
     SimulatedNotifications notifications;
     bool panelWasOpen = false; ///< when the last balloon was about to open
-    BalloonPresenter balloon{{.notifications = &notifications, .iconFrame = [this] {
-                                  panelWasOpen = AlertPanelController::shareAlertPanel()->wndAlert().isVisible();
-                                  return icon.frame();
-                              }}};
+    BalloonPresenter balloon{&notifications, {.iconFrame = [this] {
+                                 panelWasOpen = AlertPanelController::shareAlertPanel()->wndAlert().isVisible();
+                                 return icon.frame();
+                             }}};
     UpdateAlert alert{pages};
     QStringList told;
     QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
-    NewsSequence news{{snapshot, pages, balloon, alert, mainThread, clock, systemLog,
-                       [this](const QString &image) { icon.setStatusImage(image); },
+    NewsSequence news{{snapshot, pages, balloon, alert, mainThread, clock, systemLog},
+                      {[this](const QString &image) { icon.setStatusImage(image); },
                        [this](const StandingNews &each) { told += each.text; },
                        [this] { clicks += pages.openUpdateUrlWhileHasNewVersion(); }}};
 };
@@ -286,7 +286,7 @@ TEST_F(Companion, PollingWithoutNewsTouchesTheIconNoMore)
     modem.device.change([](ModemCondition &condition) { condition.threeDayLimit = 1; });
     plugIn(modem);
     tick(modem, 1);
-    ASSERT_TRUE(eventually([&] { return controller.display().status().snapshot.details.connected.has_value(); }));
+    ASSERT_TRUE(eventually([&] { return controller.presentation().status().snapshot.details.connected.has_value(); }));
     const int changes = statusBar.itemWithView()->viewChanges();
     for (int second = 2; second <= 12; ++second) // one whole sequence, and the next one's start
         tick(modem, second);

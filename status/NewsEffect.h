@@ -22,7 +22,7 @@ inline constexpr std::array displayTypes{DisplayType::NewVersion, DisplayType::T
                                          DisplayType::MonthlyLimitExceeded, DisplayType::MonthlyLimitReached};
 
 /// What one kind of news asks for.
-struct DisplayStatus {
+struct NewsEffect {
     QString image{}; ///< the icon's new image; empty leaves it as it is
     QString balloonText{}; ///< what a balloon has to say now; empty for nothing
     bool announcesUpdate = false; ///< the update panel is due
@@ -32,12 +32,12 @@ struct DisplayStatus {
     std::optional<bool> clickOpensLimitPage{};
     bool tellsOverrun = false; ///< the text names what was used beyond the monthly limit as such
 
-    bool operator==(const DisplayStatus &) const = default;
+    bool operator==(const NewsEffect &) const = default;
 };
 
 /// @param type        the kind of news, 5 to 8; any other asks for nothing
 /// @param seenBefore  whether these news were there at the last evaluation
 /// @return what @p snapshot, of a modem that is there, asks for
-DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore);
+NewsEffect evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore);
 
 } // namespace tarvo

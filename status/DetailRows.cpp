@@ -1,4 +1,4 @@
-#include "status/StatusRows.h"
+#include "status/DetailRows.h"
 
 #include "status/Situation.h"
 
@@ -45,7 +45,7 @@ QString timeText(const QDateTime &time)
 
 } // namespace
 
-QList<StatusRow> statusRows(const CompanionStatus &status, const DeviceDetails &device)
+QList<DetailRow> detailRows(const CompanionStatus &status, const DeviceDetails &device)
 {
     const bool attached = isPolled(situationOf(status));
     const ModemDetails details = attached ? status.snapshot.details : ModemDetails();
@@ -53,7 +53,7 @@ QList<StatusRow> statusRows(const CompanionStatus &status, const DeviceDetails &
     const QString firmware =
         status.snapshot.isHaveNewVersion_ ? qtTrId("ValueFirmwareNew") : qtTrId("ValueFirmwareNoneOffered");
     const QString sent = qtTrId("ValueAccessPointsSent", shown.accessPointsSent);
-    const StatusRow rows[] = {
+    const DetailRow rows[] = {
         {qtTrId("RowConnection"), connectionText(details)},
         {qtTrId("RowDialMode"), choice(details.dialsByItself, qtTrId("ValueDialAuto"), qtTrId("ValueDialManual"))},
         {qtTrId("RowRoaming"), choice(details.roamingAllowed, qtTrId("ValueOn"), qtTrId("ValueOff"))},
@@ -65,8 +65,8 @@ QList<StatusRow> statusRows(const CompanionStatus &status, const DeviceDetails &
         {qtTrId("RowAccessPoints"), attached ? sent : QString()},
         {qtTrId("RowLastAnswer"), timeText(shown.lastAnswer)},
     };
-    QList<StatusRow> filled;
-    for (const StatusRow &row : rows)
+    QList<DetailRow> filled;
+    for (const DetailRow &row : rows)
         filled.append({row.label, orDash(row.value)});
     return filled;
 }
@@ -76,7 +76,7 @@ QString supportText(const CompanionStatus &status, const DeviceDetails &device)
     QStringList lines{u"Tarvo "_s + QCoreApplication::applicationVersion(), summaryOf(status)};
     for (const StandingNews &news : standingNews(status))
         lines << news.text;
-    for (const StatusRow &row : statusRows(status, device))
+    for (const DetailRow &row : detailRows(status, device))
         lines << u"%1: %2"_s.arg(row.label, row.value);
     return lines.join(u'\n') + u'\n';
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "status/DetailRows.h"
 #include "status/NewsHistory.h"
-#include "status/StatusRows.h"
 #include "status/UsageHistory.h"
 #include "ui/icon/IconMenu.h"
 #include "ui/windows/StatusWindow.h"
@@ -19,19 +19,19 @@ class WebPages;
 
 /// Says how things stand, wherever the user looks: in the icon's image and tip, its menu, and the status window. What has not
 /// changed is not said again. On the main thread.
-class StatusDisplay {
+class Presentation {
 public:
-    /// What the display needs from its surroundings; all of it outlives the display.
-    struct Surroundings {
+    /// All of it outlives the presentation.
+    struct Dependencies {
         StatusIcon &icon;
         IconMenu &menu;
         const WebPages &pages;
-        std::function<DeviceDetails()> device; ///< of the modem that is attached
     };
 
     /// Says nothing before the first `refresh`.
-    explicit StatusDisplay(Surroundings surroundings);
-    ~StatusDisplay();
+    /// @param device  tells the details of the modem that is attached
+    Presentation(const Dependencies &dependencies, std::function<DeviceDetails()> device);
+    ~Presentation();
 
     const CompanionStatus &status() const { return m_status; }
 
@@ -54,7 +54,8 @@ private:
     void setStatus(const CompanionStatus &status);
     StatusWindowContent windowContent() const;
 
-    const Surroundings m_with;
+    const Dependencies m_with;
+    const std::function<DeviceDetails()> m_device;
     CompanionStatus m_status;
     QString m_image; ///< the last one that was asked for
     NewsHistory m_news;

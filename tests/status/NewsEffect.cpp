@@ -1,4 +1,4 @@
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 
 #include "status/DataAmounts.h"
 #include "tests/support/PrintQt.h"
@@ -13,17 +13,17 @@
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
-TEST(DisplayStatus, OtherTypesAskForNothing)
+TEST(NewsEffect, OtherTypesAskForNothing)
 {
     const StatusSnapshot all{.isHaveNewVersion_ = true,
                              .isHaveDataLimitReachedForOneMonth_ = true,
                              .isHaveDataLimitExceedForOneMonth_ = true,
                              .isHaveDataLimitExceedForThreedays_ = true};
     for (const int type : {4, 9})
-        EXPECT_EQ(evaluateDisplayType(all, type, false), DisplayStatus());
+        EXPECT_EQ(evaluateDisplayType(all, type, false), NewsEffect());
 }
 
-TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
+TEST(NewsEffect, TellsNewsOnceAndTheLastKindTakesTheClick)
 {
     const std::tuple<int, bool StatusSnapshot::*, QString, QString> cases[] = {
         {5, &StatusSnapshot::isHaveNewVersion_, u"newVersion"_s, u"HaveNewVersionTipWhenConnected"_s},
@@ -36,7 +36,7 @@ TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
     for (const auto &[type, news, image, text] : cases) {
         const bool firmware = type == DisplayType::NewVersion;
         StatusSnapshot snapshot;
-        DisplayStatus expected;
+        NewsEffect expected;
         (firmware ? expected.clickOpensUpdatePage : expected.clickOpensLimitPage) = false;
         EXPECT_EQ(evaluateDisplayType(snapshot, type, true), expected) << type;
 
@@ -49,7 +49,7 @@ TEST(DisplayStatus, TellsNewsOnceAndTheLastKindTakesTheClick)
     }
 }
 
-TEST(DisplayStatus, WritesAmountsInTheUsersWay)
+TEST(NewsEffect, WritesAmountsInTheUsersWay)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::English));

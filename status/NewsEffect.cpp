@@ -1,4 +1,4 @@
-#include "status/DisplayStatus.h"
+#include "status/NewsEffect.h"
 
 #include "status/DataAmounts.h"
 
@@ -59,38 +59,38 @@ constexpr DataLimitNews dataLimitNews[] = {
      monthlyReminderText},
 };
 
-DisplayStatus shown(QStringView image, const QString &text, bool seenBefore)
+NewsEffect shown(QStringView image, const QString &text, bool seenBefore)
 {
     return {.image = image.toString(), .balloonText = seenBefore ? QString() : text, .isNews = !text.isEmpty()};
 }
 
-DisplayStatus evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore)
+NewsEffect evaluateNewVersion(const StatusSnapshot &snapshot, bool seenBefore)
 {
     if (!snapshot.isHaveNewVersion_)
         return {.clickOpensUpdatePage = false};
-    DisplayStatus status = shown(u"newVersion", qtTrId("HaveNewVersionTipWhenConnected"), seenBefore);
-    status.announcesUpdate = !seenBefore;
-    status.clickOpensUpdatePage = true;
+    NewsEffect effect = shown(u"newVersion", qtTrId("HaveNewVersionTipWhenConnected"), seenBefore);
+    effect.announcesUpdate = !seenBefore;
+    effect.clickOpensUpdatePage = true;
     if (snapshot.haveDataLimitFlag_)
-        status.clickOpensLimitPage = false;
-    return status;
+        effect.clickOpensLimitPage = false;
+    return effect;
 }
 
-DisplayStatus evaluateDataLimit(const StatusSnapshot &snapshot, const DataLimitNews &news, bool seenBefore)
+NewsEffect evaluateDataLimit(const StatusSnapshot &snapshot, const DataLimitNews &news, bool seenBefore)
 {
     if (!(snapshot.*news.present))
         return {.clickOpensLimitPage = false};
-    DisplayStatus status = shown(news.image, news.text(snapshot), seenBefore);
-    status.clickOpensLimitPage = true;
+    NewsEffect effect = shown(news.image, news.text(snapshot), seenBefore);
+    effect.clickOpensLimitPage = true;
     if (snapshot.isHaveNewVersion_)
-        status.clickOpensUpdatePage = false;
-    status.tellsOverrun = news.type == DisplayType::MonthlyLimitReached && snapshot.m_surplusData < 0;
-    return status;
+        effect.clickOpensUpdatePage = false;
+    effect.tellsOverrun = news.type == DisplayType::MonthlyLimitReached && snapshot.m_surplusData < 0;
+    return effect;
 }
 
 } // namespace
 
-DisplayStatus evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore)
+NewsEffect evaluateDisplayType(const StatusSnapshot &snapshot, int type, bool seenBefore)
 {
     if (type == DisplayType::NewVersion)
         return evaluateNewVersion(snapshot, seenBefore);

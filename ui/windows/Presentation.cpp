@@ -1,4 +1,4 @@
-#include "ui/windows/StatusDisplay.h"
+#include "ui/windows/Presentation.h"
 
 #include "status/DataAmounts.h"
 #include "ui/icon/StatusIcon.h"
@@ -8,14 +8,15 @@
 
 namespace tarvo {
 
-StatusDisplay::StatusDisplay(Surroundings surroundings)
-    : m_with(std::move(surroundings))
+Presentation::Presentation(const Dependencies &dependencies, std::function<DeviceDetails()> device)
+    : m_with(dependencies)
+    , m_device(std::move(device))
 {
 }
 
-StatusDisplay::~StatusDisplay() = default;
+Presentation::~Presentation() = default;
 
-void StatusDisplay::setDetection(Detection detection, const QString &unknownDevice)
+void Presentation::setDetection(Detection detection, const QString &unknownDevice)
 {
     CompanionStatus status = m_status;
     status.detection = detection;
@@ -27,14 +28,14 @@ void StatusDisplay::setDetection(Detection detection, const QString &unknownDevi
     setStatus(status);
 }
 
-void StatusDisplay::setSettingsProblem(SettingsProblem problem)
+void Presentation::setSettingsProblem(SettingsProblem problem)
 {
     CompanionStatus status = m_status;
     status.settingsProblem = problem;
     setStatus(status);
 }
 
-void StatusDisplay::setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn)
+void Presentation::setSnapshot(const StatusSnapshot &snapshot, std::chrono::seconds sincePlugIn)
 {
     CompanionStatus status = m_status;
     status.snapshot = snapshot;
@@ -44,19 +45,19 @@ void StatusDisplay::setSnapshot(const StatusSnapshot &snapshot, std::chrono::sec
     setStatus(status);
 }
 
-void StatusDisplay::setImage(const QString &image)
+void Presentation::setImage(const QString &image)
 {
     m_image = image;
     refresh();
 }
 
-void StatusDisplay::addNews(const StandingNews &news)
+void Presentation::addNews(const StandingNews &news)
 {
     m_news.add(news, QDateTime::currentDateTime());
     refresh();
 }
 
-void StatusDisplay::setStatus(const CompanionStatus &status)
+void Presentation::setStatus(const CompanionStatus &status)
 {
     if (status == m_status)
         return;
@@ -64,7 +65,7 @@ void StatusDisplay::setStatus(const CompanionStatus &status)
     refresh();
 }
 
-void StatusDisplay::refresh()
+void Presentation::refresh()
 {
     m_with.icon.setStatusImage(pictureOf(m_status, m_image));
     m_with.icon.setStatusToolTip(tipOf(m_status));
@@ -75,16 +76,16 @@ void StatusDisplay::refresh()
                             .news = m_news.news()});
 }
 
-void StatusDisplay::showWindow()
+void Presentation::showWindow()
 {
     if (!m_window)
         m_window = std::make_unique<StatusWindow>([this] { return windowContent(); });
     m_window->present();
 }
 
-StatusWindowContent StatusDisplay::windowContent() const
+StatusWindowContent Presentation::windowContent() const
 {
-    return {pictureOf(m_status, m_image), m_status, m_with.device(), m_usage.samples()};
+    return {pictureOf(m_status, m_image), m_status, m_device(), m_usage.samples()};
 }
 
 } // namespace tarvo

@@ -22,15 +22,15 @@ struct DeviceDetails {
 };
 
 /// One line of the status window: what it is, and what it is at present.
-struct StatusRow {
+struct DetailRow {
     QString label;
     QString value;
 
-    bool operator==(const StatusRow &) const = default;
+    bool operator==(const DetailRow &) const = default;
 };
 
 /// @return the status window's lines, always the same ones; what is not known is a dash
-QList<StatusRow> statusRows(const CompanionStatus &status, const DeviceDetails &device);
+QList<DetailRow> detailRows(const CompanionStatus &status, const DeviceDetails &device);
 
 /// @return a text for a support request: the summary, the news and the lines. It holds no names or passwords of access
 ///         points
