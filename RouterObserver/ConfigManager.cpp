@@ -83,6 +83,11 @@ ConfigManager::ConfigManager(const std::optional<QString> &filePath)
     load();
 }
 
+ConfigManager::ConfigManager(const QVariantMap &values)
+    : configDict_(values)
+{
+}
+
 void ConfigManager::load()
 {
     if (!settingPath_)
@@ -111,6 +116,17 @@ std::optional<QVariant> ConfigManager::getConfigurationByModuleAndKey(const std:
     if (isList(*value))
         return elementEqualTo(value->toList(), *moduleKey);
     return std::nullopt;
+}
+
+bool ConfigManager::flag(const QString &module, bool absent) const
+{
+    return boolValue(getConfigurationByModule(module).value_or(absent));
+}
+
+std::optional<QString> ConfigManager::text(const QString &module) const
+{
+    const auto value = getConfigurationByModule(module);
+    return value && value->typeId() == QMetaType::QString ? std::optional(value->toString()) : std::nullopt;
 }
 
 bool ConfigManager::setConfigurationByModule(const std::optional<QString> &module,
@@ -196,17 +212,6 @@ bool boolValue(const std::optional<QVariant> &value)
     default:
         return false;
     }
-}
-
-bool configurationFlag(const QString &module)
-{
-    return boolValue(ConfigManager::sharedConfigManager().getConfigurationByModule(module));
-}
-
-std::optional<QString> configurationText(const QString &module)
-{
-    const auto value = ConfigManager::sharedConfigManager().getConfigurationByModule(module);
-    return value && value->typeId() == QMetaType::QString ? std::optional(value->toString()) : std::nullopt;
 }
 
 } // namespace tarvo

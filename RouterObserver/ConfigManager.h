@@ -22,6 +22,8 @@ public:
     ConfigManager();
     /// Loads the file at @p filePath, which must not be nil.
     explicit ConfigManager(const std::optional<QString> &filePath);
+    /// Holds @p values, which come from no file.
+    explicit ConfigManager(const QVariantMap &values);
 
     /// @return the module's value; nil when there is none
     std::optional<QVariant> getConfigurationByModule(const std::optional<QString> &module) const;
@@ -29,6 +31,11 @@ public:
     /// @throws std::out_of_range when the module is an array without such an element
     std::optional<QVariant> getConfigurationByModuleAndKey(const std::optional<QString> &module,
                                                            const std::optional<QString> &moduleKey) const;
+
+    /// @return the module's value read as a flag; @p absent when there is none
+    bool flag(const QString &module, bool absent = false) const;
+    /// @return the module's text; nil when it is absent or no text
+    std::optional<QString> text(const QString &module) const;
 
     // The writers change nothing, and return false, when an argument is nil or nothing was loaded. Nothing but `flush`
     // reaches the file. Nothing calls them at present.
@@ -72,10 +79,5 @@ bool isText(const QVariant &value, const QString &text);
 /// Reads @p value as a truth value: a number is true unless zero, a text when its first non-blank character is one of
 /// "YyTt" or a digit 1 to 9. Nil is false.
 bool boolValue(const std::optional<QVariant> &value);
-
-/// @return the module's value read as a flag; false when it is absent
-bool configurationFlag(const QString &module);
-/// @return the module's text; nil when it is absent or no text
-std::optional<QString> configurationText(const QString &module);
 
 } // namespace tarvo

@@ -1,12 +1,9 @@
 #include "RouterObserver/RouterObserver.h"
 
-#include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/DeviceSupport.h"
 #include "RouterObserver/UsbIdentity.h"
 #include "platform/Assertion.h"
 #include "platform/SystemLog.h"
-
-#include <QMetaType>
-#include <QVariantList>
 
 #include <algorithm>
 #include <chrono>
@@ -23,23 +20,6 @@ constexpr qsizetype maxBSDNameSize = 255;
 
 /// How long a router may come after its interface's address.
 constexpr std::chrono::seconds gatewayTimeout(3);
-
-QVariantList deviceIdentifiers(const QString &key)
-{
-    const auto &configuration = ConfigManager::sharedConfigManager();
-    const auto module = u"device_info"_s;
-    const auto info = configuration.getConfigurationByModule(module);
-    if (!info || info->typeId() != QMetaType::QVariantMap)
-        return {};
-    return configuration.getConfigurationByModuleAndKey(module, key).value_or(QVariant()).toList();
-}
-
-bool isListed(const QString &key, qint64 identifier)
-{
-    const auto identifiers = deviceIdentifiers(key);
-    const QString decimal = QString::number(static_cast<qint32>(identifier));
-    return std::ranges::any_of(identifiers, [&](const QVariant &listed) { return isText(listed, decimal); });
-}
 
 std::optional<QString> interfaceNameOf(const QVariantMap &ipv4State)
 {
@@ -59,10 +39,12 @@ ReadyDictionary readyDictionary(const QVariantMap &ipv4State, IOServiceHandle se
 
 } // namespace
 
-RouterObserver::RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog)
+RouterObserver::RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog,
+                               const ConfigManager &settings)
     : dynamicStore_(dynamicStore)
     , deviceRegistry_(deviceRegistry)
     , systemLog_(systemLog)
+    , settings_(settings)
     , preferences_{dynamicStore}
 {
     gatewayTimer_.setSingleShot(true);
@@ -257,26 +239,27 @@ bool RouterObserver::hasEthernetRouter(IOServiceHandle service)
 
 bool RouterObserver::isSupportedVendorID(qint64 vendorID) const
 {
-    return isListed(u"vendor_ids"_s, vendorID);
+    return listsIdentifier(settings_, u"vendor_ids"_s, vendorID);
 }
 
 bool RouterObserver::isSupportedProductID(qint64 productID) const
 {
-    return isListed(u"product_ids"_s, productID);
+    return listsIdentifier(settings_, u"product_ids"_s, productID);
 }
 
 bool RouterObserver::isExcludedProductID(qint64 productID) const
 {
-    return isListed(u"eliminate_product_ids"_s, productID);
+    return listsIdentifier(settings_, u"eliminate_product_ids"_s, productID);
 }
 
 bool RouterObserver::isSupportedIOService(IOServiceHandle service) const
 {
     const auto vendor = deviceRegistry_.searchProperty(service, u"idVendor"_s, RegistrySearch::Upward);
-    if (!vendor || !isSupportedVendorID(vendor->toLongLong()))
+    if (!vendor)
         return false;
     const auto product = deviceRegistry_.searchProperty(service, u"idProduct"_s, RegistrySearch::Upward);
-    return !product || !isExcludedProductID(product->toLongLong());
+    const auto productID = product ? std::optional(product->toLongLong()) : std::nullopt;
+    return supportOf(vendor->toLongLong(), productID, settings_) == Support::Supported;
 }
 
 IOServiceHandle RouterObserver::getIOServiceOfBSDName(const QString &bsdName) const

@@ -18,6 +18,7 @@
 
 namespace tarvo {
 
+class ConfigManager;
 class SystemLog;
 
 /// What a ready report carries.
@@ -48,7 +49,8 @@ struct RouterReports {
 class RouterObserver {
 public:
     /// Watches nothing yet. Everything referred to outlives the observer.
-    RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog);
+    RouterObserver(DynamicStore &dynamicStore, DeviceRegistry &deviceRegistry, SystemLog &systemLog,
+                   const ConfigManager &settings);
     ~RouterObserver();
     RouterObserver(const RouterObserver &) = delete;
     RouterObserver &operator=(const RouterObserver &) = delete;
@@ -110,6 +112,7 @@ private:
     DynamicStore &dynamicStore_;
     DeviceRegistry &deviceRegistry_;
     SystemLog &systemLog_;
+    const ConfigManager &settings_;
     NetworkPreferences preferences_;
 
     std::shared_ptr<const RouterReports> observer_;

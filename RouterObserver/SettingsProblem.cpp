@@ -1,6 +1,7 @@
 #include "RouterObserver/SettingsProblem.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "RouterObserver/DeviceSupport.h"
 
 #include <QMetaType>
 #include <QVariantList>
@@ -16,8 +17,7 @@ namespace {
 
 QVariantList vendorsOf(const ConfigManager &settings)
 {
-    const auto info = settings.getConfigurationByModule(u"device_info"_s).value_or(QVariant());
-    return info.toMap().value(u"vendor_ids"_s).toList();
+    return deviceIdentifiers(settings, u"vendor_ids"_s);
 }
 
 bool isWrittenAsText(const QVariant &vendor)

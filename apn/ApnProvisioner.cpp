@@ -17,9 +17,9 @@ using namespace std::chrono_literals;
 namespace {
 
 /// The names of the modem's own access points.
-QStringList webDefaultNames()
+QStringList webDefaultNames(const ConfigManager &settings)
 {
-    const auto names = configurationText(u"WebDefaultApnProfileName"_s);
+    const auto names = settings.text(u"WebDefaultApnProfileName"_s);
     return names ? names->split(u';') : QStringList();
 }
 
@@ -135,7 +135,8 @@ int ApnProvisioner::getDefaultApnIndex(ModemClient &client, const std::optional<
     const auto name = getModemInfoFromKeyForWeb5(u"pc_default_profilename\":"_s, answer);
     client.log(u"pc_default_profilename:"_s + name.value_or(u"(null)"_s));
 
-    const DefaultApn choice = chooseDefaultApn(name, webDefaultNames(), records.value_or(QStringList()), taken);
+    const DefaultApn choice =
+        chooseDefaultApn(name, webDefaultNames(client.settings()), records.value_or(QStringList()), taken);
     for (const QString &problem : choice.problems)
         client.log(problem);
     if (choice.isUnknown) {
@@ -200,7 +201,8 @@ void ApnProvisioner::setAllApnFromPC(ModemClient &client)
         return;
     }
     const auto records = readRecords(seal, stop);
-    const ApnPlan plan = planApns(*listed, webDefaultNames().size(), records.value_or(QStringList()), m_owesDefault);
+    const ApnPlan plan =
+        planApns(*listed, webDefaultNames(client.settings()).size(), records.value_or(QStringList()), m_owesDefault);
     if (plan.setsDefault)
         complete(client, plan.records, records, *listed);
 }

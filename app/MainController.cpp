@@ -20,18 +20,19 @@ MainController::MainController(Services services)
     : m_services(std::move(services))
     , m_device(m_services)
     , m_recentDeeds(m_services.clock)
-    , m_monitor({.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
+    , m_monitor(m_services.settings,
+                {.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
                  .changed =
                      [this](const Work &work, const StatusSnapshot &snapshot) {
                          work.post(m_mainThread,
                                    [this, snapshot] { m_presentation.setSnapshot(snapshot, m_device.sinceReport()); });
                      }})
     , m_pages(
-          m_services.workspace, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
+          m_services.workspace, m_services.settings, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
           [this](const QString &page) { couldNotOpen(page); },
           [this] { return m_recentDeeds.claim(RecentDeeds::openedPages); })
     , m_menu(menuActions())
-    , m_icon(m_services.statusBar, m_services.systemLog, m_menu.menu(),
+    , m_icon(m_services.statusBar, m_services.systemLog, m_services.settings, m_menu.menu(),
              {.clicked = [this] { iconClicked(); },
               .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
     , m_presentation({m_icon, m_menu, m_pages}, [this] { return m_device.details(m_provisioner.accessPointsSent()); })
@@ -44,13 +45,13 @@ MainController::MainController(Services services)
           {.isScreenComposited = m_services.isScreenComposited, .iconFrame = [this] { return m_icon.frame(); }})
     , m_updateAlert(m_pages)
     , m_news({m_monitor.snapshot(), m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog},
+              m_services.systemLog, m_services.settings},
              {[this](const QString &image) { m_presentation.setImage(image); },
               [this](const StandingNews &news) { m_presentation.addNews(news); }, [this] { m_presentation.refresh(); },
               [this](int type) { return m_recentDeeds.claim(type); }})
     , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
     , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
-    , m_poller(m_services.clock, m_services.systemLog,
+    , m_poller(m_services.settings, m_services.clock, m_services.systemLog,
                {.answered = [this](const Work &work, auto obstacle) { modemAnswered(work, obstacle); },
                 .pass = [this](ModemClient &client, const QString &page) { pass(client, page); }})
     , m_threads(m_services.systemLog)
@@ -66,7 +67,7 @@ MainController::~MainController()
 
 IconMenu::Actions MainController::menuActions()
 {
-    const bool hasMessages = configurationText(u"WebUISmsPage"_s).has_value();
+    const bool hasMessages = m_services.settings.text(u"WebUISmsPage"_s).has_value();
     return {.showStatus = [this] { showStatus(); },
             .openModemPage = [this] { m_pages.openWebUI(); },
             .openMessages = hasMessages ? [this] { m_pages.openWebUISmsPage(); } : std::function<void()>(),
@@ -120,8 +121,8 @@ void MainController::awakeFromNib()
 void MainController::applicationDidFinishLaunching()
 {
     if (!routerObserver_)
-        routerObserver_ =
-            std::make_unique<RouterObserver>(m_services.dynamicStore, m_services.deviceRegistry, m_services.systemLog);
+        routerObserver_ = std::make_unique<RouterObserver>(m_services.dynamicStore, m_services.deviceRegistry,
+                                                           m_services.systemLog, m_services.settings);
     m_presentation.refresh();
     m_icon.startToolbarStatus();
     routerObserver_->startWatchNetworkInterface(std::make_shared<const RouterReports>(
@@ -130,9 +131,8 @@ void MainController::applicationDidFinishLaunching()
     m_unknownModems = std::make_unique<UnknownModems>(m_services.dynamicStore, m_services.deviceRegistry,
                                                       *routerObserver_, [this] { detect(); });
     m_unknownModems->watch();
-    const SettingsProblem problem = settingsProblem(ConfigManager::sharedConfigManager());
-    const QString line =
-        problem == SettingsProblem::None ? unmatchedVendorLine(ConfigManager::sharedConfigManager()) : logLine(problem);
+    const SettingsProblem problem = settingsProblem(m_services.settings);
+    const QString line = problem == SettingsProblem::None ? unmatchedVendorLine(m_services.settings) : logLine(problem);
     if (!line.isEmpty())
         log(line);
     m_presentation.setSettingsProblem(problem);
@@ -180,8 +180,7 @@ void MainController::applicationWillTerminate() { }
 
 void MainController::pass(ModemClient &client, const QString &page)
 {
-    const auto &settings = ConfigManager::sharedConfigManager();
-    const bool provisions = boolValue(settings.getConfigurationByModule(u"ProvisionAccessPoints"_s).value_or(true));
+    const bool provisions = m_services.settings.flag(u"ProvisionAccessPoints"_s, true);
     const std::array<std::function<void()>, 5> steps{
         [&] {
             if (provisions)
@@ -194,7 +193,7 @@ void MainController::pass(ModemClient &client, const QString &page)
         [&] { m_pages.openWebUIForQX740(client, page); },
         [&] { m_firmwareCheck.checkFotaUpdateWhenDue(client, page); },
         [&] {
-            if (configurationFlag(u"IsDisplayNetStatusInToolBar"_s))
+            if (m_services.settings.flag(u"IsDisplayNetStatusInToolBar"_s))
                 m_monitor.setAllStatusByUrlContents(client.work(), page);
         },
     };

@@ -9,6 +9,7 @@
 namespace tarvo {
 
 class Clock;
+class ConfigManager;
 class DeviceRegistry;
 class DynamicStore;
 class Notifications;
@@ -33,6 +34,7 @@ struct Services {
     StatusBar &statusBar; ///< holds the icon
     Clock &clock; ///< times the polling and the news
     SystemLog &systemLog; ///< receives every line
+    const ConfigManager &settings; ///< as they were read
 
     /// @return what ties sockets to the network interface of that name, as it is now; called on the main thread. Empty
     ///         ties nothing

@@ -128,6 +128,7 @@ Services Surroundings::services()
         .statusBar = m_statusBar,
         .clock = m_clock,
         .systemLog = m_systemLog,
+        .settings = ConfigManager::sharedConfigManager(),
         .socketBinderFor = [this](const QString &name) { return socketBinder(m_dynamicStore.interfaceIndex(name)); },
         .terminate = [] { QApplication::quit(); },
         .notifications = &m_notifications,

@@ -26,21 +26,22 @@ QString textOrNull(const std::optional<QString> &text)
 
 } // namespace
 
-ModemClient::ModemClient(Work work, SystemLog &systemLog)
+ModemClient::ModemClient(Work work, const ConfigManager &settings, SystemLog &systemLog)
     : m_work(std::move(work))
+    , m_settings(settings)
     , m_systemLog(systemLog)
-    , m_statusPage(modemUrl(getNetInfoAddress()))
+    , m_statusPage(modemUrl(getNetInfoAddress(settings)))
 {
 }
 
-QString ModemClient::getNetInfoAddress()
+QString ModemClient::getNetInfoAddress(const ConfigManager &settings)
 {
-    return configurationText(u"NetInfoAddress"_s).value_or(u"logo_data.asp"_s);
+    return settings.text(u"NetInfoAddress"_s).value_or(u"logo_data.asp"_s);
 }
 
-QString ModemClient::getConnectModeAddress()
+QString ModemClient::getConnectModeAddress(const ConfigManager &settings)
 {
-    return configurationText(u"ConnectModeAddress"_s).value_or(u"logo_data.asp"_s);
+    return settings.text(u"ConnectModeAddress"_s).value_or(u"logo_data.asp"_s);
 }
 
 void ModemClient::log(const QString &line) const
@@ -92,14 +93,14 @@ ModemClient::WebContent ModemClient::plainContent(const QString &url)
 
 ModemClient::WebContent ModemClient::content(const QString &url)
 {
-    if (configurationFlag(u"AddRefererIntoHttpHeader"_s))
+    if (m_settings.flag(u"AddRefererIntoHttpHeader"_s))
         return {getContentFormRefererRequest(url, nullptr), std::nullopt};
     return plainContent(url);
 }
 
 std::optional<QString> ModemClient::statusPage()
 {
-    if (!configurationFlag(u"AddRefererIntoHttpHeader"_s) && !parsed(m_statusPage).isValid())
+    if (!m_settings.flag(u"AddRefererIntoHttpHeader"_s) && !parsed(m_statusPage).isValid())
         return std::nullopt;
     WebContent page = content(m_statusPage);
     if (page.error)

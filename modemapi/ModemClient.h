@@ -12,6 +12,7 @@
 
 namespace tarvo {
 
+class ConfigManager;
 class SystemLog;
 
 /// Asks one modem, over connections that are tied to the modem's interface.
@@ -22,16 +23,18 @@ class SystemLog;
 /// over, requests end at once and nothing more is logged.
 class ModemClient {
 public:
-    /// @param systemLog  outlives the client
-    ModemClient(Work work, SystemLog &systemLog);
+    /// @param settings  say how the modem is asked; they outlive the client, as the log
+    ModemClient(Work work, const ConfigManager &settings, SystemLog &systemLog);
 
     /// @return the work on whose behalf the modem is asked
     const Work &work() const { return m_work; }
+    /// @return what says how the modem's answers are read
+    const ConfigManager &settings() const { return m_settings; }
 
     /// @return the path of the status page on the modem's server
-    static QString getNetInfoAddress();
+    static QString getNetInfoAddress(const ConfigManager &settings);
     /// @return the path of the page that tells how the modem dials
-    static QString getConnectModeAddress();
+    static QString getConnectModeAddress(const ConfigManager &settings);
 
     /// Fetches the status page in the configured way. @return its text; nil, with a line in the log, when there is none
     std::optional<QString> statusPage();
@@ -80,6 +83,7 @@ private:
     WebContent content(const QString &url);
 
     const Work m_work;
+    const ConfigManager &m_settings;
     SystemLog &m_systemLog;
     const QString m_statusPage; ///< its URL, which is asked for each second
     HttpClient m_http;

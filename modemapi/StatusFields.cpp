@@ -1,6 +1,7 @@
 #include "modemapi/StatusFields.h"
 
 #include "modemapi/AnswerFields.h"
+#include "modemapi/ConnectionStatus.h"
 
 #include <algorithm>
 #include <array>
@@ -55,9 +56,12 @@ QStringList missingStatusFields(const QString &content)
     return missing;
 }
 
-bool hasStatusField(const QString &content)
+bool isStatusPage(const QString &content, const ConfigManager &settings)
 {
-    return std::ranges::any_of(fieldNames, [&](const auto &field) { return isThere(field.first, content); });
+    return std::ranges::any_of(fieldNames, [&](const auto &field) { return isThere(field.first, content); })
+        || getConnectionStatusWithWebContent(content, settings)
+        || getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content)
+        || getModemInfoFromKeyForWeb5(u"dial_mode\":"_s, content);
 }
 
 } // namespace tarvo

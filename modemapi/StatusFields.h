@@ -7,6 +7,8 @@
 
 namespace tarvo {
 
+class ConfigManager;
+
 /// The fields of a status page that the snapshot is made of, as texts. A field that neither style has is nil.
 struct StatusFields {
     std::optional<QString> reminderSwitch{}; ///< "on" when the monthly limit is watched
@@ -28,7 +30,8 @@ StatusFields readStatusFields(const QString &content);
 
 /// @return the names of the fields that @p content has in neither style; one whose text is empty is there
 QStringList missingStatusFields(const QString &content);
-/// @return whether @p content has any of these fields, be its text empty
-bool hasStatusField(const QString &content);
+/// @return whether @p content, read as @p settings say, has any field that the snapshot is made of, be its text empty: a
+///         page of a server that is busy, or asks for a password, has none
+bool isStatusPage(const QString &content, const ConfigManager &settings);
 
 } // namespace tarvo

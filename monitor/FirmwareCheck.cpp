@@ -29,7 +29,7 @@ FirmwareCheck::FirmwareCheck(SharedSnapshot &snapshot, Clock &clock)
 
 bool FirmwareCheck::checkFotaUpdateWhenConnected(ModemClient &client)
 {
-    if (!configurationFlag(u"NeedCheckFotaUpdate"_s))
+    if (!client.settings().flag(u"NeedCheckFotaUpdate"_s))
         return true;
     const auto answer = client.getWebRequestContent(u"dm_find_package&multi_data=1"_s);
     const auto packageState = getModemInfoFromKeyForWeb5(u"dm_find_package\":"_s, answer);
@@ -47,7 +47,8 @@ void FirmwareCheck::checkFotaUpdateWhenDue(ModemClient &client, const QString &c
     const std::stop_token attachment = client.work().stopToken();
     bool due = false;
     client.work().whileAttached([&] { due = m_schedule.isDue(attachment, m_clock.now()); });
-    if (!due || !isConnectedWithStautusContent(getConnectionStatusWithWebContent(content)))
+    const ConfigManager &settings = client.settings();
+    if (!due || !isConnectedWithStautusContent(getConnectionStatusWithWebContent(content, settings), settings))
         return;
     const auto pause = checkFotaUpdateWhenConnected(client) ? 10min : 1min;
     client.work().whileAttached([&] { m_schedule = {attachment, m_clock.now() + pause}; });

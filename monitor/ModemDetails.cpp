@@ -31,18 +31,11 @@ bool isConnecting(const QString &status)
 
 } // namespace
 
-bool isStatusPage(const QString &content)
-{
-    return hasStatusField(content) || getConnectionStatusWithWebContent(content)
-        || getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content)
-        || getModemInfoFromKeyForWeb5(u"dial_mode\":"_s, content);
-}
-
-ModemDetails readModemDetails(const QString &content, const StatusFields &fields)
+ModemDetails readModemDetails(const QString &content, const StatusFields &fields, const ConfigManager &settings)
 {
     ModemDetails details;
-    if (const auto status = getConnectionStatusWithWebContent(content)) {
-        details.connected = isConnectedWithStautusContent(status);
+    if (const auto status = getConnectionStatusWithWebContent(content, settings)) {
+        details.connected = isConnectedWithStautusContent(status, settings);
         details.connecting = !*details.connected && isConnecting(*status);
     }
     details.sim = simState(getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content));

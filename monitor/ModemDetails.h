@@ -7,11 +7,10 @@
 
 namespace tarvo {
 
-/// @return whether @p content has any of the fields that the snapshot is made of: a page of a server that is busy, or asks
-///         for a password, has none
-bool isStatusPage(const QString &content);
+class ConfigManager;
 
-/// @return what the status page @p content tells, with the amounts of @p fields, which were read from it
-ModemDetails readModemDetails(const QString &content, const StatusFields &fields);
+/// @return what the status page @p content tells, read as @p settings say, with the amounts of @p fields, which were read
+///         from it
+ModemDetails readModemDetails(const QString &content, const StatusFields &fields, const ConfigManager &settings);
 
 } // namespace tarvo

@@ -1,7 +1,7 @@
 #include "monitor/Poller.h"
 
 #include "modemapi/ModemClient.h"
-#include "monitor/ModemDetails.h"
+#include "modemapi/StatusFields.h"
 #include "monitor/RepeatingTimer.h"
 #include "platform/SystemLog.h"
 
@@ -16,8 +16,9 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-Poller::Poller(Clock &clock, SystemLog &systemLog, Steps steps)
-    : m_clock(clock)
+Poller::Poller(const ConfigManager &settings, Clock &clock, SystemLog &systemLog, Steps steps)
+    : m_settings(settings)
+    , m_clock(clock)
     , m_systemLog(systemLog)
     , m_steps(std::move(steps))
 {
@@ -70,7 +71,7 @@ void Poller::timerHandler(const std::shared_ptr<RepeatingTimer> &timer, std::uni
         return;
     try {
         if (!client)
-            client = std::make_unique<ModemClient>(work, m_systemLog);
+            client = std::make_unique<ModemClient>(work, m_settings, m_systemLog);
         updateModemStatus(*client);
     } catch (const std::exception &error) { // out of memory, say: the next pass may have more luck
         m_systemLog.write(u"a pass failed: "_s + QString::fromLocal8Bit(error.what()));
@@ -82,7 +83,7 @@ void Poller::updateModemStatus(ModemClient &client)
     const std::optional<QString> page = client.statusPage();
     if (client.work().isOver())
         return;
-    const bool isAnswered = page && isStatusPage(*page);
+    const bool isAnswered = page && isStatusPage(*page, m_settings);
     m_steps.answered(client.work(), isAnswered ? std::nullopt : std::optional(client.obstacle()));
     if (page)
         m_steps.pass(client, *page);

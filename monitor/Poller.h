@@ -14,6 +14,7 @@
 
 namespace tarvo {
 
+class ConfigManager;
 class ModemClient;
 class RepeatingTimer;
 class SystemLog;
@@ -30,11 +31,12 @@ public:
         std::function<void(ModemClient &client, const QString &page)> pass{};
     };
 
-    /// @param clock, systemLog  outlive the poller
-    Poller(Clock &clock, SystemLog &systemLog, Steps steps);
+    /// Everything referred to outlives the poller. @param settings  say how a modem is asked
+    Poller(const ConfigManager &settings, Clock &clock, SystemLog &systemLog, Steps steps);
     ~Poller();
 
-    /// Starts a worker for @p work, which asks nobody where the modem's address is empty; tries again every second while the system has no thread to give (main thread).
+    /// Starts a worker for @p work, which asks nobody where the modem's address is empty; tries again every second while
+    /// the system has no thread to give (main thread).
     void start(const Work &work);
     /// Forgets the timer; the worker has been ended with its attachment (main thread).
     void stop();
@@ -49,6 +51,7 @@ private:
                       const Work &work);
     void updateModemStatus(ModemClient &client);
 
+    const ConfigManager &m_settings;
     Clock &m_clock;
     SystemLog &m_systemLog;
     const Steps m_steps;

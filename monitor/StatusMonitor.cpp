@@ -32,8 +32,9 @@ void raiseNotices(StatusSnapshot &snapshot)
 
 } // namespace
 
-StatusMonitor::StatusMonitor(Listeners listeners)
-    : m_listeners(std::move(listeners))
+StatusMonitor::StatusMonitor(const ConfigManager &settings, Listeners listeners)
+    : m_settings(settings)
+    , m_listeners(std::move(listeners))
 {
 }
 
@@ -55,7 +56,7 @@ void StatusMonitor::setAllStatusByUrlContents(const Work &work, const QString &c
     bool known = false; // nearly always: the same page makes nothing else of the snapshot that it made
     work.whileAttached([&] { known = content == m_content && m_snapshot.get() == m_evaluated; });
     if (!known) {
-        if (!isStatusPage(content))
+        if (!isStatusPage(content, m_settings))
             return;
         evaluate(work, content);
     }
@@ -70,7 +71,7 @@ void StatusMonitor::evaluate(const Work &work, const QString &content)
         snapshot.isRoamOn_ = isRoaming(fields);
         applyUsage(snapshot, monthlyUsage(fields), threeDayUsage(fields));
         raiseNotices(snapshot);
-        snapshot.details = readModemDetails(content, fields);
+        snapshot.details = readModemDetails(content, fields, m_settings);
         m_content = content;
         m_evaluated = snapshot;
     });

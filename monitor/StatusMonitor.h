@@ -10,6 +10,8 @@
 
 namespace tarvo {
 
+class ConfigManager;
+
 /// Owns the snapshot, and turns the modem's status pages into it.
 class StatusMonitor {
 public:
@@ -21,7 +23,8 @@ public:
         std::function<void(const Work &work, const StatusSnapshot &snapshot)> changed{};
     };
 
-    explicit StatusMonitor(Listeners listeners);
+    /// @param settings  say how a page is read; they outlive this object
+    StatusMonitor(const ConfigManager &settings, Listeners listeners);
 
     /// @return the snapshot that all parts read; lives as long as this object
     SharedSnapshot &snapshot() { return m_snapshot; }
@@ -52,6 +55,7 @@ private:
     void evaluate(const Work &work, const QString &content);
     void publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change);
 
+    const ConfigManager &m_settings;
     const Listeners m_listeners;
     SharedSnapshot m_snapshot;
     StatusSnapshot m_told; ///< the last one that listeners were told; touched on behalf of the present attachment only

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/DesktopFacts.h"
-#include "setup/checks/ModemAnswers.h"
+#include "setup/checks/ModemFacts.h"
 #include "setup/settings/Devices.h"
 #include "setup/settings/SettingFindings.h"
 #include "setup/text/UserText.h"

@@ -1,8 +1,9 @@
 #include "setup/checks/ModemProbe.h"
 
-#include "RouterObserver/ConfigManager.h"
 #include "modemapi/AnswerFields.h"
+#include "modemapi/ConnectionStatus.h"
 #include "modemapi/HttpClient.h"
+#include "modemapi/ModemClient.h"
 #include "modemapi/StatusFields.h"
 #include "platform/StrictUtf8.h"
 
@@ -31,7 +32,7 @@ public:
                             .body = {},
                             .prepareSocket = m_question.prepareSocket,
                             .afterwards = Afterwards::Close};
-        if (referer == Referer::Send || boolValue(m_question.settings.value(u"AddRefererIntoHttpHeader"_s)))
+        if (referer == Referer::Send || m_question.settings.flag(u"AddRefererIntoHttpHeader"_s))
             request.headers.append("Referer: " + url.toUtf8());
         m_answer = m_client.exchange(request, m_stop);
         m_text = utf8OrLatin1(m_answer.data);
@@ -46,12 +47,12 @@ public:
     ModemFacts askForPage()
     {
         ModemFacts facts;
-        fetch(statusPagePath(m_question.settings));
+        fetch(ModemClient::getNetInfoAddress(m_question.settings));
         facts.answers = m_answer.status != 0;
-        facts.hasPage = hasStatusFields(m_text, m_question.settings);
+        facts.hasPage = isStatusPage(m_text, m_question.settings);
         if (!facts.hasPage)
             facts.obstacle = obstacleOf(m_answer);
-        facts.connection = connectionStatus(m_text, m_question.settings);
+        facts.connection = getConnectionStatusWithWebContent(m_text, m_question.settings);
         facts.missingFields = missingStatusFields(m_text);
         if (facts.hasPage)
             facts.takesCommands = command(u"ppp_status"_s, u"ppp_status"_s).has_value();

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "setup/checks/ModemAnswers.h"
+#include "RouterObserver/ConfigManager.h"
+#include "setup/checks/ModemFacts.h"
 
 #include <QString>
-#include <QVariantMap>
 
 #include <functional>
 #include <stop_token>
@@ -15,7 +15,7 @@ struct ModemQuestion {
     QString gateway;
     /// Called with each new socket before it is connected: ties it to the interface that the gateway is behind.
     std::function<bool(int socket)> prepareSocket;
-    QVariantMap settings; ///< say which page, and how it is asked for
+    ConfigManager settings; ///< say which page, and how it is asked for
 };
 
 // Only what a browser might ask as well is asked: pages and get commands, never a set command. Each request takes five

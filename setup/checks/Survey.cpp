@@ -1,6 +1,7 @@
 #include "setup/checks/Survey.h"
 
 #include "RouterObserver/ConfigManager.h"
+#include "modemapi/ModemClient.h"
 #include "setup/settings/SettingKeys.h"
 
 #include <chrono>
@@ -16,12 +17,6 @@ namespace {
 constexpr std::chrono::seconds desktopTimeout{5};
 /// Longer than the requests to a modem take.
 constexpr std::chrono::seconds readTimeout{30};
-
-bool sendsAccessPoints(const QVariantMap &settings)
-{
-    const QVariant flag = settings.value(u"ProvisionAccessPoints"_s);
-    return !flag.isValid() || boolValue(flag);
-}
 
 } // namespace
 
@@ -41,14 +36,15 @@ QList<Device> Survey::devices(const QVariantMap &settings) const
 {
     QList<Device> devices;
     for (const UsbNetworkDevice &usb : m_services.usbDevices.devices())
-        devices.append({usb, m_services.interfaceState(usb.interfaceIndex), supportOf(usb, settings)});
+        devices.append({usb, m_services.interfaceState(usb.interfaceIndex),
+                        supportOf(usb.vendor, usb.product, ConfigManager(settings))});
     return devices;
 }
 
 ModemQuestion Survey::questionFor(const Device &device, const QVariantMap &settings) const
 {
     return {device.network.gateway, m_services.socketBinderFor(device.usb),
-            settings.isEmpty() ? shippedSettings() : settings};
+            ConfigManager(settings.isEmpty() ? shippedSettings() : settings)};
 }
 
 void Survey::askWhetherModem(const Device &device, const QVariantMap &settings,
@@ -83,7 +79,7 @@ void Survey::check(std::function<void(const QList<Check> &checks)> deliver)
     gather<DesktopFacts>(
         gathering, desktopTimeout, [read = m_services.readDesktop](const std::stop_token &) { return read(); },
         [](ChainFacts &facts, const DesktopFacts &desktop) { facts.desktop = desktop; });
-    if (!settings.path.isEmpty() && sendsAccessPoints(settings.values)) {
+    if (!settings.path.isEmpty() && ConfigManager(settings.values).flag(u"ProvisionAccessPoints"_s, true)) {
         gather<ProfileFacts>(
             gathering, readTimeout, [read = m_services.readProfiles](const std::stop_token &) { return read(); },
             [](ChainFacts &facts, const ProfileFacts &profiles) { facts.profiles = profiles; });
@@ -107,7 +103,7 @@ ChainFacts Survey::factsAtHand(const SettingsInForce &settings) const
     facts.settingsProblem = settings.problem;
     facts.settingsDigest = settings.digest;
     facts.findings = checkSettings(settings.values);
-    facts.statusPage = statusPagePath(settings.values);
+    facts.statusPage = ModemClient::getNetInfoAddress(ConfigManager(settings.values));
     facts.devices = devices(settings.values);
     return facts;
 }

@@ -1,5 +1,6 @@
 #include "setup/settings/Devices.h"
 
+#include "RouterObserver/UsbIdentity.h"
 #include "setup/settings/SettingKeys.h"
 
 #include <QCoreApplication>
@@ -12,11 +13,6 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString hexadecimal(quint16 number)
-{
-    return u"%1"_s.arg(uint{number}, 4, 16, QChar(u'0'));
-}
 
 int progress(const Device &device)
 {
@@ -31,21 +27,13 @@ int progress(const Device &device)
 
 QString Device::identifier() const
 {
-    return hexadecimal(usb.vendor) + u':' + hexadecimal(usb.product);
+    return UsbIdentity{usb.vendor, usb.product}.text();
 }
 
 QString Device::name() const
 {
     const QString names = QString(usb.vendorName + u' ' + usb.productName).simplified();
     return names.isEmpty() ? identifier() : names;
-}
-
-Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings)
-{
-    if (identifiersAt(settings, exclusionsPath).contains(QString::number(device.product)))
-        return Support::Excluded;
-    const bool supported = identifiersAt(settings, vendorsPath).contains(QString::number(device.vendor));
-    return supported ? Support::Supported : Support::Unsupported;
 }
 
 QString supportText(Support support)

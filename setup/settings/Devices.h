@@ -1,22 +1,15 @@
 #pragma once
 
+#include "RouterObserver/DeviceSupport.h"
 #include "platform/InterfaceState.h"
 #include "platform/UsbNetworkDevices.h"
 
 #include <QList>
 #include <QString>
-#include <QVariantMap>
 
 #include <optional>
 
 namespace tarvo {
-
-/// What the settings say of a device.
-enum class Support {
-    Supported,
-    Excluded, ///< its vendor may be supported, but the product is to be left alone
-    Unsupported,
-};
 
 /// A USB device, and what the network and the settings make of it.
 struct Device {
@@ -31,8 +24,6 @@ struct Device {
     /// @return the names of vendor and product; the identifier when there are none
     QString name() const;
 };
-
-Support supportOf(const UsbNetworkDevice &device, const QVariantMap &settings);
 
 /// @return what @p support says, in the user's language
 QString supportText(Support support);

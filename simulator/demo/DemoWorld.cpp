@@ -44,6 +44,7 @@ DemoWorld::Companion::Companion(DemoWorld &world)
           .statusBar = world.m_statusBar,
           .clock = world.m_clock,
           .systemLog = world.m_systemLog,
+          .settings = ConfigManager::sharedConfigManager(),
           .socketBinderFor = {},
           .terminate = [] { QCoreApplication::quit(); },
           .notifications = &notifications,

@@ -10,8 +10,6 @@
 #include "tests/support/PrintQt.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QVariantList>
 
 #include <gtest/gtest.h>
@@ -25,25 +23,18 @@ constexpr int vendor = 0x1234;
 constexpr int product = 0x5678;
 constexpr int excludedProduct = 0x5679;
 
-/// The settings of this process alone.
-QVariantMap &settings()
+/// @return those that are shipped, with other devices
+ConfigManager settingsWith(const QVariant &deviceInfo)
 {
-    static QVariantMap *const dictionary = [] {
-        const QDir home(qEnvironmentVariable("XDG_CONFIG_HOME"));
-        home.mkpath(u"tarvo"_s);
-        QFile::copy(QStringLiteral(TARVO_SHIPPED_CONFIG), home.filePath(u"tarvo/Config.plist"_s));
-        return ConfigManager::sharedConfigManager().getConfiguration();
-    }();
-    return *dictionary;
+    ConfigManager settings(QStringLiteral(TARVO_SHIPPED_CONFIG));
+    settings.setConfigurationByModule(u"device_info"_s, deviceInfo);
+    return settings;
 }
 
 class RouterObserverTest : public testing::Test {
 protected:
     RouterObserverTest()
     {
-        settings()[u"device_info"_s] =
-            QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s, qlonglong(0x4321)}},
-                        {u"eliminate_product_ids"_s, QVariantList{QString::number(excludedProduct)}}};
         auto reports = std::make_shared<RouterReports>();
         reports->procECMReady = [this](const ReadyDictionary &ready) { ready_.append(ready); };
         reports->procInterfaceRemoved = [this](const QString &bsdName) { removed_.append(bsdName); };
@@ -61,7 +52,10 @@ protected:
     SimulatedNetwork network_{store_};
     SimulatedDeviceRegistry registry_;
     RecordingLog log_;
-    RouterObserver observer_{store_, registry_, log_};
+    ConfigManager settings_ =
+        settingsWith(QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s, qlonglong(0x4321)}},
+                                 {u"eliminate_product_ids"_s, QVariantList{QString::number(excludedProduct)}}});
+    RouterObserver observer_{store_, registry_, log_, settings_};
     std::shared_ptr<const RouterReports> reports_;
     QList<ReadyDictionary> ready_;
     QStringList removed_;
@@ -98,7 +92,7 @@ TEST_F(RouterObserverTest, SupportsEveryProductOfAListedVendorThatIsNotExcluded)
     const auto bare = registry_.addDevice({.parent = 0, .className = {}, .properties = {{u"idVendor"_s, vendor}}});
     EXPECT_TRUE(observer_.isSupportedIOService(bare)) << "no product, so none that is excluded";
     for (const auto &info : {QVariant(), QVariant(QVariantMap()), QVariant(QVariantList{u"x"_s}), QVariant(u"x"_s)}) {
-        settings()[u"device_info"_s] = info;
+        settings_ = settingsWith(info);
         EXPECT_FALSE(observer_.isSupportedVendorID(vendor)) << info.typeName();
     }
 }
@@ -140,7 +134,7 @@ TEST_F(RouterObserverTest, LooksAtTheFirstChangedKeyOnly)
 
 TEST_F(RouterObserverTest, ReportsRemovalOnceAndAReplugByTheSameWatch)
 {
-    RouterObserver deaf(store_, registry_, log_);
+    RouterObserver deaf(store_, registry_, log_, settings_);
     EXPECT_TRUE(deaf.startWatchNetworkInterface(std::make_shared<RouterReports>()));
     observer_.startWatchNetworkInterface(reports_);
     plugIn(u"en5"_s, u"192.168.0.1"_s);
@@ -245,9 +239,9 @@ TEST(SettingsProblem, IsWhyNoModemCanBeFound)
         {{u"18"_s, qlonglong(17)}, SettingsProblem::None, u"settings: entry 2 of vendor_ids, 17"_s},
     };
     for (const auto &[vendors, problem, line] : cases) {
-        settings()[u"device_info"_s] = QVariantMap{{u"vendor_ids"_s, vendors}};
-        EXPECT_EQ(settingsProblem(ConfigManager::sharedConfigManager()), problem);
-        EXPECT_EQ(unmatchedVendorLine(ConfigManager::sharedConfigManager()).section(u',', 0, 1), line);
+        const ConfigManager settings = settingsWith(QVariantMap{{u"vendor_ids"_s, vendors}});
+        EXPECT_EQ(settingsProblem(settings), problem);
+        EXPECT_EQ(unmatchedVendorLine(settings).section(u',', 0, 1), line);
     }
     EXPECT_EQ(settingsProblem(ConfigManager(u"/nonexistent"_s)), SettingsProblem::Unreadable);
 }

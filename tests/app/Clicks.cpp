@@ -17,7 +17,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryFile>
 #include <QTest>
 
 using namespace tarvo;
@@ -42,19 +41,11 @@ Kind *shown()
     return found;
 }
 
-void showIcon()
-{
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open() && file.write("<plist><dict><key>IsDisplayNetStatusInToolBar</key><true/></dict></plist>"));
-    file.close();
-    ConfigManager::sharedConfigManager() = ConfigManager(file.fileName());
-}
-
 } // namespace
 
 TEST(Clicks, ReachTheWindowsFromTheIconInATray)
 {
-    showIcon();
+    const ConfigManager settings(QVariantMap{{u"IsDisplayNetStatusInToolBar"_s, true}});
     const Program tray({"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request"});
     StateStore store;
     SimulatedDeviceRegistry registry;
@@ -64,7 +55,7 @@ TEST(Clicks, ReachTheWindowsFromTheIconInATray)
     ManualClock clock;
     RecordingLog log;
     bool quits = false;
-    MainController controller({store, registry, workspace, bar, clock, log, {}, [&] { quits = true; }});
+    MainController controller({store, registry, workspace, bar, clock, log, settings, {}, [&] { quits = true; }});
     controller.applicationDidFinishLaunching();
 
     const auto *const icon = shown<CustomView>();

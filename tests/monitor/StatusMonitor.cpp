@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 TEST(StatusMonitor, DerivesTheTransferTypeFromTheNewStatus)
 {
-    StatusMonitor monitor({});
+    StatusMonitor monitor(configured(), {});
     const std::tuple<int, int, int> cases[] = {{0, 0, 2}, {0, 1, 0}, {0, 7, 1}, {1, 1, 2}, {1, 0, 1}, {3, 1, 0}};
     for (const auto &[current, next, type] : cases) {
         monitor.setcurrentNetWorkStatus(current);
@@ -21,7 +21,8 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 {
     int published = 0;
     int changed = 0;
-    StatusMonitor monitor({.evaluated = [&](const Work &) { ++published; },
+    StatusMonitor monitor(configured(),
+                          {.evaluated = [&](const Work &) { ++published; },
                            .changed = [&](const Work &, const StatusSnapshot &) { ++changed; }});
     const Work work = attachment->work();
     const QString page = u"last_three_days_tx_bytes: '1' international_roaming_setting: 'on'"_s;
@@ -42,7 +43,7 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 
 TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 {
-    StatusMonitor monitor({});
+    StatusMonitor monitor(configured(), {});
     constexpr auto silent = Obstacle::NoAnswer;
     constexpr auto busy = Obstacle::Busy;
     using Known = std::pair<std::optional<bool>, std::optional<Obstacle>>;
@@ -63,7 +64,7 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 
 TEST_F(AttachedModem, TheSamePageIsReadAnewForTheNextDevice)
 {
-    StatusMonitor monitor({});
+    StatusMonitor monitor(configured(), {});
     for (int device = 0; device < 2; ++device) {
         monitor.resetForReadyDevice(false);
         EXPECT_EQ(monitor.snapshot().get(), StatusSnapshot());
@@ -81,7 +82,7 @@ TEST_F(AttachedModem, TheSamePageIsReadAnewForTheNextDevice)
 TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
 {
     int evaluated = 0;
-    StatusMonitor monitor({.evaluated = [&](const Work &) { ++evaluated; }});
+    StatusMonitor monitor(configured(), {.evaluated = [&](const Work &) { ++evaluated; }});
     monitor.setAllStatusByUrlContents(client.work(), u"last_three_days_tx_bytes: '1'"_s);
     const StatusSnapshot before = monitor.snapshot().get();
     EXPECT_TRUE(before.isHaveDataLimitExceedForThreedays_);
@@ -92,7 +93,7 @@ TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
     EXPECT_EQ(evaluated, 1);
     for (const QString &page : {u"flow_reminder_switch: ''"_s, u"{\"last_three_days_rx_bytes\":\"\"}"_s,
                                 u"pppstate: 'on'"_s, u"\"modem_main_state\":\"\""_s, u"\"dial_mode\":\"\""_s}) {
-        EXPECT_TRUE(isStatusPage(page)) << page.toStdString();
+        EXPECT_TRUE(isStatusPage(page, configured())) << page.toStdString();
         monitor.setAllStatusByUrlContents(client.work(), page);
         EXPECT_FALSE(monitor.snapshot().get().isHaveDataLimitExceedForThreedays_);
     }
@@ -101,13 +102,14 @@ TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
 
 TEST(ModemDetails, AreWhatThePageTells)
 {
-    EXPECT_EQ(readModemDetails({}, {}), ModemDetails());
+    const ConfigManager settings((QVariantMap()));
+    EXPECT_EQ(readModemDetails({}, {}, settings), ModemDetails());
     const QString page =
         uR"("modem_main_state":"modem_waitpuk","ppp_status":"ppp_connected","dial_mode":"manual_dial",)"
         uR"("international_roaming_setting":"on","flow_reminder_switch":"on",)"
         uR"("reminder_threshold_for_data_usage":"8","last_three_days_rx_bytes":"1073741824")"_s;
-    EXPECT_EQ(readModemDetails(page, readStatusFields(page)),
+    EXPECT_EQ(readModemDetails(page, readStatusFields(page), settings),
               (ModemDetails{true, false, SimState::NeedsPuk, false, true, true, 8, 1}));
-    EXPECT_TRUE(readModemDetails(u"ppp_status: 'ppp_connecting'"_s, {}).connecting);
-    EXPECT_FALSE(readModemDetails(u"ppp_status: 'ppp_disconnecting'"_s, {}).connecting);
+    EXPECT_TRUE(readModemDetails(u"ppp_status: 'ppp_connecting'"_s, {}, settings).connecting);
+    EXPECT_FALSE(readModemDetails(u"ppp_status: 'ppp_disconnecting'"_s, {}, settings).connecting);
 }

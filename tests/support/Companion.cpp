@@ -1,6 +1,5 @@
 #include "tests/support/Companion.h"
 
-#include "RouterObserver/ConfigManager.h"
 #include "ui/icon/CustomView.h"
 
 #include <QTest>
@@ -15,10 +14,10 @@ using namespace std::chrono_literals;
 namespace {
 
 /// Makes the settings before the controller reads them.
-Services configured(Services services)
+const ConfigManager &usuallyConfigured()
 {
     configure(usualSettings());
-    return services;
+    return configured();
 }
 
 } // namespace
@@ -28,9 +27,15 @@ bool eventually(const std::function<bool()> &condition)
     return QTest::qWaitFor(condition, 10'000);
 }
 
+ConfigManager &configured()
+{
+    static ConfigManager settings;
+    return settings;
+}
+
 void configure(const QVariantMap &settings)
 {
-    *ConfigManager::sharedConfigManager().getConfiguration() = settings;
+    *configured().getConfiguration() = settings;
 }
 
 QVariantMap usualSettings()
@@ -41,15 +46,16 @@ QVariantMap usualSettings()
 }
 
 Companion::Companion()
-    : controller(configured({.dynamicStore = store,
-                             .deviceRegistry = registry,
-                             .workspace = workspace,
-                             .statusBar = statusBar,
-                             .clock = clock,
-                             .systemLog = systemLog,
-                             .socketBinderFor = {},
-                             .terminate = {},
-                             .identityOf = [this](const QString &name) { return identities.value(name); }}))
+    : controller({.dynamicStore = store,
+                  .deviceRegistry = registry,
+                  .workspace = workspace,
+                  .statusBar = statusBar,
+                  .clock = clock,
+                  .systemLog = systemLog,
+                  .settings = usuallyConfigured(),
+                  .socketBinderFor = {},
+                  .terminate = {},
+                  .identityOf = [this](const QString &name) { return identities.value(name); }})
 {
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RouterObserver/ConfigManager.h"
 #include "RouterObserver/RouterObserver.h"
 #include "app/MainController.h"
 #include "modemapi/ModemClient.h"
@@ -35,7 +36,9 @@ struct Modem {
     ModemServer server{device};
 };
 
-/// Replaces all of the product's settings with @p settings.
+/// The settings of all parts that a test makes.
+ConfigManager &configured();
+/// Replaces all of them with @p settings.
 void configure(const QVariantMap &settings);
 
 /// The settings that the tests start from: modems of the vendor 4660 are supported, the icon is shown and stays.
@@ -49,7 +52,7 @@ struct AttachedModem : testing::Test {
     RecordingLog systemLog;
     ThreadGroup threads{systemLog};
     std::optional<Attachment> attachment{std::in_place, ModemLocation{modem.server.authority(), {}, {}}, threads};
-    ModemClient client{attachment->work(), systemLog};
+    ModemClient client{attachment->work(), configured(), systemLog};
     SharedSnapshot snapshot;
 };
 

@@ -14,8 +14,10 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Callbacks callbacks)
+StatusIcon::StatusIcon(StatusBar &statusBar, SystemLog &systemLog, const ConfigManager &settings, QMenu &menu,
+                       Callbacks callbacks)
     : m_statusBar(statusBar)
+    , m_settings(settings)
     , m_menu(menu)
     , m_callbacks(std::move(callbacks))
     , cview_(std::make_unique<CustomView>(systemLog))
@@ -32,7 +34,7 @@ StatusIcon::~StatusIcon() = default;
 
 void StatusIcon::startToolbarStatus()
 {
-    if (!configurationFlag(u"IsDisplayNetStatusInToolBar"_s) || statusItem_)
+    if (!m_settings.flag(u"IsDisplayNetStatusInToolBar"_s) || statusItem_)
         return;
     statusDisplay_ = m_statusBar.createItem(variableStatusItemLength);
     statusItem_ = m_statusBar.createItem(squareStatusItemLength);
@@ -42,7 +44,7 @@ void StatusIcon::startToolbarStatus()
 
 void StatusIcon::showRemoval()
 {
-    if (configurationFlag(u"NeedDisplayWhenDeviceRemoved"_s))
+    if (m_settings.flag(u"NeedDisplayWhenDeviceRemoved"_s))
         return;
     statusItem_.reset();
     statusDisplay_.reset();

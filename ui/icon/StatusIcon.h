@@ -14,6 +14,7 @@ class QTimer;
 
 namespace tarvo {
 
+class ConfigManager;
 class CustomView;
 class SystemLog;
 
@@ -26,8 +27,9 @@ public:
         std::function<void()> pointerEntered; ///< the icon; not in every bar
     };
 
-    /// @param statusBar, systemLog, menu  outlive the icon
-    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, QMenu &menu, Callbacks callbacks);
+    /// Everything referred to outlives the icon.
+    StatusIcon(StatusBar &statusBar, SystemLog &systemLog, const ConfigManager &settings, QMenu &menu,
+               Callbacks callbacks);
     ~StatusIcon();
     StatusIcon(const StatusIcon &) = delete;
     StatusIcon &operator=(const StatusIcon &) = delete;
@@ -54,6 +56,7 @@ private:
     void clicked();
 
     StatusBar &m_statusBar;
+    const ConfigManager &m_settings;
     QMenu &m_menu;
     const Callbacks m_callbacks;
     QObject m_context; ///< what is connected to it ends with the icon

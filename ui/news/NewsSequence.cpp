@@ -46,7 +46,7 @@ NewsSequence::~NewsSequence() = default;
 
 void NewsSequence::mouseEnteredHandle(const Work *work)
 {
-    if (configurationFlag(u"DonotShowStatusWhenMouseMoveIn"_s) || startDisplayFlowing()) {
+    if (m_with.settings.flag(u"DonotShowStatusWhenMouseMoveIn"_s) || startDisplayFlowing()) {
         m_with.systemLog.write(u"already dislaystatus or no need display"_s);
         return;
     }

@@ -19,6 +19,7 @@
 namespace tarvo {
 
 class BalloonPresenter;
+class ConfigManager;
 class SharedSnapshot;
 class StepQueue;
 class SystemLog;
@@ -46,6 +47,7 @@ public:
         StepQueue &mainThread;
         Clock &clock;
         SystemLog &systemLog;
+        const ConfigManager &settings;
     };
     /// Whom the sequence tells and asks: on the main thread, but for `mayTell`.
     struct Callbacks {

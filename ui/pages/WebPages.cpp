@@ -26,9 +26,10 @@ QString serverOf(const QString &router)
 
 } // namespace
 
-WebPages::WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
-                   CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself)
+WebPages::WebPages(Workspace &workspace, const ConfigManager &settings, const SharedSnapshot &snapshot,
+                   StepQueue &mainThread, Router router, CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself)
     : m_workspace(workspace)
+    , m_settings(settings)
     , m_snapshot(snapshot)
     , m_mainThread(mainThread)
     , m_router(std::move(router))
@@ -95,7 +96,7 @@ std::optional<QString> WebPages::address(Page page) const
                                              {Page::Firmware, u"FotaNewVersionHomePage"_s},
                                              {Page::DataLimit, u"DateLimitHomePage"_s},
                                              {Page::Messages, u"WebUISmsPage"_s}};
-    const auto configured = configurationText(modules.value(page));
+    const auto configured = m_settings.text(modules.value(page));
     return configured ? withRouter(*configured) : std::nullopt;
 }
 
@@ -111,7 +112,7 @@ std::optional<QString> WebPages::withRouter(const QString &page) const
 
 void WebPages::openConfiguredPage(const QString &module)
 {
-    if (const auto page = configurationText(module))
+    if (const auto page = m_settings.text(module))
         openPage(*page);
 }
 
@@ -155,7 +156,7 @@ bool WebPages::needsUserForApn(ModemClient &client, const WebUIFields &fields)
 
 void WebPages::openWebUIOnce(const Work &work)
 {
-    const QString page = configurationText(u"OperatorHomePage"_s).value_or(serverOf(work.router()));
+    const QString page = m_settings.text(u"OperatorHomePage"_s).value_or(serverOf(work.router()));
     // Counted only when it happens: a step whose work ends before that is dropped, and the next attachment opens them.
     work.post(m_mainThread, [this, page] {
         const bool first = !hasOpenedWebUI_.exchange(true);
@@ -166,7 +167,7 @@ void WebPages::openWebUIOnce(const Work &work)
 
 void WebPages::checkModemMainState(ModemClient &client, const QString &content)
 {
-    const auto home = configurationText(u"OperatorHomePage"_s);
+    const auto home = m_settings.text(u"OperatorHomePage"_s);
     const auto mainState = getModemInfoFromKeyForWeb5(u"modem_main_state\":"_s, content);
     client.log(u"modemMainState state is "_s + mainState.value_or(u"(null)"_s));
 

@@ -13,6 +13,7 @@
 
 namespace tarvo {
 
+class ConfigManager;
 class ModemClient;
 class StepQueue;
 class Workspace;
@@ -33,8 +34,8 @@ public:
 
     /// Everything referred to outlives this object.
     /// @param mainThread  carries the opening of pages to the main thread
-    WebPages(Workspace &workspace, const SharedSnapshot &snapshot, StepQueue &mainThread, Router router,
-             CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself = {});
+    WebPages(Workspace &workspace, const ConfigManager &settings, const SharedSnapshot &snapshot, StepQueue &mainThread,
+             Router router, CouldNotOpen couldNotOpen, MayOpenByItself mayOpenByItself = {});
 
     /// The icon's click: opens the page that the news calls for.
     void openHomepage();
@@ -94,6 +95,7 @@ private:
     void openPageFor(const Work &work, const QString &page);
 
     Workspace &m_workspace;
+    const ConfigManager &m_settings;
     const SharedSnapshot &m_snapshot;
     StepQueue &m_mainThread;
     const Router m_router;

@@ -1,6 +1,5 @@
 #include "ui/windows/AlertPanelController.h"
 
-#include "RouterObserver/ConfigManager.h"
 #include "ui/look/Images.h"
 #include "ui_AlertPanel.h"
 
@@ -86,8 +85,7 @@ bool AlertPanelController::eventFilter(QObject *, QEvent *event)
 void AlertPanelController::btnOKAction()
 {
     wndAlert_->done(QDialog::Accepted);
-    if (const auto page = configurationText(u"FotaNewVersionHomePage"_s))
-        Q_EMIT pageWanted(*page);
+    Q_EMIT pageWanted();
 }
 
 void AlertPanelController::btnCancelAction()

@@ -28,7 +28,7 @@ public:
     void runAlertPanelTitle(const QString &title, const QString &msg, const QString &strDefaultBtn,
                             const std::optional<QString> &strAlternateBtn);
 
-    /// Ends the panel with the code 1 and asks for the page with the new firmware, if one is configured.
+    /// Ends the panel with the code 1 and asks for the page with the new firmware.
     void btnOKAction();
     /// Ends the panel with the code 0.
     void btnCancelAction();
@@ -38,7 +38,7 @@ public:
 
 Q_SIGNALS:
     /// The page with the new firmware is to be opened.
-    void pageWanted(const QString &page);
+    void pageWanted();
 
 private:
     AlertPanelController();

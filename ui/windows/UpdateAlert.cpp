@@ -1,6 +1,5 @@
 #include "ui/windows/UpdateAlert.h"
 
-#include "RouterObserver/ConfigManager.h"
 #include "ui/pages/WebPages.h"
 #include "ui/windows/AlertPanelController.h"
 
@@ -20,9 +19,9 @@ void UpdateAlert::showAlertMsgForUpdate()
     if (!m_panel) {
         m_panel = AlertPanelController::shareAlertPanel();
         QObject::connect(m_panel.get(), &AlertPanelController::pageWanted, &m_context,
-                         [this](const QString &page) { m_pages.openPage(page); });
+                         [this] { m_pages.openNewVersionPage(); });
     }
-    const bool hasPage = configurationText(u"FotaNewVersionHomePage"_s).has_value();
+    const bool hasPage = m_pages.canOpen(Page::Firmware);
     m_panel->runAlertPanelTitle(qtTrId("updateTitleTip"),
                                 hasPage ? qtTrId("updateMsgTip") : qtTrId("HaveNewVersionTipWhenConnected"),
                                 hasPage ? qtTrId("updateButtonTip") : qtTrId("updateButtonOk"), std::nullopt);

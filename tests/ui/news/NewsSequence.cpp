@@ -72,9 +72,10 @@ struct BalloonSequence : AttachedModem {
     SimulatedWorkspace workspace;
     ManualClock clock;
     StepQueue mainThread;
-    WebPages pages{workspace, snapshot, mainThread, [] { return std::nullopt; }, {}};
+    WebPages pages{workspace, configured(), snapshot, mainThread, [] { return std::nullopt; }, {}};
     QMenu menu;
-    StatusIcon icon{statusBar, systemLog, menu, {[] {}, [this] { news.mouseEnteredHandle(&client.work()); }}};
+    StatusIcon icon{
+        statusBar, systemLog, configured(), menu, {[] {}, [this] { news.mouseEnteredHandle(&client.work()); }}};
     SimulatedNotifications notifications;
     bool panelWasOpen = false; ///< when the last balloon was about to open
     BalloonPresenter balloon{&notifications, {.iconFrame = [this] {
@@ -84,7 +85,7 @@ struct BalloonSequence : AttachedModem {
     UpdateAlert alert{pages};
     QStringList told;
     QList<bool> clicks; ///< whether the click opened the firmware page, each time that it was told of
-    NewsSequence news{{snapshot, pages, balloon, alert, mainThread, clock, systemLog},
+    NewsSequence news{{snapshot, pages, balloon, alert, mainThread, clock, systemLog, configured()},
                       {[this](const QString &image) { icon.setStatusImage(image); },
                        [this](const StandingNews &each) { told += each.text; },
                        [this] { clicks += pages.openUpdateUrlWhileHasNewVersion(); }}};

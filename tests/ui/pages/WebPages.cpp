@@ -123,7 +123,8 @@ TEST_F(WebUI, ClickOpensThePageThatTheNewsCallsFor)
     StepQueue mainThread;
     QStringList failed;
     WebPages pages(
-        workspace, snapshot, mainThread, [] { return std::nullopt; }, [&](const QString &page) { failed += page; });
+        workspace, configured(), snapshot, mainThread, [] { return std::nullopt; },
+        [&](const QString &page) { failed += page; });
     for (const auto &[update, limit] : {std::pair(true, true), {false, true}, {false, false}}) {
         pages.setClickTargets(update, std::nullopt);
         snapshot.reset({.haveDataLimitFlag_ = limit});

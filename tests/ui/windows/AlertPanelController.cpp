@@ -15,9 +15,8 @@ TEST(AlertPanel, OnlyTheDefaultButtonLeadsToThePage)
     QDialog &window = panel->wndAlert();
     auto *ok = window.findChild<QPushButton *>(u"btnOK_"_s);
     auto *cancel = window.findChild<QPushButton *>(u"btnCancel_"_s);
-    QStringList wanted;
-    QObject::connect(panel.get(), &AlertPanelController::pageWanted, [&](const QString &page) { wanted << page; });
-    configure({{u"FotaNewVersionHomePage"_s, u"http://update/"_s}});
+    int wanted = 0;
+    QObject::connect(panel.get(), &AlertPanelController::pageWanted, [&] { ++wanted; });
 
     const std::pair<std::function<void()>, bool> answers[] = {
         {[&] { ok->click(); }, true},
@@ -25,7 +24,7 @@ TEST(AlertPanel, OnlyTheDefaultButtonLeadsToThePage)
         {[&] { window.close(); }, false},
     };
     for (const auto &[answer, leadsToPage] : answers) {
-        wanted.clear();
+        wanted = 0;
         panel->runAlertPanelTitle(u"T"_s, u"M"_s, u"D"_s, u"A"_s);
         EXPECT_TRUE(window.isVisible() && cancel->isVisible() && !window.isModal());
         for (QWidget *target : {static_cast<QWidget *>(&window), static_cast<QWidget *>(ok)})
@@ -34,7 +33,7 @@ TEST(AlertPanel, OnlyTheDefaultButtonLeadsToThePage)
         answer();
         EXPECT_FALSE(window.isVisible());
         EXPECT_EQ(window.result(), leadsToPage ? 1 : 0);
-        EXPECT_EQ(wanted, leadsToPage ? QStringList(u"http://update/"_s) : QStringList());
+        EXPECT_EQ(wanted, leadsToPage ? 1 : 0);
     }
     panel->runAlertPanelTitle(u"T2"_s, u"M2"_s, u"D2"_s, std::nullopt);
     EXPECT_EQ((QStringList{window.windowTitle(), window.accessibleDescription(), ok->text()}),

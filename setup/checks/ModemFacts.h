@@ -4,7 +4,6 @@
 
 #include <QString>
 #include <QStringList>
-#include <QVariantMap>
 
 #include <optional>
 
@@ -25,14 +24,5 @@ struct ModemFacts {
     /// @return whether these are the answers of a modem
     bool isModem() const { return connection && takesCommands; }
 };
-
-/// @return the path of the page that tells the modem's status
-QString statusPagePath(const QVariantMap &settings);
-
-/// @return the connection status in @p page, read as @p settings say; nil when there is none
-std::optional<QString> connectionStatus(const QString &page, const QVariantMap &settings);
-
-/// @return whether @p page has any field of a status page, read as @p settings say
-bool hasStatusFields(const QString &page, const QVariantMap &settings);
 
 } // namespace tarvo
