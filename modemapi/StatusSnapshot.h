@@ -4,6 +4,8 @@
 #include "attachment/Guarded.h"
 #include "modemapi/Obstacle.h"
 
+#include <QString>
+
 #include <functional>
 #include <optional>
 
@@ -18,6 +20,9 @@ enum class SimState {
     NeedsPuk,
     Locked, ///< to another network
 };
+
+/// @param mainState  the value of `modem_main_state`; nil when there is none
+SimState simState(const std::optional<QString> &mainState);
 
 /// What the status page tells beside that of which news are made. What the page does not tell is nil.
 struct ModemDetails {

@@ -3,7 +3,6 @@
 #include "modemapi/AnswerFields.h"
 #include "modemapi/ConnectionStatus.h"
 
-#include <QMap>
 #include <QStringList>
 
 namespace tarvo {
@@ -11,16 +10,6 @@ namespace tarvo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-SimState simState(const std::optional<QString> &mainState)
-{
-    static const QMap<QString, SimState> states{
-        {u"modem_sim_undetected"_s, SimState::Missing}, {u"modem_sim_destroy"_s, SimState::Damaged},
-        {u"modem_waitpin"_s, SimState::NeedsPin},       {u"modem_waitpuk"_s, SimState::NeedsPuk},
-        {u"modem_imsi_lock"_s, SimState::Locked},       {u"modem_imsi_waitnck"_s, SimState::Locked},
-    };
-    return states.value(mainState.value_or(QString()), SimState::Unknown);
-}
 
 /// @return whether @p status is the one before one of those that mean a connection
 bool isConnecting(const QString &status)

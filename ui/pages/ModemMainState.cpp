@@ -1,6 +1,6 @@
 #include "ui/pages/ModemMainState.h"
 
-#include <QStringList>
+#include "modemapi/StatusSnapshot.h"
 
 namespace tarvo {
 
@@ -8,17 +8,11 @@ using namespace Qt::StringLiterals;
 
 StartUpAction startUpAction(const std::optional<QString> &mainState, int counter)
 {
-    static const QStringList needUser{
-        u"modem_sim_undetected"_s, u"modem_sim_destroy"_s, u"modem_waitpin"_s,
-        u"modem_waitpuk"_s,        u"modem_imsi_lock"_s,   u"modem_imsi_waitnck"_s,
-    };
-    if (!mainState)
-        return {};
-    if (needUser.contains(*mainState))
+    if (simState(mainState) != SimState::Unknown)
         return {StartUpPage::HomeOrModem, true};
-    if (*mainState == u"modem_handover" && counter == 5)
+    if (mainState == u"modem_handover"_s && counter == 5)
         return {StartUpPage::Home, true};
-    return {StartUpPage::None, *mainState == u"modem_init_complete"};
+    return {StartUpPage::None, mainState == u"modem_init_complete"_s};
 }
 
 } // namespace tarvo

@@ -18,15 +18,25 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString applicationInterface = u"org.freedesktop.Application"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 constexpr auto activationTimeout = 4s;
 
-} // namespace
-
+/// @return the path of the object by which the application is reached
 QString applicationObjectPath(const QString &applicationId)
 {
     return u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_');
+}
+
+} // namespace
+
+QDBusMessage applicationCall(const QString &applicationId, const QString &interface, const QString &member,
+                             const QVariantList &arguments)
+{
+    auto message =
+        QDBusMessage::createMethodCall(applicationId, applicationObjectPath(applicationId), interface, member);
+    message.setAutoStartService(false);
+    message.setArguments(arguments);
+    return message;
 }
 
 ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers,
@@ -99,11 +109,7 @@ bool activateRunningApplication(const QString &busAddress, const QString &applic
     BusConnection bus(busAddress);
     QEventLoop loop;
     const auto activate = [&] {
-        auto message = QDBusMessage::createMethodCall(applicationId, applicationObjectPath(applicationId),
-                                                      applicationInterface, u"Activate"_s);
-        message.setAutoStartService(false);
-        message << QVariantMap();
-        bus.call(message, &loop,
+        bus.call(applicationCall(applicationId, applicationInterface, u"Activate"_s, {QVariantMap()}), &loop,
                  [&](const QDBusMessage &answer) { loop.exit(answer.type() == QDBusMessage::ReplyMessage ? 1 : 0); });
     };
     bus.follow(&loop, activate, [&] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });

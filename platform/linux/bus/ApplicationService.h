@@ -3,6 +3,7 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QString>
+#include <QVariantList>
 #include <QVariantMap>
 
 #include <functional>
@@ -42,8 +43,12 @@ private:
     const QVariantMap m_properties;
 };
 
-/// @return the path of the object by which the application @p applicationId is reached on the session bus
-QString applicationObjectPath(const QString &applicationId);
+/// The D-Bus interface that applications have (freedesktop Desktop Entry Specification).
+inline const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
+
+/// @return a call of the application that owns @p applicationId on the session bus, which is not started for that
+QDBusMessage applicationCall(const QString &applicationId, const QString &interface, const QString &member,
+                             const QVariantList &arguments);
 
 /// Asks the program that owns @p applicationId on the session bus to show itself, while events are handled for a few
 /// seconds at most. @return whether it did

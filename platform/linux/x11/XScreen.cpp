@@ -47,6 +47,13 @@ xcb_atom_t XScreen::atom(const QByteArray &name) const
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+xcb_window_t XScreen::ownerOf(xcb_atom_t selection) const
+{
+    const XReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr));
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+}
+
 std::optional<quint32> XScreen::property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const
 {
     const auto request = xcb_get_property(connection, 0, window, name, type, 0, 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QList>
 #include <QRect>
 
@@ -32,6 +33,10 @@ struct XScreen {
 
     /// @return the atom called @p name, made when there was none; none when the server cannot
     xcb_atom_t atom(const QByteArray &name) const;
+    /// @return the selection that is called @p name with the screen's number
+    xcb_atom_t selection(const QByteArray &name) const { return atom(name + QByteArray::number(number)); }
+    /// @return the window that owns @p selection; none when there is none
+    xcb_window_t ownerOf(xcb_atom_t selection) const;
     /// @return the first item of a 32-bit property of @p window; nil when it has no such property
     std::optional<quint32> property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
     /// Adds @p events to those that the application gets of @p window. @return false when there is no such window

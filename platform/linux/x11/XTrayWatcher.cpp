@@ -6,6 +6,7 @@ namespace tarvo {
 
 namespace {
 
+const char *const traySelection = "_NET_SYSTEM_TRAY_S"; // freedesktop.org System Tray Protocol
 constexpr quint32 orientationVertical = 1;
 constexpr quint8 eventTypeMask = 0x7f; // the highest bit tells that a client sent the event
 
@@ -27,10 +28,20 @@ int visualDepth(const xcb_connection_t *connection, xcb_visualid_t visual)
 
 } // namespace
 
+bool hasXTray()
+{
+    XScreen screen;
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> display(xcb_connect(nullptr, &screen.number),
+                                                                               &xcb_disconnect);
+    screen.connection = display.get();
+    return xcb_connection_has_error(display.get()) == 0
+        && screen.ownerOf(screen.selection(traySelection)) != XCB_WINDOW_NONE;
+}
+
 XTrayWatcher::XTrayWatcher(const XScreen &screen, std::function<void()> changed)
     : m_screen(screen)
     , m_changed(std::move(changed))
-    , m_selection(screen.atom("_NET_SYSTEM_TRAY_S" + QByteArray::number(screen.number)))
+    , m_selection(screen.selection(traySelection))
     , m_manager(screen.atom("MANAGER"))
 {
     m_screen.addEvents(m_screen.root, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
@@ -98,14 +109,11 @@ xcb_window_t XTrayWatcher::watchedSelectionOwner() const
 {
     // While the server is grabbed the owner cannot go before its end would be told.
     xcb_grab_server(m_screen.connection);
-    const auto request = xcb_get_selection_owner(m_screen.connection, m_selection);
-    const XReply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(m_screen.connection, request, nullptr));
-    const bool watched =
-        reply && reply->owner != XCB_WINDOW_NONE && m_screen.addEvents(reply->owner, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    const xcb_window_t owner = m_screen.ownerOf(m_selection);
+    const bool watched = owner != XCB_WINDOW_NONE && m_screen.addEvents(owner, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     xcb_ungrab_server(m_screen.connection);
     xcb_flush(m_screen.connection);
-    return watched ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+    return watched ? owner : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 } // namespace tarvo

@@ -23,6 +23,10 @@ struct XTray {
     bool operator==(const XTray &) const = default;
 };
 
+/// @return whether the screen of the environment has a tray, asked over a connection of its own. Any thread; without a GUI
+///         application, too
+bool hasXTray();
+
 /// Follows which window owns the tray selection of the freedesktop.org System Tray Protocol, by events alone: the
 /// announcement that a new manager sends to the root window, and the end of the manager's window.
 class XTrayWatcher final : private QAbstractNativeEventFilter {
