@@ -61,7 +61,7 @@ void MainController::procECMReady(const ReadyDictionary &ready)
     m_hasNoGateway = false;
     if (isResting())
         return; // what ends the rest starts with it
-    if (!m_plugIns.isCurrent(m_device.identity())) {
+    if (!m_device.identity().isSamePlugIn(m_plugIns.current())) {
         endPlugIn(); // what still runs for an earlier device must not see this one's flags
         resetForReadyDevice(m_plugIns.begin(m_device.identity()));
         startGetModemInfo();

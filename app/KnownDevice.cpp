@@ -16,14 +16,12 @@ KnownDevice::KnownDevice(const Services &services)
 bool KnownDevice::keep(const ReadyDictionary &ready)
 {
     const auto &name = ready.kOmbraBSDName;
-    const auto &binderFor = m_services.socketBinderFor;
-    const auto &identityOf = m_services.identityOf;
-    const InterfaceIdentity before =
-        std::exchange(m_identity, identityOf && name ? identityOf(*name) : InterfaceIdentity());
-    const bool isSame = m_identity.index != 0 && m_identity.index == before.index;
-    m_location = {*ready.router, name, binderFor && name ? binderFor(*name) : SocketBinder()};
+    InterfaceFacts &interfaces = m_services.interfaces;
+    const InterfaceIdentity before = std::exchange(m_identity, name ? interfaces.identity(*name) : InterfaceIdentity());
+    const bool isSame = m_identity.isSamePlugIn(before);
+    m_location = {*ready.router, name, name ? interfaces.socketBinder(*name) : SocketBinder()};
     const auto identity = usbIdentity(m_services.deviceRegistry, ready.kOmbraIOService);
-    m_details = {.name = m_services.deviceName && name ? m_services.deviceName(*name) : QString(),
+    m_details = {.name = name ? interfaces.deviceName(*name) : QString(),
                  .usbIdentity = identity ? identity->text() : QString(),
                  .interfaceName = name.value_or(QString()),
                  .address = ready.addresses.value(0).section(u'/', 0, 0),

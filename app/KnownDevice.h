@@ -4,6 +4,7 @@
 #include "app/Services.h"
 #include "attachment/Attachment.h"
 #include "platform/Clock.h"
+#include "platform/InterfaceFacts.h"
 #include "status/DetailRows.h"
 
 #include <QtGlobal>

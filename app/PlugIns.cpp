@@ -5,11 +5,6 @@
 
 namespace tarvo {
 
-bool PlugIns::isCurrent(const InterfaceIdentity &interface) const
-{
-    return interface.index != 0 && interface.index == m_current.index;
-}
-
 PlugInState PlugIns::begin(const InterfaceIdentity &interface)
 {
     m_current = interface;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apn/ApnProvisioner.h"
-#include "app/Services.h"
+#include "platform/InterfaceFacts.h"
 
 #include <QList>
 
@@ -31,8 +31,8 @@ class PlugIns {
 public:
     static constexpr qsizetype longest = 16; ///< of several modems, those that were reported last are remembered
 
-    /// @return whether @p interface is the one that work goes on for; never for one that cannot be told from others
-    bool isCurrent(const InterfaceIdentity &interface) const;
+    /// @return the interface that work goes on for; index 0 for none
+    const InterfaceIdentity &current() const { return m_current; }
     /// Work begins for @p interface. @return what has been done for it since it came
     PlugInState begin(const InterfaceIdentity &interface);
     /// Work ends for the interface that it went on for; @p state is what has been done. Nothing when there was none.
@@ -43,7 +43,7 @@ public:
     void restore(const QList<PlugIn> &plugIns);
 
 private:
-    InterfaceIdentity m_current{}; ///< index 0 for none
+    InterfaceIdentity m_current{};
     QList<PlugIn> m_plugIns; ///< the one that was reported last is the last
 };
 

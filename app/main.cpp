@@ -11,10 +11,9 @@
 #include "platform/linux/desktop/LogindWorkspace.h"
 #include "platform/linux/log/QtMessages.h"
 #include "platform/linux/log/SyslogLog.h"
-#include "platform/linux/network/HardwareAddress.h"
+#include "platform/linux/network/KernelInterfaceFacts.h"
 #include "platform/linux/network/LeaseFiles.h"
 #include "platform/linux/network/NetlinkDynamicStore.h"
-#include "platform/linux/network/SocketBinding.h"
 #include "platform/linux/network/UdevDeviceRegistry.h"
 #include "platform/linux/network/UdevUsbNetworkDevices.h"
 #include "platform/linux/process/Restart.h"
@@ -48,15 +47,6 @@ QString findSetupProgram()
     const QString name = u"tarvo-setup"_s;
     const QString beside = QStandardPaths::findExecutable(name, {QApplication::applicationDirPath()});
     return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
-}
-
-QString deviceName(UsbNetworkDevices &devices, const QString &interfaceName)
-{
-    for (const UsbNetworkDevice &device : devices.devices()) {
-        if (device.interfaceName == interfaceName)
-            return u"%1 %2"_s.arg(device.vendorName, device.productName).trimmed();
-    }
-    return {};
 }
 
 /// Has the instance that runs already show itself. @return the exit status
@@ -94,6 +84,7 @@ private:
     DesktopNotifications m_notifications{m_sessionBus, m_systemLog};
     SteadyClock m_clock;
     UdevUsbNetworkDevices m_usbDevices;
+    KernelInterfaceFacts m_interfaces{m_dynamicStore, m_usbDevices};
 };
 
 Surroundings::Surroundings(Restart &restart, SystemLog &systemLog)
@@ -121,23 +112,17 @@ void Surroundings::announceServicesAfterWake()
 
 Services Surroundings::services()
 {
-    Services services{
-        .dynamicStore = m_dynamicStore,
-        .deviceRegistry = m_deviceRegistry,
-        .workspace = m_workspace,
-        .statusBar = m_statusBar,
-        .clock = m_clock,
-        .systemLog = m_systemLog,
-        .settings = ConfigManager::sharedConfigManager(),
-        .socketBinderFor = [this](const QString &name) { return socketBinder(m_dynamicStore.interfaceIndex(name)); },
-        .terminate = [] { QApplication::quit(); },
-        .notifications = &m_notifications,
-        .deviceName = [this](const QString &name) { return deviceName(m_usbDevices, name); },
-        .identityOf =
-            [this](const QString &name) {
-                return InterfaceIdentity{m_dynamicStore.interfaceIndex(name), hardwareAddress(name)};
-            },
-        .isScreenComposited = isScreenComposited};
+    Services services{.dynamicStore = m_dynamicStore,
+                      .deviceRegistry = m_deviceRegistry,
+                      .interfaces = m_interfaces,
+                      .workspace = m_workspace,
+                      .statusBar = m_statusBar,
+                      .clock = m_clock,
+                      .systemLog = m_systemLog,
+                      .settings = ConfigManager::sharedConfigManager(),
+                      .terminate = [] { QApplication::quit(); },
+                      .notifications = &m_notifications,
+                      .isScreenComposited = isScreenComposited};
     const QString setupProgram = findSetupProgram();
     if (!setupProgram.isEmpty())
         services.openSettings = [this, setupProgram] { m_workspace.launchApplication(setupProgram); };

@@ -40,19 +40,14 @@ DemoWorld::Companion::Companion(DemoWorld &world)
     , controller(Services{
           .dynamicStore = world.m_store,
           .deviceRegistry = world.m_registry,
+          .interfaces = world.m_interfaces,
           .workspace = workspace,
           .statusBar = world.m_statusBar,
           .clock = world.m_clock,
           .systemLog = world.m_systemLog,
           .settings = ConfigManager::sharedConfigManager(),
-          .socketBinderFor = {},
           .terminate = [] { QCoreApplication::quit(); },
           .notifications = &notifications,
-          .deviceName = [](const QString &) { return deviceName; },
-          .identityOf =
-              [&world](const QString &name) {
-                  return InterfaceIdentity{static_cast<int>(world.m_registry.serviceMatchingBSDName(name))};
-              },
           .openSettings = [&world] { world.m_setup->open(); },
           .isScreenComposited = isScreenComposited,
       })
@@ -107,6 +102,7 @@ void DemoWorld::plugIn()
         return;
     m_pluggedIn = true;
     m_device = m_registry.addModem(interfaceName, vendorID, productID);
+    m_interfaces.plug(interfaceName, {static_cast<int>(m_device)}, deviceName);
     m_network.addInterface(interfaceName);
     m_interface = {.isUp = true};
     m_usbDevices.plug({{.vendor = vendorID,

@@ -13,6 +13,7 @@
 #include "simulator/modem/SimulatedModem.h"
 #include "simulator/surroundings/RecordingLog.h"
 #include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedInterfaceFacts.h"
 #include "simulator/surroundings/SimulatedNetwork.h"
 #include "simulator/surroundings/SimulatedUsbNetworkDevices.h"
 #include "simulator/surroundings/SimulatedWorkspace.h"
@@ -107,6 +108,7 @@ private:
     StateStore m_store;
     SimulatedNetwork m_network;
     SimulatedDeviceRegistry m_registry;
+    SimulatedInterfaceFacts m_interfaces;
     SimulatedUsbNetworkDevices m_usbDevices;
     ObservedStatusBar m_statusBar;
     SteadyClock m_clock;

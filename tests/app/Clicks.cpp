@@ -7,6 +7,7 @@
 #include "simulator/surroundings/ManualClock.h"
 #include "simulator/surroundings/RecordingLog.h"
 #include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedInterfaceFacts.h"
 #include "simulator/surroundings/SimulatedWorkspace.h"
 #include "tests/support/DesktopEnvironment.h"
 #include "ui/icon/CustomView.h"
@@ -49,13 +50,15 @@ TEST(Clicks, ReachTheWindowsFromTheIconInATray)
     const Program tray({"trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request"});
     StateStore store;
     SimulatedDeviceRegistry registry;
+    SimulatedInterfaceFacts interfaces;
     SimulatedWorkspace workspace;
     BusConnection bus(sessionBusAddress());
     DesktopStatusBar bar(bus);
     ManualClock clock;
     RecordingLog log;
     bool quits = false;
-    MainController controller({store, registry, workspace, bar, clock, log, settings, {}, [&] { quits = true; }});
+    MainController controller(
+        {store, registry, interfaces, workspace, bar, clock, log, settings, [&] { quits = true; }});
     controller.applicationDidFinishLaunching();
 
     const auto *const icon = shown<CustomView>();

@@ -187,9 +187,9 @@ TEST(PlugIns, RemembersTheLastOnesByIndexAndNothingOfAnUnknownInterface)
     PlugIns plugIns;
     for (int index = 0; index <= PlugIns::longest + 1; ++index) {
         EXPECT_EQ(plugIns.begin({index}), PlugInState());
-        EXPECT_EQ(plugIns.isCurrent({index, u"another address"_s}), index != 0);
+        EXPECT_EQ(plugIns.current().isSamePlugIn({index, u"another address"_s}), index != 0);
         plugIns.end({.openedPages = true});
-        EXPECT_FALSE(plugIns.isCurrent({index}));
+        EXPECT_FALSE(plugIns.current().isSamePlugIn({index}));
         plugIns.end({});
     }
     EXPECT_EQ(plugIns.all().size(), PlugIns::longest);

@@ -48,14 +48,13 @@ QVariantMap usualSettings()
 Companion::Companion()
     : controller({.dynamicStore = store,
                   .deviceRegistry = registry,
+                  .interfaces = interfaces,
                   .workspace = workspace,
                   .statusBar = statusBar,
                   .clock = clock,
                   .systemLog = systemLog,
                   .settings = usuallyConfigured(),
-                  .socketBinderFor = {},
-                  .terminate = {},
-                  .identityOf = [this](const QString &name) { return identities.value(name); }})
+                  .terminate = {}})
 {
     controller.awakeFromNib();
     controller.applicationDidFinishLaunching();
@@ -63,7 +62,7 @@ Companion::Companion()
 
 void Companion::plugIn(const Modem &which, const QString &name)
 {
-    identities[name] = {++lastIndex, hardwareAddress};
+    interfaces.plug(name, {++lastIndex, hardwareAddress});
     registry.addModem(name, 4660, 1);
     network.addInterface(name);
     network.setIPv4(name, which.server.authority());

@@ -10,11 +10,11 @@
 #include "simulator/surroundings/ManualClock.h"
 #include "simulator/surroundings/RecordingLog.h"
 #include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedInterfaceFacts.h"
 #include "simulator/surroundings/SimulatedNetwork.h"
 #include "simulator/surroundings/SimulatedStatusBar.h"
 #include "simulator/surroundings/SimulatedWorkspace.h"
 
-#include <QMap>
 #include <QVariantMap>
 
 #include <gtest/gtest.h>
@@ -75,12 +75,12 @@ struct Companion : testing::Test {
     StateStore store;
     SimulatedNetwork network{store};
     SimulatedDeviceRegistry registry;
+    SimulatedInterfaceFacts interfaces;
     SimulatedWorkspace workspace;
     SimulatedStatusBar statusBar;
     ManualClock clock;
     RecordingLog systemLog;
     QString hardwareAddress; ///< of the modems that are plugged in next; empty when they have none
-    QMap<QString, InterfaceIdentity> identities;
     int lastIndex = 0;
     MainController controller;
 };
