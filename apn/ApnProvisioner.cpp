@@ -124,7 +124,7 @@ void ApnProvisioner::setLpm(ModemClient &client)
 void ApnProvisioner::setOnline(ModemClient &client)
 {
     const StatusSnapshot snapshot = m_snapshot.get();
-    if (snapshot.isRoamOn_ || snapshot.isAutoConnectOn_)
+    if (snapshot.isRoamOn_ || snapshot.dormant.isAutoConnectOn_)
         client.setWebRequestWithId(u"SET_ONLINE_MODE"_s);
 }
 

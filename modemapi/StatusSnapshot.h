@@ -38,12 +38,20 @@ struct ModemDetails {
     bool operator==(const ModemDetails &) const = default;
 };
 
+/// Fields with fixed names that no flow of the program sets: they tell nothing of the modem, whose state is in
+/// `ModemDetails`.
+struct DormantFields {
+    bool isConnected_ = false;
+    bool isAutoConnectOn_ = false; ///< kept by `StatusMonitor::isAutoConnect`
+
+    bool operator==(const DormantFields &) const = default;
+};
+
 /// What is known of the modem at one moment. Amounts are in gigabytes of 2^30 bytes.
 struct StatusSnapshot {
-    bool isConnected_ = false; ///< nothing sets it at present
-    bool isRoamOn_ = false; ///< the modem's setting allows roaming
-    bool isAutoConnectOn_ = false; ///< the modem dials by itself
+    DormantFields dormant{};
 
+    bool isRoamOn_ = false; ///< the modem's setting allows roaming
     bool isHaveNewVersion_ = false; ///< the modem offers new firmware
     bool isHaveDataLimitReachedForOneMonth_ = false; ///< the monthly reminder's threshold is passed
     bool isHaveDataLimitExceedForOneMonth_ = false; ///< the monthly limit is passed

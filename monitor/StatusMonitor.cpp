@@ -92,7 +92,7 @@ void StatusMonitor::noteAnswer(const Work &work, std::optional<Obstacle> obstacl
 bool StatusMonitor::isAutoConnect(const Work &work, const std::optional<QString> &dialMode)
 {
     const bool automatic = dialMode == u"auto_dial"_s;
-    m_snapshot.update(work, [&](StatusSnapshot &snapshot) { snapshot.isAutoConnectOn_ = automatic; });
+    m_snapshot.update(work, [&](StatusSnapshot &snapshot) { snapshot.dormant.isAutoConnectOn_ = automatic; });
     return automatic;
 }
 

@@ -68,7 +68,7 @@ void SimulatedModem::change(const std::function<void(ModemCondition &condition)>
 void SimulatedModem::setFixedAnswer(const QByteArray &part, const QByteArray &body)
 {
     const std::scoped_lock lock(m_mutex);
-    m_fixedAnswers.append({part, body});
+    m_fixedAnswers.prepend({part, body});
 }
 
 void SimulatedModem::clearFixedAnswers()

@@ -44,7 +44,7 @@ public:
     void change(const std::function<void(ModemCondition &condition)> &changer);
 
     /// From now on every request that holds @p part, in its target or body, is answered with @p body and
-    /// changes nothing; the first such part wins.
+    /// changes nothing; of several such parts the one that was set last counts.
     void setFixedAnswer(const QByteArray &part, const QByteArray &body);
     /// Ends what `setFixedAnswer` began.
     void clearFixedAnswers();

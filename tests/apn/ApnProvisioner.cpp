@@ -110,7 +110,6 @@ TEST_F(Provisioning, HoldsBackUnlessTheModemHasRoomAndAsks)
     EXPECT_EQ(provision(QString()), QList<QByteArray>{ready}) << "four entries, and three names of its own";
     EXPECT_TRUE(systemLog.contains(u"pc apn list count: 4"_s));
     for (const char *answer : {R"({"data":[1,2,3]})", "[1,2,3,4]", "7"}) {
-        modem.device.clearFixedAnswers();
         modem.device.setFixedAnswer("pc_apn_list_query", answer);
         EXPECT_EQ(provision(QString()).size(), 3) << answer;
     }
@@ -256,7 +255,7 @@ TEST_F(AttachedModem, GoesOnlineOnlyWhenRoamingOrDiallingByItself)
     ManualClock clock;
     ApnProvisioner provisioner(snapshot, systemLog, clock);
     provisioner.setOnline(client);
-    snapshot.reset({.isAutoConnectOn_ = true});
+    snapshot.reset({.dormant = {.isAutoConnectOn_ = true}});
     provisioner.setOnline(client);
     provisioner.setLpm(client);
     EXPECT_EQ(commands(modem), (QList<QByteArray>{"SET_ONLINE_MODE", "SET_LPM_MODE"}));

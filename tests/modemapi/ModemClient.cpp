@@ -88,7 +88,6 @@ TEST_F(Requests, WithoutASessionNothingIsSent)
         EXPECT_EQ(modem.device.requests().size(), 1);
         EXPECT_TRUE(systemLog.contains(u"sessionId  is null!"_s));
         EXPECT_EQ(systemLog.lines().last(), u"SET_LPM_MODE set request failed!"_s);
-        modem.device.clearFixedAnswers();
     }
 }
 
@@ -103,7 +102,6 @@ TEST_F(Requests, SuccessIsJudgedByTheAnswer)
         {"\"result\":\"success\xff\"", true, {}},
     };
     for (const auto &[answer, success, line] : cases) {
-        modem.device.clearFixedAnswers();
         modem.device.setFixedAnswer("goform_set_cmd", answer);
         EXPECT_EQ(client.setWebRequestWithId(u"ID"_s), success) << answer.constData();
         if (!success) {

@@ -28,7 +28,7 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
     const QString page = u"last_three_days_tx_bytes: '1' international_roaming_setting: 'on'"_s;
     monitor.setAllStatusByUrlContents(work, page);
     EXPECT_TRUE(monitor.isAutoConnect(work, u"auto_dial"_s));
-    EXPECT_TRUE(monitor.snapshot().get().isRoamOn_ && monitor.snapshot().get().isAutoConnectOn_);
+    EXPECT_TRUE(monitor.snapshot().get().isRoamOn_ && monitor.snapshot().get().dormant.isAutoConnectOn_);
     EXPECT_TRUE(monitor.snapshot().get().haveDataLimitFlag_) << "any traffic passes a limit of nothing";
 
     monitor.setAllStatusByUrlContents(work, page);
