@@ -75,10 +75,10 @@ void MainController::procECMReady(const ReadyDictionary &ready)
 
 void MainController::endPlugIn()
 {
-    m_attachment.reset();
+    m_work.end();
     m_plugIns.end({.openedPages = m_pages.hasOpenedWebUI(),
                    .accessPoints = m_provisioner.progress(),
-                   .hasNewVersion = m_monitor.snapshot().get().isHaveNewVersion_,
+                   .hasNewVersion = m_snapshot.get().isHaveNewVersion_,
                    .seenNews = m_news.seenTypes()});
 }
 
@@ -119,10 +119,9 @@ void MainController::startGetModemStatus()
 
 void MainController::attach()
 {
-    m_attachment.reset();
+    m_work.end();
     m_provisioner.resume(m_provisioner.progress()); // what was cut off begins anew
-    m_attachment = std::make_unique<Attachment>(m_device.location().value_or(ModemLocation()), m_threads);
-    m_poller.start(m_attachment->work());
+    m_poller.start(m_work.begin(m_device.location().value_or(ModemLocation())));
     detect();
 }
 

@@ -18,51 +18,41 @@ using namespace Qt::StringLiterals;
 
 MainController::MainController(Services services)
     : m_services(std::move(services))
+    , m_work(m_services.systemLog)
     , m_device(m_services)
     , m_recentDeeds(m_services.clock)
-    , m_monitor(m_services.settings,
-                {.evaluated = [this](const Work &work) { snapshotEvaluated(work); },
-                 .changed =
-                     [this](const Work &work, const StatusSnapshot &snapshot) {
-                         work.post(m_mainThread,
-                                   [this, snapshot] { m_presentation.setSnapshot(snapshot, m_device.sinceReport()); });
-                     }})
+    , m_provisioner(m_snapshot, m_services.systemLog, m_services.clock)
+    , m_firmwareCheck(m_snapshot, m_services.clock)
+    , m_menu(menuActions())
+    , m_icon(m_services.statusBar, m_services.systemLog, m_services.settings, m_menu.menu(), iconCallbacks())
+    , m_balloon(m_services.notifications,
+                {m_services.isScreenComposited, [this] { return m_icon.frame(); }, [this] { iconClicked(); }})
+    , m_pageFailure(m_services.notifications, {m_services.isScreenComposited, [this] { return m_icon.frame(); }})
     , m_pages(
-          m_services.workspace, m_services.settings, m_monitor.snapshot(), m_mainThread, [this] { return router(); },
+          m_services.workspace, m_services.settings, m_snapshot, m_mainThread, [this] { return m_work.router(); },
           [this](const QString &page) { couldNotOpen(page); },
           [this] { return m_recentDeeds.claim(RecentDeeds::openedPages); })
-    , m_menu(menuActions())
-    , m_icon(m_services.statusBar, m_services.systemLog, m_services.settings, m_menu.menu(),
-             {.clicked = [this] { iconClicked(); },
-              .pointerEntered = [this] { m_news.mouseEnteredHandle(m_attachment ? &m_attachment->work() : nullptr); }})
     , m_presentation({m_icon, m_menu, m_pages}, [this] { return m_device.details(m_provisioner.accessPointsSent()); })
-    , m_balloon(m_services.notifications,
-                {.isScreenComposited = m_services.isScreenComposited,
-                 .iconFrame = [this] { return m_icon.frame(); },
-                 .clicked = [this] { iconClicked(); }})
-    , m_pageFailure(
-          m_services.notifications,
-          {.isScreenComposited = m_services.isScreenComposited, .iconFrame = [this] { return m_icon.frame(); }})
     , m_updateAlert(m_pages)
-    , m_news({m_monitor.snapshot(), m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock,
-              m_services.systemLog, m_services.settings},
+    , m_news({m_snapshot, m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock, m_services.systemLog,
+              m_services.settings},
              {[this](const QString &image) { m_presentation.setImage(image); },
               [this](const StandingNews &news) { m_presentation.addNews(news); }, [this] { m_presentation.refresh(); },
               [this](int type) { return m_recentDeeds.claim(type); }})
-    , m_provisioner(m_monitor.snapshot(), m_services.systemLog, m_services.clock)
-    , m_firmwareCheck(m_monitor.snapshot(), m_services.clock)
+    , m_monitor(m_snapshot, m_services.settings,
+                {std::bind_front(&MainController::snapshotEvaluated, this),
+                 std::bind_front(&MainController::snapshotChanged, this)})
     , m_poller(m_services.settings, m_services.clock, m_services.systemLog,
-               {.answered = [this](const Work &work, auto obstacle) { modemAnswered(work, obstacle); },
-                .pass = [this](ModemClient &client, const QString &page) { pass(client, page); }})
-    , m_threads(m_services.systemLog)
+               {std::bind_front(&MainController::modemAnswered, this), std::bind_front(&MainController::pass, this)})
 {
     log(u"Tarvo init success"_s);
 }
 
 MainController::~MainController()
 {
-    m_attachment.reset();
+    m_work.end();
     m_news.resetForStop(); // a balloon that is shown holds nobody up
+    m_work.finish(); // the threads use all parts
 }
 
 IconMenu::Actions MainController::menuActions()
@@ -79,6 +69,12 @@ IconMenu::Actions MainController::menuActions()
             .openSettings = m_services.openSettings,
             .about = [this] { m_aboutDialog.present(); },
             .quit = [this] { windowShouldClose(); }};
+}
+
+StatusIcon::Callbacks MainController::iconCallbacks()
+{
+    return {.clicked = [this] { iconClicked(); },
+            .pointerEntered = [this] { m_news.mouseEnteredHandle(m_work.current()); }};
 }
 
 void MainController::iconClicked()
@@ -143,7 +139,7 @@ void MainController::detect()
 {
     const bool supported = routerObserver_ && routerObserver_->hasSupportedInterface();
     const auto unknown = m_unknownModems ? m_unknownModems->first() : std::nullopt;
-    if (router())
+    if (m_work.router())
         m_presentation.setDetection(Detection::Attached);
     else if (supported && isResting())
         m_presentation.setDetection(Detection::LeftAlone);
@@ -159,7 +155,7 @@ void MainController::waitForModem()
 {
     m_presentation.setDetection(m_hasNoGateway ? Detection::NoGateway : Detection::WaitingForAddress);
     if (!std::exchange(m_preparesHttp, true))
-        m_threads.start(&HttpClient::prepare);
+        m_work.prepare(&HttpClient::prepare);
 }
 
 bool MainController::windowShouldClose() const
@@ -213,16 +209,15 @@ void MainController::modemAnswered(const Work &work, std::optional<Obstacle> obs
 
 void MainController::snapshotEvaluated(const Work &work)
 {
-    const StatusSnapshot snapshot = m_monitor.snapshot().get();
+    const StatusSnapshot snapshot = m_snapshot.get();
     if (!snapshot.haveNewVersionFlag_ && !snapshot.haveDataLimitFlag_)
         m_news.showNormalState(work);
     m_news.startDisPlayUIStatusThread(work);
 }
 
-std::optional<QString> MainController::router() const
+void MainController::snapshotChanged(const Work &work, const StatusSnapshot &snapshot)
 {
-    const QString router = m_attachment ? m_attachment->work().router() : QString();
-    return router.isEmpty() ? std::nullopt : std::optional(router);
+    work.post(m_mainThread, [this, snapshot] { m_presentation.setSnapshot(snapshot, m_device.sinceReport()); });
 }
 
 void MainController::log(const QString &line) const

@@ -5,10 +5,9 @@
 #include "apn/ApnProvisioner.h"
 #include "app/HandOver.h"
 #include "app/KnownDevice.h"
+#include "app/PlugInWork.h"
 #include "app/PlugIns.h"
 #include "app/Services.h"
-#include "attachment/Attachment.h"
-#include "attachment/ThreadGroup.h"
 #include "monitor/FirmwareCheck.h"
 #include "monitor/Poller.h"
 #include "monitor/StatusMonitor.h"
@@ -85,7 +84,7 @@ public:
     void showStatus();
 
     // The parts, for who watches the companion.
-    StatusSnapshot snapshot() { return m_monitor.snapshot().get(); }
+    StatusSnapshot snapshot() const { return m_snapshot.get(); }
     const NewsSequence &news() const { return m_news; }
     const WebPages &pages() const { return m_pages; }
     const ApnProvisioner &provisioner() const { return m_provisioner; }
@@ -94,9 +93,9 @@ public:
 private:
     void log(const QString &line) const;
     IconMenu::Actions menuActions();
+    StatusIcon::Callbacks iconCallbacks();
     void iconClicked();
     void couldNotOpen(const QString &page);
-    std::optional<QString> router() const;
     /// Has shown what is detected.
     void detect();
     /// A supported modem is there and has no address yet, which leaves time to prepare.
@@ -105,6 +104,7 @@ private:
     void pass(ModemClient &client, const QString &page);
     void modemAnswered(const Work &work, std::optional<Obstacle> obstacle);
     void snapshotEvaluated(const Work &work);
+    void snapshotChanged(const Work &work, const StatusSnapshot &snapshot);
     /// @return whether the modem is to be left alone
     bool isResting() const { return m_asleep || !m_active; }
     void rest();
@@ -117,34 +117,34 @@ private:
     void resetForReadyDevice(const PlugInState &done);
     void resetForStop();
 
+    // What a part touches, or has called, stands before it; only what the user does reaches those behind.
     Services m_services;
     StepQueue m_mainThread; ///< receives the steps that other threads post
-    std::unique_ptr<RouterObserver> routerObserver_;
-    std::unique_ptr<UnknownModems> m_unknownModems;
-    AboutDialog m_aboutDialog;
-
+    PlugInWork m_work;
     KnownDevice m_device;
     PlugIns m_plugIns;
     RecentDeeds m_recentDeeds;
-    StatusMonitor m_monitor;
-    WebPages m_pages;
-    IconMenu m_menu;
-    StatusIcon m_icon;
-    Presentation m_presentation;
-    BalloonPresenter m_balloon;
-    PageFailureNotice m_pageFailure;
-    UpdateAlert m_updateAlert;
-    NewsSequence m_news;
-    ApnProvisioner m_provisioner;
-    FirmwareCheck m_firmwareCheck;
-    Poller m_poller;
-
+    SharedSnapshot m_snapshot;
     bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
     bool m_preparesHttp = false; ///< a modem has been waited for
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps
     bool m_active = true; ///< the user's session is on the screen
-    ThreadGroup m_threads; ///< its destructor waits for the threads that use all of the above
-    std::unique_ptr<Attachment> m_attachment; ///< to the modem that is polled; null when none is
+
+    ApnProvisioner m_provisioner;
+    FirmwareCheck m_firmwareCheck;
+    AboutDialog m_aboutDialog;
+    IconMenu m_menu;
+    StatusIcon m_icon;
+    BalloonPresenter m_balloon;
+    PageFailureNotice m_pageFailure;
+    WebPages m_pages;
+    Presentation m_presentation;
+    UpdateAlert m_updateAlert;
+    NewsSequence m_news;
+    StatusMonitor m_monitor;
+    Poller m_poller;
+    std::unique_ptr<RouterObserver> routerObserver_;
+    std::unique_ptr<UnknownModems> m_unknownModems;
 };
 
 } // namespace tarvo

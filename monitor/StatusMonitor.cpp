@@ -32,8 +32,9 @@ void raiseNotices(StatusSnapshot &snapshot)
 
 } // namespace
 
-StatusMonitor::StatusMonitor(const ConfigManager &settings, Listeners listeners)
-    : m_settings(settings)
+StatusMonitor::StatusMonitor(SharedSnapshot &snapshot, const ConfigManager &settings, Listeners listeners)
+    : m_snapshot(snapshot)
+    , m_settings(settings)
     , m_listeners(std::move(listeners))
 {
 }

@@ -12,7 +12,7 @@ namespace tarvo {
 
 class ConfigManager;
 
-/// Owns the snapshot, and turns the modem's status pages into it.
+/// Turns the modem's status pages into the snapshot.
 class StatusMonitor {
 public:
     /// Who is told of snapshots, on the polling worker.
@@ -23,11 +23,8 @@ public:
         std::function<void(const Work &work, const StatusSnapshot &snapshot)> changed{};
     };
 
-    /// @param settings  say how a page is read; they outlive this object
-    StatusMonitor(const ConfigManager &settings, Listeners listeners);
-
-    /// @return the snapshot that all parts read; lives as long as this object
-    SharedSnapshot &snapshot() { return m_snapshot; }
+    /// @param settings  say how a page is read; they outlive this object, as the snapshot
+    StatusMonitor(SharedSnapshot &snapshot, const ConfigManager &settings, Listeners listeners);
 
     /// Turns the status page @p content into the snapshot; what is no status page changes nothing (polling worker).
     void setAllStatusByUrlContents(const Work &work, const QString &content);
@@ -55,9 +52,9 @@ private:
     void evaluate(const Work &work, const QString &content);
     void publish(const Work &work, const std::function<void(StatusSnapshot &snapshot)> &change);
 
+    SharedSnapshot &m_snapshot;
     const ConfigManager &m_settings;
     const Listeners m_listeners;
-    SharedSnapshot m_snapshot;
     StatusSnapshot m_told; ///< the last one that listeners were told; touched on behalf of the present attachment only
     int m_failures = 0; ///< in a row; touched as the last, like the next two
     QString m_content; ///< the page that was evaluated last

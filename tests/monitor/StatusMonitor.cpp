@@ -8,7 +8,8 @@ using namespace Qt::StringLiterals;
 
 TEST(StatusMonitor, DerivesTheTransferTypeFromTheNewStatus)
 {
-    StatusMonitor monitor(configured(), {});
+    SharedSnapshot snapshot;
+    StatusMonitor monitor(snapshot, configured(), {});
     const std::tuple<int, int, int> cases[] = {{0, 0, 2}, {0, 1, 0}, {0, 7, 1}, {1, 1, 2}, {1, 0, 1}, {3, 1, 0}};
     for (const auto &[current, next, type] : cases) {
         monitor.setcurrentNetWorkStatus(current);
@@ -21,15 +22,15 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
 {
     int published = 0;
     int changed = 0;
-    StatusMonitor monitor(configured(),
+    StatusMonitor monitor(snapshot, configured(),
                           {.evaluated = [&](const Work &) { ++published; },
                            .changed = [&](const Work &, const StatusSnapshot &) { ++changed; }});
     const Work work = attachment->work();
     const QString page = u"last_three_days_tx_bytes: '1' international_roaming_setting: 'on'"_s;
     monitor.setAllStatusByUrlContents(work, page);
     EXPECT_TRUE(monitor.isAutoConnect(work, u"auto_dial"_s));
-    EXPECT_TRUE(monitor.snapshot().get().isRoamOn_ && monitor.snapshot().get().dormant.isAutoConnectOn_);
-    EXPECT_TRUE(monitor.snapshot().get().haveDataLimitFlag_) << "any traffic passes a limit of nothing";
+    EXPECT_TRUE(snapshot.get().isRoamOn_ && snapshot.get().dormant.isAutoConnectOn_);
+    EXPECT_TRUE(snapshot.get().haveDataLimitFlag_) << "any traffic passes a limit of nothing";
 
     monitor.setAllStatusByUrlContents(work, page);
     EXPECT_EQ(changed, 2) << "the same page is no change";
@@ -37,13 +38,13 @@ TEST_F(AttachedModem, NothingOfWorkThatIsOverIsPublished)
     monitor.resetForStop();
     const StatusSnapshot empty{.haveNewVersionFlag_ = true, .haveDataLimitFlag_ = true};
     monitor.setAllStatusByUrlContents(work, page);
-    EXPECT_EQ(monitor.snapshot().get(), empty);
+    EXPECT_EQ(snapshot.get(), empty);
     EXPECT_EQ(published, 2);
 }
 
 TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
 {
-    StatusMonitor monitor(configured(), {});
+    StatusMonitor monitor(snapshot, configured(), {});
     constexpr auto silent = Obstacle::NoAnswer;
     constexpr auto busy = Obstacle::Busy;
     using Known = std::pair<std::optional<bool>, std::optional<Obstacle>>;
@@ -53,25 +54,25 @@ TEST_F(AttachedModem, TheModemCountsAsSilentAfterTwoFailures)
     };
     for (const auto &[obstacle, known] : cases) {
         monitor.noteAnswer(client.work(), obstacle);
-        const StatusSnapshot shown = monitor.snapshot().get();
+        const StatusSnapshot shown = snapshot.get();
         EXPECT_EQ(Known(shown.answering, shown.obstacle), known);
     }
     monitor.noteAnswer(client.work(), busy);
     monitor.resetForReadyDevice(false);
-    EXPECT_EQ(monitor.snapshot().get().answering, std::nullopt);
-    EXPECT_EQ(monitor.snapshot().get().obstacle, std::nullopt);
+    EXPECT_EQ(snapshot.get().answering, std::nullopt);
+    EXPECT_EQ(snapshot.get().obstacle, std::nullopt);
 }
 
 TEST_F(AttachedModem, TheSamePageIsReadAnewForTheNextDevice)
 {
-    StatusMonitor monitor(configured(), {});
+    StatusMonitor monitor(snapshot, configured(), {});
     for (int device = 0; device < 2; ++device) {
         monitor.resetForReadyDevice(false);
-        EXPECT_EQ(monitor.snapshot().get(), StatusSnapshot());
+        EXPECT_EQ(snapshot.get(), StatusSnapshot());
         monitor.setAllStatusByUrlContents(client.work(),
                                           u"flow_reminder_switch: 'on' monthly_velta_tx: '1'"
                                           " max_usage_set_for_month: '3'"_s);
-        const StatusSnapshot seen = monitor.snapshot().get();
+        const StatusSnapshot seen = snapshot.get();
         EXPECT_TRUE(seen.haveDataLimitFlag_ && seen.isHaveDataLimitReachedForOneMonth_);
         EXPECT_FALSE(seen.isHaveDataLimitExceedForOneMonth_ || seen.isHaveDataLimitExceedForThreedays_);
         EXPECT_EQ(seen.m_totalMonthData, 3);
@@ -82,20 +83,20 @@ TEST_F(AttachedModem, TheSamePageIsReadAnewForTheNextDevice)
 TEST_F(AttachedModem, APageWithoutFieldsChangesNothing)
 {
     int evaluated = 0;
-    StatusMonitor monitor(configured(), {.evaluated = [&](const Work &) { ++evaluated; }});
+    StatusMonitor monitor(snapshot, configured(), {.evaluated = [&](const Work &) { ++evaluated; }});
     monitor.setAllStatusByUrlContents(client.work(), u"last_three_days_tx_bytes: '1'"_s);
-    const StatusSnapshot before = monitor.snapshot().get();
+    const StatusSnapshot before = snapshot.get();
     EXPECT_TRUE(before.isHaveDataLimitExceedForThreedays_);
     for (const QString &page : {u""_s, u"{}"_s, u"<html>busy</html>"_s, u"{\"result\":\"failure\"}"_s}) {
         monitor.setAllStatusByUrlContents(client.work(), page);
-        EXPECT_EQ(monitor.snapshot().get(), before);
+        EXPECT_EQ(snapshot.get(), before);
     }
     EXPECT_EQ(evaluated, 1);
     for (const QString &page : {u"flow_reminder_switch: ''"_s, u"{\"last_three_days_rx_bytes\":\"\"}"_s,
                                 u"pppstate: 'on'"_s, u"\"modem_main_state\":\"\""_s, u"\"dial_mode\":\"\""_s}) {
         EXPECT_TRUE(isStatusPage(page, configured())) << page.toStdString();
         monitor.setAllStatusByUrlContents(client.work(), page);
-        EXPECT_FALSE(monitor.snapshot().get().isHaveDataLimitExceedForThreedays_);
+        EXPECT_FALSE(snapshot.get().isHaveDataLimitExceedForThreedays_);
     }
     EXPECT_EQ(evaluated, 6);
 }
