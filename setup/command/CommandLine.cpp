@@ -27,7 +27,7 @@ void print(const QString &text)
 
 void printSentence(const QString &sentence)
 {
-    print(QString::fromUtf8(logLine(sentence)) + u'\n');
+    print(outputLine(sentence));
 }
 
 int fail(const QString &problem)

@@ -89,13 +89,12 @@ QString valueAsText(const QVariant &value)
         .chopped(1);
 }
 
-/// @return @p text as one line of output, in which nothing from outside passes for something else
-QString line(const QString &text)
+} // namespace
+
+QString outputLine(const QString &text)
 {
     return QString::fromUtf8(logLine(text)) + u'\n';
 }
-
-} // namespace
 
 QByteArray devicesAsJson(const QList<ListedDevice> &devices)
 {
@@ -112,8 +111,8 @@ QString devicesAsText(const QList<ListedDevice> &devices)
     QString text;
     for (const ListedDevice &listed : devices) {
         const QString id = listed.device.identifier();
-        text += line(id + u"  "_s + listed.device.name()) + line(u"    "_s + networkAsText(listed.device))
-            + line(u"    "_s + stateAsText(listed));
+        text += outputLine(id + u"  "_s + listed.device.name()) + outputLine(u"    "_s + networkAsText(listed.device))
+            + outputLine(u"    "_s + stateAsText(listed));
         if (listed.device.support != Support::Supported)
             text += u"    "_s + qtTrId("UseCommand").arg(u"tarvo-setup use "_s + id) + u'\n';
     }
@@ -137,9 +136,9 @@ QString checksAsText(const QList<Check> &checks)
 {
     QString text;
     for (const Check &check : checks) {
-        text += line(u"%1: %2"_s.arg(check.title(), markText(check.mark)));
+        text += outputLine(u"%1: %2"_s.arg(check.title(), markText(check.mark)));
         for (const QString &detail : QStringList{check.advice.shown()} + check.details)
-            text += detail.isEmpty() ? QString() : line(u"    "_s + detail);
+            text += detail.isEmpty() ? QString() : outputLine(u"    "_s + detail);
     }
     return text;
 }
@@ -153,9 +152,9 @@ QByteArray settingsAsJson(const SettingsInForce &settings)
 
 QString settingsAsText(const SettingsInForce &settings)
 {
-    QString text = line(settings.path);
+    QString text = outputLine(settings.path);
     for (const SettingKey &key : settingKeys())
-        text += line(key.name() + u": "_s + valueAsText(settingAt(settings.values, key.path)));
+        text += outputLine(key.name() + u": "_s + valueAsText(settingAt(settings.values, key.path)));
     return text;
 }
 

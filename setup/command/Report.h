@@ -24,6 +24,9 @@ struct ListedDevice {
 // The JSON forms are documented in tarvo-setup(1), and programs rely on them. In the texts, what comes from outside is
 // escaped as in the log, line by line.
 
+/// @return @p text as one line of output, in which nothing from outside passes for something else
+QString outputLine(const QString &text);
+
 QByteArray devicesAsJson(const QList<ListedDevice> &devices);
 /// In the user's language.
 QString devicesAsText(const QList<ListedDevice> &devices);
