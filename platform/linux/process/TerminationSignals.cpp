@@ -29,6 +29,14 @@ void writeToSink(int)
     errno = savedError;
 }
 
+/// @return the ends to read and to write. They are never closed: a handler on another thread may be about to write, which
+/// would end the process by SIGPIPE when nobody could read that
+std::array<int, 2> openPipe()
+{
+    std::array<int, 2> ends{};
+    return pipe2(ends.data(), O_NONBLOCK | O_CLOEXEC) == 0 ? ends : std::array{-1, -1};
+}
+
 void drain(int descriptor)
 {
     std::array<char, 64> bytes;
@@ -51,18 +59,16 @@ void handle(int signal)
 
 TerminationSignals::TerminationSignals(std::function<void()> handler)
 {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_NONBLOCK | O_CLOEXEC) != 0)
+    static const std::array<int, 2> ends = openPipe();
+    if (ends[0] < 0)
         return; // the signals then end the process at once, as they do by default
-    m_readEnd = ends[0];
-    m_writeEnd = ends[1];
-    signalSink = m_writeEnd;
-    m_notifier.emplace(m_readEnd, QSocketNotifier::Read);
-    QObject::connect(&*m_notifier, &QSocketNotifier::activated, &*m_notifier,
-                     [descriptor = m_readEnd, call = std::move(handler)] {
-                         drain(descriptor);
-                         call();
-                     });
+    drain(ends[0]);
+    signalSink = ends[1];
+    m_notifier.emplace(ends[0], QSocketNotifier::Read);
+    QObject::connect(&*m_notifier, &QSocketNotifier::activated, &*m_notifier, [call = std::move(handler)] {
+        drain(ends[0]);
+        call();
+    });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         handle(signal);
 }
@@ -71,10 +77,6 @@ TerminationSignals::~TerminationSignals()
 {
     signalSink = -1;
     m_notifier.reset();
-    for (const int end : {m_readEnd, m_writeEnd}) {
-        if (end >= 0)
-            close(end);
-    }
 }
 
 } // namespace tarvo

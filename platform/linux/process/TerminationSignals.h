@@ -20,8 +20,6 @@ public:
     TerminationSignals &operator=(const TerminationSignals &) = delete;
 
 private:
-    int m_readEnd = -1;
-    int m_writeEnd = -1;
     std::optional<QSocketNotifier> m_notifier;
 };
 
