@@ -79,7 +79,7 @@ private:
                                         [this] { lookAgain(); }};
     BusConnection m_systemBus{systemBusAddress()};
     BusConnection m_sessionBus{sessionBusAddress()};
-    LogindWorkspace m_workspace{m_systemBus, m_systemLog};
+    LogindWorkspace m_workspace{m_systemBus, m_sessionBus, m_systemLog};
     DesktopStatusBar m_statusBar;
     DesktopNotifications m_notifications{m_sessionBus, m_systemLog};
     SteadyClock m_clock;

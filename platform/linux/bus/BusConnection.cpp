@@ -145,10 +145,11 @@ void BusConnection::subscribe(const QString &path, const QString &interface, con
 
 void BusConnection::watch(const Subscription &to)
 {
+    const auto ofPath = to.path.isEmpty() ? QString() : u",path='%1'"_s.arg(to.path);
     const auto isFirst = to.firstArgument.isEmpty() ? QString() : u",arg0='%1'"_s.arg(to.firstArgument);
     callBus(u"AddMatch"_s,
-            {u"type='signal',path='%1',interface='%2',member='%3'%4"_s.arg(to.path, to.interface, to.signal, isFirst)},
-            this, [](const QDBusMessage &) {});
+            {u"type='signal',interface='%1',member='%2'%3%4"_s.arg(to.interface, to.signal, ofPath, isFirst)}, this,
+            [](const QDBusMessage &) {});
     const auto arguments = to.firstArgument.isEmpty() ? QStringList() : QStringList{to.firstArgument};
     connection().connect(QString(), to.path, to.interface, to.signal, arguments, QString(), to.receiver, to.slot);
 }

@@ -63,6 +63,7 @@ public:
     /// Has @p slot of @p receiver called by a signal from now on, for as long as both live.
     ///
     /// Whoever may talk to the bus may send that signal to us: where that matters the slot looks at the sender.
+    /// @param path           empty for any
     /// @param firstArgument  what the signal's first argument must be; empty for any
     void subscribe(const QString &path, const QString &interface, const QString &signal, QObject *receiver,
                    const char *slot, const QString &firstArgument = {});

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -26,9 +27,11 @@ constexpr auto openerTimeout = 15s;
 /// Starts @p program with @p url as its argument. On a desktop without an opener of its own it stays for as long as the
 /// browser that it has started, or is that browser: so it is left alone, and goes on when we end. One that shows nothing
 /// in time is stuck, as before a bus that says nothing.
-/// @param listener  at whose end nothing is told any more
-/// @param failed    called when the program could not be started, said in time that it failed, or was stuck
-void runOpener(const QString &program, const QUrl &url, QObject &listener, const Workspace::Handler &failed)
+/// @param listener    at whose end nothing is told any more
+/// @param notStarted  called when there is no such program, or it could not be started
+/// @param failed      called when it said in time that it failed, or was stuck
+void runOpener(const QString &program, const QUrl &url, QObject &listener, const Workspace::Handler &notStarted,
+               const Workspace::Handler &failed)
 {
     auto *const process = new QProcess; // whose destructor would end it
     process->setStandardInputFile(QProcess::nullDevice());
@@ -39,11 +42,11 @@ void runOpener(const QString &program, const QUrl &url, QObject &listener, const
         if (status != QProcess::NormalExit || exitCode != 0)
             failed();
     });
-    QObject::connect(process, &QProcess::errorOccurred, &listener, [process, failed](QProcess::ProcessError error) {
+    QObject::connect(process, &QProcess::errorOccurred, &listener, [process, notStarted](QProcess::ProcessError error) {
         if (error != QProcess::FailedToStart)
             return;
         process->deleteLater();
-        failed();
+        notStarted();
     });
     QTimer::singleShot(openerTimeout, &listener, [process = QPointer(process), &listener, failed] {
         if (!process)
@@ -55,9 +58,15 @@ void runOpener(const QString &program, const QUrl &url, QObject &listener, const
     process->start(program, {QString::fromLatin1(url.toEncoded())});
 }
 
+/// @return whether what is started from here can never have more rights than this program
+bool isLockedIn()
+{
+    return prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0) == 1;
+}
+
 } // namespace
 
-LogindWorkspace::LogindWorkspace(BusConnection &systemBus, SystemLog &log)
+LogindWorkspace::LogindWorkspace(BusConnection &systemBus, BusConnection &sessionBus, SystemLog &log)
     : m_sleep(
         systemBus, log,
         [this] {
@@ -68,10 +77,12 @@ LogindWorkspace::LogindWorkspace(BusConnection &systemBus, SystemLog &log)
             for (const auto &[willSleep, didWake] : m_observers)
                 didWake();
         })
-    , m_session(systemBus, [this](bool active) {
-        for (const auto &changed : m_activityObservers)
-            changed(active);
-    })
+    , m_session(systemBus,
+                [this](bool active) {
+                    for (const auto &changed : m_activityObservers)
+                        changed(active);
+                })
+    , m_portal(sessionBus)
 {
 }
 
@@ -89,12 +100,19 @@ void LogindWorkspace::openURL(const QUrl &url, Handler failed)
 {
     if (!isWholeAddress(url))
         return failed();
+    if (isLockedIn())
+        return m_portal.open(url, failed);
     closeDescriptorsOnExec();
+    const Handler askQt = [url, failed] {
+        if (!QDesktopServices::openUrl(url))
+            failed();
+    };
+    const Handler askPortal = [this, url, askQt] { m_portal.open(url, askQt); };
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
-    if (!opener.isEmpty())
-        runOpener(opener, url, m_openings, failed);
-    else if (!QDesktopServices::openUrl(url))
-        failed();
+    if (opener.isEmpty())
+        askPortal();
+    else
+        runOpener(opener, url, m_openings, askPortal, failed);
 }
 
 bool LogindWorkspace::launchApplication(const QString &path)

@@ -3,6 +3,7 @@
 #include "platform/Workspace.h"
 #include "platform/linux/desktop/LogindSession.h"
 #include "platform/linux/desktop/LogindSleep.h"
+#include "platform/linux/desktop/PagePortal.h"
 
 #include <QObject>
 
@@ -17,12 +18,14 @@ namespace tarvo {
 /// Opening an address needs a QGuiApplication.
 class LogindWorkspace final : public Workspace {
 public:
-    /// @param systemBus  outlives this object, as @p log does
-    LogindWorkspace(BusConnection &systemBus, SystemLog &log);
+    /// @param systemBus  outlives this object, as @p sessionBus and @p log do
+    LogindWorkspace(BusConnection &systemBus, BusConnection &sessionBus, SystemLog &log);
 
     void addSleepObserver(Handler willSleep, Handler didWake) override;
     void addActivityObserver(std::function<void(bool active)> changed) override;
-    /// Runs `xdg-open` of xdg-utils, whose exit status tells whether the page opened, and without it what Qt knows.
+    /// Runs `xdg-open` of xdg-utils, whose exit status tells whether the page opened; where it cannot be started, asks the
+    /// desktop's portal, and then what Qt knows. Where this program may not gain privileges, as a service that is locked in,
+    /// neither may a browser that it starts: then only the portal is asked.
     void openURL(const QUrl &url, Handler failed) override;
     /// @param path  an executable file, which is started directly, or the desktop file of an application, which is
     ///              handed to `gio launch` of GLib
@@ -34,6 +37,7 @@ private:
     std::vector<std::function<void(bool active)>> m_activityObservers;
     LogindSleep m_sleep;
     LogindSession m_session;
+    PagePortal m_portal;
     QObject m_openings; ///< hears what becomes of addresses that were handed over
 };
 

@@ -9,20 +9,63 @@
 #include "tests/support/VirtualDesktop.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <optional>
+#include <thread>
 #include <vector>
 
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// A portal that opens nothing, on a connection of its own.
+class Portal final : public QDBusVirtualObject {
+public:
+    explicit Portal(const QString &busAddress)
+        : bus_(QDBusConnection::connectToBus(busAddress, u"portal"_s))
+    {
+        bus_.registerVirtualObject(u"/org/freedesktop/portal/desktop"_s, this);
+        bus_.registerService(u"org.freedesktop.portal.Desktop"_s);
+    }
+    ~Portal() override { QDBusConnection::disconnectFromBus(u"portal"_s); }
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &question, const QDBusConnection &) override
+    {
+        pages << question.arguments().value(1).toString();
+        if (refuses)
+            return bus_.send(question.createErrorReply(QDBusError::Failed, {}));
+        bus_.send(question.createReply(QVariant::fromValue(QDBusObjectPath(u"/request"_s))));
+        responseTo = QDBusMessage::createTargetedSignal(question.service(), u"/request"_s,
+                                                        u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        return response < 0 || respond(response);
+    }
+    bool respond(int with)
+    {
+        QDBusMessage signal = responseTo;
+        return bus_.send(signal << uint(with) << QVariantMap());
+    }
+
+    QStringList pages;
+    QDBusMessage responseTo;
+    bool refuses = false;
+    int response = -1; ///< to every request; negative for none
+
+private:
+    QDBusConnection bus_;
+};
 
 class LogindWorkspaceTest : public testing::Test {
 protected:
@@ -35,7 +78,7 @@ protected:
     }
     std::unique_ptr<LogindWorkspace> startWorkspace()
     {
-        auto workspace = std::make_unique<LogindWorkspace>(systemBus_, log_);
+        auto workspace = std::make_unique<LogindWorkspace>(systemBus_, sessionBus_, log_);
         workspace->addSleepObserver([this] { events_.append(logind_->isLocked() ? u"sleep"_s : u"late"_s); },
                                     [this] { events_.append(u"wake"_s); });
         workspace->addSleepObserver([this] { events_.append(u"2"_s); }, [] {});
@@ -50,6 +93,7 @@ protected:
     const QString address_ = addressOfSocket(folder_.filePath(u"run/bus"_s));
     RecordingLog log_;
     BusConnection systemBus_{address_};
+    BusConnection sessionBus_{address_};
     std::unique_ptr<Program> bus_;
     std::unique_ptr<SimulatedLogind> logind_;
     QStringList events_;
@@ -160,9 +204,44 @@ TEST_F(LogindWorkspaceTest, FollowsWhetherTheSessionIsActive)
     EXPECT_TRUE(told.last());
 }
 
+TEST_F(LogindWorkspaceTest, AsksThePortalWhereThereIsNoOpener)
+{
+    QDir(folder_.path()).mkdir(u"run"_s);
+    startBus();
+    Portal portal(address_);
+    LogindWorkspace workspace(systemBus_, sessionBus_, log_);
+    bool found = false;
+    sessionBus_.follow(
+        &portal, [&] { found = true; }, [] {});
+    ASSERT_TRUE(waitFor([&] { return found; }));
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder_.path().toUtf8());
+    int failures = 0;
+    const auto open = [&] {
+        const auto before = portal.pages.size();
+        workspace.openURL(QUrl(u"http://192.168.0.1/?a=%20"_s), [&] { ++failures; });
+        EXPECT_TRUE(waitFor([&] { return portal.pages.size() > before; }));
+    };
+    open();
+    EXPECT_EQ(portal.pages, QStringList(u"http://192.168.0.1/?a=%20"_s));
+    SimulatedLogind stranger(address_, false);
+    QDBusMessage forged = portal.responseTo;
+    stranger.tell(forged << 2U << QVariantMap());
+    for (const int response : {0, 1, 2}) { // opened, not wanted, not opened
+        EXPECT_EQ(failures, 0) << response;
+        portal.response = response;
+        open();
+    }
+    EXPECT_TRUE(waitFor([&] { return failures == 1; }));
+    portal.refuses = true;
+    open();
+    EXPECT_TRUE(waitFor([&] { return failures == 2; }));
+    qputenv("PATH", path);
+}
+
 TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOpen)
 {
-    LogindWorkspace workspace(systemBus_, log_);
+    LogindWorkspace workspace(systemBus_, sessionBus_, log_);
     int failures = 0;
     const auto open = [&](const QString &text) {
         workspace.openURL(QUrl(text, QUrl::StrictMode), [&] { ++failures; });
@@ -171,7 +250,7 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOp
     const QString opener = folder_.filePath(u"xdg-open"_s);
     qputenv("PATH", folder_.path().toUtf8());
     open(page);
-    EXPECT_EQ(failures, 1) << "there is no opener";
+    EXPECT_TRUE(waitFor([&] { return failures == 1; })) << "there is no opener";
 
     const auto install = [&](const char *script) {
         QFile file(opener);
@@ -201,11 +280,14 @@ TEST_F(LogindWorkspaceTest, OpensCompleteAddressesAndTellsOnceOfEachThatDidNotOp
     install("#!/no/such/interpreter\n");
     open(page);
     EXPECT_TRUE(waitFor([&] { return failures == 9; })) << "it cannot be started";
+    install("#!/bin/sh\n");
+    std::thread([&] { prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), open(page); }).join();
+    EXPECT_TRUE(waitFor([&] { return failures == 10; })) << "what is started by who is locked in is locked in, too";
 }
 
 TEST_F(LogindWorkspaceTest, EndsAnOpenerThatShowsNothing)
 {
-    LogindWorkspace workspace(systemBus_, log_);
+    LogindWorkspace workspace(systemBus_, sessionBus_, log_);
     QFile file(folder_.filePath(u"xdg-open"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("#!/bin/sh\necho $$ >> \"$0.out\"\nLD_PRELOAD=$LIBRARY sleep 1000\nexit 1\n");
@@ -238,7 +320,7 @@ TEST_F(LogindWorkspaceTest, EndsAnOpenerThatShowsNothing)
 
 TEST_F(LogindWorkspaceTest, StartsExecutablesAndHandsDesktopFilesToTheLauncher)
 {
-    LogindWorkspace workspace(systemBus_, log_);
+    LogindWorkspace workspace(systemBus_, sessionBus_, log_);
     const QString script = folder_.filePath(u"gio"_s);
     const QString entry = folder_.filePath(u"a b.desktop"_s);
     for (const auto &path : {script, entry}) {

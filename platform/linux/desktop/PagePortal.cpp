@@ -1,0 +1,54 @@
+#include "platform/linux/desktop/PagePortal.h"
+
+#include "platform/linux/bus/BusConnection.h"
+
+#include <QDBusObjectPath>
+#include <QUrl>
+#include <QVariantMap>
+
+namespace tarvo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int patience = 15'000; // milliseconds; the bus may have to start the service
+constexpr uint notOpened = 2; // 0 is for opened, and 1 for a user who does not want that
+
+} // namespace
+
+PagePortal::PagePortal(BusConnection &bus)
+    : m_bus(bus)
+{
+    m_bus.subscribe({}, u"org.freedesktop.portal.Request"_s, u"Response"_s, this, SLOT(responded(QDBusMessage)));
+    m_bus.follow(
+        this, [] {}, [this] { m_requests.clear(); });
+}
+
+void PagePortal::open(const QUrl &url, const Handler &failed)
+{
+    auto message =
+        QDBusMessage::createMethodCall(u"org.freedesktop.portal.Desktop"_s, u"/org/freedesktop/portal/desktop"_s,
+                                       u"org.freedesktop.portal.OpenURI"_s, u"OpenURI"_s);
+    message << QString() << QString::fromLatin1(url.toEncoded()) << QVariantMap();
+    m_bus.call(
+        message, this, [this, failed](const QDBusMessage &answer) { answered(answer, failed); }, patience);
+}
+
+void PagePortal::answered(const QDBusMessage &answer, const Handler &failed)
+{
+    if (answer.type() != QDBusMessage::ReplyMessage)
+        return failed();
+    const QString request = answer.arguments().value(0).value<QDBusObjectPath>().path();
+    m_requests.insert(request + answer.service(), failed);
+}
+
+void PagePortal::responded(const QDBusMessage &signal)
+{
+    // Everybody on the bus may send such signals.
+    const Handler failed = m_requests.take(signal.path() + signal.service());
+    if (failed && signal.arguments().value(0).toUInt() == notOpened)
+        failed();
+}
+
+} // namespace tarvo
