@@ -32,7 +32,7 @@ MainController::MainController(Services services)
           m_services.workspace, m_services.settings, m_snapshot, m_mainThread, [this] { return m_work.router(); },
           [this](const QString &page) { couldNotOpen(page); },
           [this] { return m_recentDeeds.claim(RecentDeeds::openedPages); })
-    , m_presentation({m_icon, m_menu, m_pages}, [this] { return m_device.details(m_provisioner.accessPointsSent()); })
+    , m_presentation({m_icon, m_menu, m_pages}, {[this] { return device(); }, [this] { tellState(); }})
     , m_updateAlert(m_pages)
     , m_news({m_snapshot, m_pages, m_balloon, m_updateAlert, m_mainThread, m_services.clock, m_services.systemLog,
               m_services.settings},
@@ -88,6 +88,17 @@ void MainController::iconClicked()
 void MainController::showStatus()
 {
     m_presentation.showWindow();
+}
+
+DeviceDetails MainController::device() const
+{
+    return m_device.details(m_provisioner.accessPointsSent());
+}
+
+void MainController::tellState()
+{
+    if (m_stateChanged)
+        m_stateChanged();
 }
 
 void MainController::couldNotOpen(const QString &page)

@@ -25,8 +25,10 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace tarvo {
 
@@ -82,6 +84,13 @@ public:
 
     /// Shows how things stand in the status window.
     void showStatus();
+    /// Opens the page of that kind. @return false when there is none
+    bool openPage(Page page) { return m_pages.open(page); }
+
+    /// Has @p changed called when something of what is shown may be different.
+    void setStateObserver(std::function<void()> changed) { m_stateChanged = std::move(changed); }
+    /// @return the modem that was reported last
+    DeviceDetails device() const;
 
     // The parts, for who watches the companion.
     StatusSnapshot snapshot() const { return m_snapshot.get(); }
@@ -95,6 +104,7 @@ private:
     IconMenu::Actions menuActions();
     StatusIcon::Callbacks iconCallbacks();
     void iconClicked();
+    void tellState();
     void couldNotOpen(const QString &page);
     /// Has shown what is detected.
     void detect();
@@ -125,6 +135,7 @@ private:
     PlugIns m_plugIns;
     RecentDeeds m_recentDeeds;
     SharedSnapshot m_snapshot;
+    std::function<void()> m_stateChanged; ///< empty when nobody wants to know
     bool m_hasNoGateway = false; ///< the last report of a supported interface named no router
     bool m_preparesHttp = false; ///< a modem has been waited for
     bool m_asleep = false; ///< the machine is about to sleep, or sleeps

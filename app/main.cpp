@@ -1,11 +1,13 @@
 #include "RouterObserver/ConfigManager.h"
 #include "RouterObserver/SettingFile.h"
-#include "app/Arguments.h"
 #include "app/HandOver.h"
 #include "app/MainController.h"
+#include "app/RemoteControl.h"
+#include "app/command/Commands.h"
 #include "platform/linux/bus/ApplicationService.h"
 #include "platform/linux/bus/BusAddress.h"
 #include "platform/linux/bus/BusConnection.h"
+#include "platform/linux/bus/BusInterface.h"
 #include "platform/linux/bus/SessionBusForQt.h"
 #include "platform/linux/desktop/DesktopNotifications.h"
 #include "platform/linux/desktop/LogindWorkspace.h"
@@ -25,6 +27,7 @@
 #include "ui/look/Translations.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTextStream>
@@ -129,8 +132,15 @@ Services Surroundings::services()
     return services;
 }
 
-/// What others can read of this program on the session bus.
-QVariantMap publishedProperties()
+/// @return what the interface of this program offers on the session bus, as introspection data
+QString interfaceDescription()
+{
+    QFile file(u":/tarvo/bus/io.github.tarvo.Tarvo1.xml"_s);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// What others can read of the settings in use.
+QVariantMap settingsReport()
 {
     const ConfigManager &settings = ConfigManager::sharedConfigManager();
     return {{settingPathProperty, settings.settingPath().value_or(QString())},
@@ -151,15 +161,20 @@ int run(QApplication &application, SystemLog &systemLog)
     Restart restart;
     Surroundings surroundings(restart, systemLog);
     MainController controller(surroundings.services());
+    BusInterface publicInterface(surroundings.sessionBus(), applicationObjectPath(applicationId),
+                                 interfaceDescription());
+    RemoteControl remoteControl(
+        controller, publicInterface,
+        {.openSetup = surroundings.services().openSettings, .quit = [] { QApplication::quit(); }}, settingsReport());
     const ApplicationService service(
         surroundings.sessionBus(), applicationId,
-        {.activate = [&] { controller.showStatus(); }, .restart = [&restart] { restart.request(); }},
-        publishedProperties());
+        {.activate = [&] { controller.showStatus(); }, .restart = [&restart] { restart.request(); }}, &publicInterface);
     QObject::connect(&application, &QApplication::aboutToQuit, &application, [&] {
         controller.applicationShouldTerminate();
         controller.applicationWillTerminate();
     });
 
+    remoteControl.start();
     controller.takeOver(takeHandOver());
     controller.awakeFromNib();
     surroundings.announceServicesAfterWake(); // after the controller woke
@@ -205,8 +220,8 @@ int startWithLog(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    if (const auto status = answerArguments(argc, argv))
-        return *status;
+    if (argc > 1)
+        return runCommand(argc, argv, sessionBusAddress(), applicationId);
     qunsetenv("SSLKEYLOGFILE"); // libcurl makes that file as soon as it is loaded, though no TLS is ever spoken
     const int status = startWithLog(argc, argv);
     if (status != Restart::exitStatus)

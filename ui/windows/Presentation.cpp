@@ -8,9 +8,9 @@
 
 namespace tarvo {
 
-Presentation::Presentation(const Dependencies &dependencies, std::function<DeviceDetails()> device)
+Presentation::Presentation(const Dependencies &dependencies, Callbacks callbacks)
     : m_with(dependencies)
-    , m_device(std::move(device))
+    , m_callbacks(std::move(callbacks))
 {
 }
 
@@ -67,13 +67,14 @@ void Presentation::setStatus(const CompanionStatus &status)
 
 void Presentation::refresh()
 {
-    m_with.icon.setStatusImage(pictureOf(m_status, m_image));
+    m_with.icon.setStatusImage(image());
     m_with.icon.setStatusToolTip(tipOf(m_status));
     m_with.menu.setContent({.situation = situationOf(m_status),
                             .summary = summaryOf(m_status),
                             .clickPage = m_with.pages.clickPage(),
                             .hasMessages = m_with.pages.canOpen(Page::Messages),
                             .news = m_news.news()});
+    m_callbacks.refreshed();
 }
 
 void Presentation::showWindow()
@@ -85,7 +86,7 @@ void Presentation::showWindow()
 
 StatusWindowContent Presentation::windowContent() const
 {
-    return {pictureOf(m_status, m_image), m_status, m_device(), m_usage.samples()};
+    return {image(), m_status, m_callbacks.device(), m_usage.samples()};
 }
 
 } // namespace tarvo

@@ -27,13 +27,20 @@ public:
         IconMenu &menu;
         const WebPages &pages;
     };
+    struct Callbacks {
+        std::function<DeviceDetails()> device; ///< tells the details of the modem that is attached
+        std::function<void()> refreshed; ///< something of what is said may be different
+    };
 
     /// Says nothing before the first `refresh`.
-    /// @param device  tells the details of the modem that is attached
-    Presentation(const Dependencies &dependencies, std::function<DeviceDetails()> device);
+    Presentation(const Dependencies &dependencies, Callbacks callbacks);
     ~Presentation();
 
     const CompanionStatus &status() const { return m_status; }
+    /// @return the name of the image that the icon shows
+    QString image() const { return pictureOf(m_status, m_image); }
+    /// @return the news that were told, the newest first
+    const QList<ToldNews> &news() const { return m_news.news(); }
 
     /// @param unknownDevice  vendor and product of the device that is not set up; empty for none
     void setDetection(Detection detection, const QString &unknownDevice = {});
@@ -55,7 +62,7 @@ private:
     StatusWindowContent windowContent() const;
 
     const Dependencies m_with;
-    const std::function<DeviceDetails()> m_device;
+    const Callbacks m_callbacks;
     CompanionStatus m_status;
     QString m_image; ///< the last one that was asked for
     NewsHistory m_news;

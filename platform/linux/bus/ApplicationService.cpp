@@ -1,10 +1,11 @@
 #include "platform/linux/bus/ApplicationService.h"
 
 #include "platform/linux/bus/BusConnection.h"
+#include "platform/linux/bus/BusInterface.h"
+#include "platform/linux/bus/Confinement.h"
 
 #include <QDBusConnection>
 #include <QDBusError>
-#include <QDBusVariant>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -18,16 +19,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
-constexpr auto activationTimeout = 4s;
+constexpr auto answerTimeout = 4s;
 
-/// @return the path of the object by which the application is reached
+} // namespace
+
 QString applicationObjectPath(const QString &applicationId)
 {
     return u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_');
 }
-
-} // namespace
 
 QDBusMessage applicationCall(const QString &applicationId, const QString &interface, const QString &member,
                              const QVariantList &arguments)
@@ -39,12 +38,11 @@ QDBusMessage applicationCall(const QString &applicationId, const QString &interf
     return message;
 }
 
-ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers,
-                                       QVariantMap properties)
+ApplicationService::ApplicationService(BusConnection &bus, QString applicationId, Handlers handlers, BusInterface *more)
     : m_bus(bus)
     , m_applicationId(std::move(applicationId))
     , m_handlers(std::move(handlers))
-    , m_properties(std::move(properties))
+    , m_more(more)
 {
     m_bus.serve(applicationObjectPath(m_applicationId), *this);
     m_bus.follow(
@@ -59,11 +57,7 @@ void ApplicationService::requestName()
 
 QString ApplicationService::introspect(const QString &) const
 {
-    QString properties;
-    for (const QString &name : m_properties.keys())
-        properties += u"<property name=\"%1\" type=\"s\" access=\"read\"/>"_s.arg(name);
-    return u"<interface name=\"%1\">%2</interface>"_s.arg(m_applicationId, properties)
-        + uR"(<interface name="org.freedesktop.Application">
+    return (m_more ? m_more->description() : QString()) + uR"(<interface name="org.freedesktop.Application">
   <method name="Activate"><arg type="a{sv}" direction="in"/></method>
   <method name="Open"><arg type="as" direction="in"/><arg type="a{sv}" direction="in"/></method>
   <method name="ActivateAction">
@@ -74,47 +68,55 @@ QString ApplicationService::introspect(const QString &) const
 
 bool ApplicationService::handleMessage(const QDBusMessage &message, const QDBusConnection &connection)
 {
-    if (message.interface() == propertiesInterface)
-        return connection.send(answerAboutProperties(message));
+    if (m_more && m_more->isAsked(message)) {
+        m_more->answer(message);
+        return true;
+    }
+    if (message.member() == u"GetAll" && message.arguments().value(0) == applicationInterface)
+        return connection.send(message.createReply(QVariantMap())); // it has no properties
     if (message.interface() != applicationInterface)
         return false;
-    std::function<void()> handler;
     if (message.member() == u"Activate" || message.member() == u"Open")
-        handler = m_handlers.activate;
+        carryOut(message, m_handlers.activate);
     else if (message.member() == u"ActivateAction" && message.arguments().value(0) == u"restart"_s)
-        handler = m_handlers.restart;
-    if (!handler)
+        askWhetherConfined(m_bus, message.service(), this, [this, message](bool isConfined) {
+            if (isConfined)
+                m_bus.send(message.createErrorReply(QDBusError::AccessDenied, u"not from a sandbox"_s));
+            else
+                carryOut(message, m_handlers.restart);
+        });
+    else
         return false;
-    connection.send(message.createReply());
-    QMetaObject::invokeMethod(this, handler, Qt::QueuedConnection);
     return true;
 }
 
-QDBusMessage ApplicationService::answerAboutProperties(const QDBusMessage &question) const
+void ApplicationService::carryOut(const QDBusMessage &message, const std::function<void()> &handler)
 {
-    const QString interface = question.arguments().value(0).toString();
-    const QString name = question.arguments().value(1).toString();
-    const bool isOurs = interface == m_applicationId;
-    if (question.member() == u"GetAll")
-        return question.createReply(isOurs ? m_properties : QVariantMap());
-    if (question.member() == u"Get" && isOurs && m_properties.contains(name))
-        return question.createReply(QVariant::fromValue(QDBusVariant(m_properties.value(name))));
-    if (question.member() == u"Set")
-        return question.createErrorReply(QDBusError::PropertyReadOnly, u"it can only be read"_s);
-    return question.createErrorReply(QDBusError::UnknownProperty, u"there is no such property"_s);
+    m_bus.send(message.createReply());
+    QMetaObject::invokeMethod(this, handler, Qt::QueuedConnection);
+}
+
+QDBusMessage callAndWait(const QString &busAddress, const QDBusMessage &message)
+{
+    BusConnection bus(busAddress);
+    QEventLoop loop;
+    QDBusMessage received = QDBusMessage::createError(QDBusError::NoReply, u"there is no answer"_s);
+    const auto call = [&] {
+        bus.call(message, &loop, [&](const QDBusMessage &answer) {
+            received = answer;
+            loop.quit();
+        });
+    };
+    bus.follow(&loop, call, [&] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
+    QTimer::singleShot(answerTimeout, &loop, &QEventLoop::quit);
+    loop.exec();
+    return received;
 }
 
 bool activateRunningApplication(const QString &busAddress, const QString &applicationId)
 {
-    BusConnection bus(busAddress);
-    QEventLoop loop;
-    const auto activate = [&] {
-        bus.call(applicationCall(applicationId, applicationInterface, u"Activate"_s, {QVariantMap()}), &loop,
-                 [&](const QDBusMessage &answer) { loop.exit(answer.type() == QDBusMessage::ReplyMessage ? 1 : 0); });
-    };
-    bus.follow(&loop, activate, [&] { QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection); });
-    QTimer::singleShot(activationTimeout, &loop, &QEventLoop::quit);
-    return loop.exec() == 1;
+    const auto activate = applicationCall(applicationId, applicationInterface, u"Activate"_s, {QVariantMap()});
+    return callAndWait(busAddress, activate).type() == QDBusMessage::ReplyMessage;
 }
 
 } // namespace tarvo

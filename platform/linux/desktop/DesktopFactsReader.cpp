@@ -51,11 +51,12 @@ std::optional<bool> isReachable(const QDBusConnection &bus, const QString &name)
     return callBus(bus, u"ListActivatableNames"_s, {}).arguments().value(0).toStringList().contains(name);
 }
 
-/// @return what an application tells of itself under the interface that has its name
+/// @return what an application tells of itself under the first interface that has its name
 QVariantMap propertiesOf(const QDBusConnection &bus, const QString &applicationName)
 {
     const QDBusMessage answer = call(
-        bus, applicationCall(applicationName, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s, {applicationName}));
+        bus,
+        applicationCall(applicationName, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s, {applicationName + u'1'}));
     return answer.type() == QDBusMessage::ReplyMessage ? qdbus_cast<QVariantMap>(answer.arguments().value(0))
                                                        : QVariantMap();
 }
