@@ -34,12 +34,17 @@ QString addressOfSocket(const QString &path)
     return u"unix:path="_s + QString::fromLatin1(QFile::encodeName(path).toPercentEncoding("/", "~"));
 }
 
+QString unixPartOf(const QString &address)
+{
+    QStringList entries = address.split(u';');
+    entries.removeIf([](const QString &entry) { return !entry.startsWith(u"unix:"); });
+    return entries.join(u';');
+}
+
 QList<QByteArray> unixSocketsOf(const QString &address)
 {
     QList<QByteArray> sockets;
-    for (const QString &entry : address.split(u';')) {
-        if (!entry.startsWith(u"unix:"))
-            continue;
+    for (const QString &entry : unixPartOf(address).split(u';', Qt::SkipEmptyParts)) {
         for (const QString &pair : entry.mid(5).split(u',')) {
             const QByteArray value = QByteArray::fromPercentEncoding(pair.section(u'=', 1).toUtf8());
             if (pair.startsWith(u"path="))

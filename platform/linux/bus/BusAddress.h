@@ -18,6 +18,9 @@ QString sessionBusAddress();
 ///         Addresses"): a bus takes no other.
 QString addressOfSocket(const QString &path);
 
+/// @return what of @p address names Unix sockets; empty for nothing
+QString unixPartOf(const QString &address);
+
 /// @return the Unix sockets that @p address names, as a socket address holds them: a path, or a zero byte and an abstract
 ///         name. What is reached by other means than a Unix socket is left out.
 QList<QByteArray> unixSocketsOf(const QString &address);

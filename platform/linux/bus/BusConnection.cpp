@@ -67,8 +67,8 @@ QString nearestFolder(const QString &path)
 
 } // namespace
 
-BusConnection::BusConnection(QString address)
-    : m_address(std::move(address))
+BusConnection::BusConnection(const QString &address)
+    : m_address(unixPartOf(address))
     , m_socketPath(socketPathOf(m_address))
 {
     m_retry.setSingleShot(true);

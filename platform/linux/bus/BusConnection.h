@@ -40,7 +40,8 @@ public:
 
     static constexpr int endless = std::numeric_limits<int>::max();
 
-    explicit BusConnection(QString address);
+    /// @param address  of which only Unix sockets are tried
+    explicit BusConnection(const QString &address);
     ~BusConnection() override;
 
     /// Calls @p found each time the bus has been connected to and @p lost each time it went or turned out not to be there,

@@ -15,6 +15,7 @@ TEST(BusAddress, IsEscapedAndNamesItsSockets)
     EXPECT_EQ(unixSocketsOf(sessionBusAddress()), QList<QByteArray>{qgetenv("XDG_RUNTIME_DIR") + "/bus"});
     const QString several = u"tcp:host=a;unix:guid=0,abstract=/x%20y;unix:path=/z,guid=0;unix:tmpdir=/tmp"_s;
     EXPECT_EQ(unixSocketsOf(several), (QList<QByteArray>{QByteArray("\0/x y", 5), "/z"}));
+    EXPECT_FALSE(unixPartOf(several).contains(u"tcp:"_s)) << several.toStdString();
     qputenv("DBUS_SESSION_BUS_ADDRESS", several.toUtf8());
     EXPECT_EQ(sessionBusAddress(), several);
 }
