@@ -55,13 +55,17 @@ QStringList tipOf(const QVariantMap &state)
 {
     constexpr qsizetype most = 3;
     QStringList lines{summaryOf(state)};
-    for (const QVariant &each :
-         state.value(u"News"_s).toList().first(std::min(most, state.value(u"News"_s).toList().size()))) {
+    for (const QVariant &each : state.value(u"News"_s).toList().mid(0, most)) {
         const QVariantMap news = each.toMap();
         const QTime time = QDateTime::fromSecsSinceEpoch(news.value(u"Time"_s).toLongLong()).time();
         lines.append(QLocale().toString(time, QLocale::ShortFormat) + u"  "_s + news.value(u"Text"_s).toString());
     }
     return lines;
+}
+
+QString amountText(quint64 bytes)
+{
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeTraditionalFormat);
 }
 
 /// The bar takes texts as Pango markup.
@@ -74,7 +78,7 @@ QJsonObject forWaybar(const QVariantMap &state)
         classes.append(u"firmware"_s);
     if (used && limit && *used > *limit)
         classes.append(u"over-limit"_s);
-    QJsonObject object{{u"text"_s, used ? QLocale().formattedDataSize(static_cast<qint64>(*used), 1) : QString()},
+    QJsonObject object{{u"text"_s, used ? amountText(*used) : QString()},
                        {u"alt"_s, stateOf(state)},
                        {u"tooltip"_s, tipOf(state).join(u'\n').toHtmlEscaped()},
                        {u"class"_s, classes}};

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience = 15'000; // milliseconds; the bus may have to start the service
+constexpr int answerTimeout = 15'000; // milliseconds; the bus may have to start the service
 constexpr uint notOpened = 2; // 0 is for opened, and 1 for a user who does not want that
 
 } // namespace
@@ -32,7 +32,7 @@ void PagePortal::open(const QUrl &url, const Handler &failed)
                                        u"org.freedesktop.portal.OpenURI"_s, u"OpenURI"_s);
     message << QString() << QString::fromLatin1(url.toEncoded()) << QVariantMap();
     m_bus.call(
-        message, this, [this, failed](const QDBusMessage &answer) { answered(answer, failed); }, patience);
+        message, this, [this, failed](const QDBusMessage &answer) { answered(answer, failed); }, answerTimeout);
 }
 
 void PagePortal::answered(const QDBusMessage &answer, const Handler &failed)
