@@ -1,67 +1,8 @@
-#include "RouterObserver/RouterObserver.h"
-
-#include "RouterObserver/ConfigManager.h"
-#include "RouterObserver/SettingsProblem.h"
-#include "RouterObserver/UnknownModems.h"
-#include "platform/StateStore.h"
-#include "simulator/surroundings/RecordingLog.h"
-#include "simulator/surroundings/SimulatedDeviceRegistry.h"
-#include "simulator/surroundings/SimulatedNetwork.h"
-#include "tests/support/PrintQt.h"
+#include "tests/RouterObserver/ObserverFixture.h"
 
 #include <QCoreApplication>
-#include <QVariantList>
-
-#include <gtest/gtest.h>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int vendor = 0x1234;
-constexpr int product = 0x5678;
-constexpr int excludedProduct = 0x5679;
-
-/// @return those that are shipped, with other devices
-ConfigManager settingsWith(const QVariant &deviceInfo)
-{
-    ConfigManager settings(QStringLiteral(TARVO_SHIPPED_CONFIG));
-    settings.setConfigurationByModule(u"device_info"_s, deviceInfo);
-    return settings;
-}
-
-class RouterObserverTest : public testing::Test {
-protected:
-    RouterObserverTest()
-    {
-        auto reports = std::make_shared<RouterReports>();
-        reports->procECMReady = [this](const ReadyDictionary &ready) { ready_.append(ready); };
-        reports->procInterfaceRemoved = [this](const QString &bsdName) { removed_.append(bsdName); };
-        reports_ = reports;
-    }
-
-    void plugIn(const QString &bsdName, const std::optional<QString> &router)
-    {
-        registry_.addModem(bsdName, vendor, product);
-        network_.addInterface(bsdName);
-        network_.setIPv4(bsdName, router);
-    }
-
-    StateStore store_;
-    SimulatedNetwork network_{store_};
-    SimulatedDeviceRegistry registry_;
-    RecordingLog log_;
-    ConfigManager settings_ =
-        settingsWith(QVariantMap{{u"vendor_ids"_s, QVariantList{u"4660"_s, qlonglong(0x4321)}},
-                                 {u"eliminate_product_ids"_s, QVariantList{QString::number(excludedProduct)}}});
-    RouterObserver observer_{store_, registry_, log_, settings_};
-    std::shared_ptr<const RouterReports> reports_;
-    QList<ReadyDictionary> ready_;
-    QStringList removed_;
-};
-
-} // namespace
 
 TEST_F(RouterObserverTest, SupportsEveryProductOfAListedVendorThatIsNotExcluded)
 {
@@ -202,46 +143,4 @@ TEST_F(RouterObserverTest, NeedsAnInterfaceName)
     EXPECT_DEATH(observer_.isSupportedEnthernetBSDName(std::nullopt),
                  "\\(bsdNameRef != NULL\\).*-\\[RouterObserver isSupportedEnthernetBSDName:\\].*"
                  "RouterObserver/RouterObserver.*144");
-}
-
-TEST_F(RouterObserverTest, UnknownModemsAreThoseWithAGatewayThatTheSettingsNeitherNameNorExclude)
-{
-    const auto plug = [&](const QString &name, int vendorID, int productID, const std::optional<QString> &router) {
-        registry_.addModem(name, vendorID, productID);
-        network_.addInterface(name);
-        network_.setIPv4(name, router);
-    };
-    int changes = 0;
-    UnknownModems unknown(store_, registry_, observer_, [&] { ++changes; });
-    unknown.watch();
-    plug(u"en1"_s, vendor, product, u"10.0.0.1"_s);
-    plug(u"en2"_s, vendor + 1, excludedProduct, u"10.0.0.1"_s);
-    plug(u"en3"_s, 0x00ab, 1, std::nullopt);
-    EXPECT_EQ(unknown.first(), std::nullopt);
-    network_.setIPv4(u"en3"_s, u"10.0.0.3"_s);
-    EXPECT_EQ(unknown.first(), u"00ab:0001"_s);
-    network_.removeInterface(u"en3"_s);
-    EXPECT_EQ(unknown.first(), std::nullopt);
-    EXPECT_EQ(changes, 2);
-}
-
-TEST(SettingsProblem, IsWhyNoModemCanBeFound)
-{
-    struct Case {
-        QVariantList vendors;
-        SettingsProblem problem;
-        QString line;
-    };
-    const Case cases[] = {
-        {{}, SettingsProblem::NoVendor, {}},
-        {{u"4660"_s}, SettingsProblem::NoVendor, {}},
-        {{qlonglong(17)}, SettingsProblem::VendorIsNumber, u"settings: entry 1 of vendor_ids, 17"_s},
-        {{u"18"_s, qlonglong(17)}, SettingsProblem::None, u"settings: entry 2 of vendor_ids, 17"_s},
-    };
-    for (const auto &[vendors, problem, line] : cases) {
-        const ConfigManager settings = settingsWith(QVariantMap{{u"vendor_ids"_s, vendors}});
-        EXPECT_EQ(settingsProblem(settings), problem);
-        EXPECT_EQ(unmatchedVendorLine(settings).section(u',', 0, 1), line);
-    }
-    EXPECT_EQ(settingsProblem(ConfigManager(u"/nonexistent"_s)), SettingsProblem::Unreadable);
 }
