@@ -9,9 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <future>
-#include <stdexcept>
-
 using namespace tarvo;
 using namespace Qt::StringLiterals;
 
@@ -32,16 +29,4 @@ TEST(Attachment, DroppingItEndsAllItsWorkAndNoneOfAnother)
     EXPECT_EQ(done, QStringList(u"other"_s)) << "steps that wait are dropped";
     EXPECT_TRUE(work.isOver() && !other.work().isOver());
     EXPECT_FALSE(work.whileAttached([] { FAIL(); }) || work.start([](const Work &) { FAIL(); }));
-}
-
-TEST(Attachment, AThreadThatThrowsCostsALineOnly)
-{
-    RecordingLog log;
-    ThreadGroup threads(log);
-    Attachment attachment({}, threads);
-    EXPECT_TRUE(attachment.work().start([](const Work &) { throw std::runtime_error("why"); }));
-    EXPECT_TRUE(log.waitFor(u"a thread gave up: why"_s));
-    std::promise<void> ran;
-    EXPECT_TRUE(attachment.work().start([&](const Work &) { ran.set_value(); }));
-    ran.get_future().wait();
 }
