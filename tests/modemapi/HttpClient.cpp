@@ -1,40 +1,16 @@
 #include "modemapi/HttpClient.h"
 
 #include "modemapi/Obstacle.h"
-#include "simulator/modem/ModemServer.h"
 #include "simulator/modem/ReceivedRequest.h"
-#include "simulator/modem/SimulatedModem.h"
+#include "tests/modemapi/HttpFixture.h"
 #include "tests/support/Companion.h"
-#include "tests/support/PrintQt.h"
 
 #include <QDir>
-
-#include <gtest/gtest.h>
 
 #include <thread>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-namespace {
-
-class Http : public testing::Test {
-protected:
-    QUrl url(const QString &path = u"logo_data.asp"_s) const
-    {
-        return {u"http://%1/%2"_s.arg(server.authority(), path)};
-    }
-
-    HttpAnswer get(const QUrl &from) { return client.exchange({from, {}, {}, {}}, {}); }
-    HttpAnswer post(const QByteArray &body) { return client.exchange({url(u"set"_s), {}, body, {}}, {}); }
-
-    SimulatedModem modem;
-    ModemServer server{modem};
-    HttpClient client;
-};
-
-} // namespace
 
 TEST_F(Http, KeepsItsConnectionBetweenReadsButNeverPostsOnAnOldOne)
 {
@@ -105,44 +81,6 @@ TEST_F(Http, KeepsNoConnectionOnceAConnectHadToWait)
     const auto requests = modem.requests();
     EXPECT_NE(requests[4].connection, requests[0].connection);
     EXPECT_NE(requests[5].connection, requests[4].connection);
-}
-
-TEST_F(Http, TellsWhatAnAnswerSaysOfItself)
-{
-    const QByteArray form = "<FORM><input  type = \"Password\"></FORM>";
-    const QByteArray stranger = "http://u:p@192.0.2.1/x?number=7";
-    const auto answer = [](const QByteArray &head, const QByteArray &body = {}) {
-        return "HTTP/1.1 " + head + "\r\nConnection: close\r\nContent-Length: " + QByteArray::number(body.size())
-            + "\r\n\r\n" + body;
-    };
-    const std::tuple<QByteArray, int, Obstacle> cases[] = {
-        {answer("200 OK", "{}"), 200, Obstacle::OtherPage},
-        {answer("200 OK", " \n"), 200, Obstacle::NoAnswer},
-        {answer("200 OK\r\nContent-Type: text/html", form), 200, Obstacle::WantsPassword},
-        {answer("200 OK", form), 200, Obstacle::WantsPassword},
-        {answer("200 OK\r\nContent-Type: text/plain", "type=password"), 200, Obstacle::OtherPage},
-        {answer("401 No", "{}"), 401, Obstacle::WantsPassword},
-        {answer("403 No"), 403, Obstacle::WantsPassword},
-        {answer("404 No"), 404, Obstacle::OtherPage},
-        {answer("503 No", "<html>"), 503, Obstacle::Busy},
-        {answer("301 No\r\nLocation: https://" + server.authority().toLatin1()), 301, Obstacle::WantsHttps},
-        {answer("302 No\r\nLocation: " + stranger), 302, Obstacle::OtherPage},
-        {answer("302 No\r\nLocation: " + stranger + "/Login.html"), 302, Obstacle::OtherPage},
-        {answer("302 No\r\nLocation: http://192.0.2.1/Login.html"), 302, Obstacle::WantsPassword},
-    };
-    for (const auto &[text, status, obstacle] : cases) {
-        server.setFault({.kind = FaultKind::Verbatim, .text = text});
-        const HttpAnswer got = get(url());
-        EXPECT_EQ(got.status, status) << text.constData();
-        EXPECT_EQ(obstacleOf(got), obstacle) << text.constData();
-        EXPECT_EQ(got.error.has_value(), !got.redirect.isEmpty());
-    }
-    server.setFault({.kind = FaultKind::Verbatim, .text = answer("302 No\r\nLocation: " + stranger)});
-    EXPECT_EQ(get(url()).error, u"redirected to http://192.0.2.1"_s) << "nothing that is secret, or new each time";
-    server.setFault({FaultKind::CloseAtOnce});
-    EXPECT_EQ(obstacleOf(get(url())), Obstacle::Silence);
-    server.setFault({FaultKind::Refuse});
-    EXPECT_EQ(obstacleOf(get(url())), Obstacle::NoAnswer);
 }
 
 TEST_F(Http, DecodesWhatIsCompressedUnasked)

@@ -14,6 +14,7 @@
 #include "simulator/surroundings/SimulatedNetwork.h"
 #include "simulator/surroundings/SimulatedStatusBar.h"
 #include "simulator/surroundings/SimulatedWorkspace.h"
+#include "tests/support/PrintQt.h"
 
 #include <QVariantMap>
 
