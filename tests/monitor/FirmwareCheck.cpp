@@ -1,10 +1,8 @@
 #include "monitor/FirmwareCheck.h"
 
 #include "tests/support/Companion.h"
-#include "tests/support/PrintQt.h"
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
