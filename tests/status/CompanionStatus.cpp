@@ -1,13 +1,6 @@
 #include "status/CompanionStatus.h"
 
-#include "status/DetailRows.h"
-#include "tests/support/PrintQt.h"
-#include "ui/look/Translations.h"
-
-#include <QApplication>
-#include <QLocale>
-
-#include <gtest/gtest.h>
+#include "tests/status/Statuses.h"
 
 #include <iterator>
 #include <limits>
@@ -16,25 +9,6 @@ using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The texts of a language, for as long as the object lives.
-struct InLanguage {
-    explicit InLanguage(const QLocale &locale)
-    {
-        QLocale::setDefault(locale);
-        installTranslations(scope, locale);
-    }
-    ~InLanguage() { QLocale::setDefault(before); }
-
-    QLocale before;
-    QObject scope;
-};
-
-CompanionStatus attached(std::optional<bool> answering, const ModemDetails &details = {})
-{
-    return {.detection = Detection::Attached,
-            .snapshot = {.m_useData = 12, .m_totalMonthData = 10, .answering = answering, .details = details}};
-}
 
 CompanionStatus hindered(Obstacle obstacle)
 {
@@ -96,21 +70,4 @@ TEST(CompanionStatus, ThePictureIsTheOneThatWasAskedForUnlessTheModemIsLeftAlone
     EXPECT_EQ(pictureOf({.detection = Detection::Attached}, u"newVersion"_s), u"newVersion"_s);
     EXPECT_EQ(pictureOf({}, {}), u"ready"_s);
     EXPECT_EQ(pictureOf({.detection = Detection::LeftAlone}, u"newVersion"_s), u"ready"_s);
-}
-
-TEST(DetailRows, AreAlwaysTheSameAndSayWhatIsKnown)
-{
-    const InLanguage english(QLocale::English);
-    const DeviceDetails device{.name = u"Stick"_s, .usbIdentity = u"1234:5678"_s, .accessPointsSent = 2};
-    const auto known = detailRows(attached(true, {.connected = true, .dialsByItself = true}), device);
-    const auto unknown = detailRows({}, device);
-    ASSERT_EQ(known.size(), unknown.size());
-    QStringList values;
-    for (qsizetype i = 0; i < known.size(); ++i) {
-        EXPECT_EQ(known[i].label, unknown[i].label);
-        EXPECT_EQ(unknown[i].value, u"–"_s) << known[i].label.toStdString();
-        values << known[i].value;
-    }
-    EXPECT_EQ(values.join(u','), u"Connected,automatic,–,no new version offered,Stick (1234:5678),–,–,–,2 sent,–"_s);
-    EXPECT_TRUE(supportText({}, device).contains(u"\nNo modem\n"));
 }
