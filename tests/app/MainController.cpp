@@ -1,6 +1,5 @@
 #include "simulator/modem/ReceivedRequest.h"
 #include "tests/support/Companion.h"
-#include "tests/support/PrintQt.h"
 #include "ui/balloon/OvAttachedWindow.h"
 #include "ui/icon/CustomView.h"
 
@@ -9,7 +8,6 @@
 #include <algorithm>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

@@ -1,14 +1,11 @@
 #include "app/HandOver.h"
 #include "simulator/modem/ReceivedRequest.h"
-#include "status/NewsEffect.h"
 #include "tests/support/Companion.h"
-#include "tests/support/PrintQt.h"
 
 #include <QApplication>
 #include <QMenu>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -154,49 +151,6 @@ TEST_F(OncePerPlugIn, AProgramThatTakesThePlaceOfThisOneRepeatsNothing)
     store.announce(store::anyServiceIPv4Pattern);
     poll(modem);
     EXPECT_TRUE(eventually([&] { return done() == QList<qsizetype>{2, 2, 2}; })) << "nobody has told";
-}
-
-TEST(HandOver, KeepsWhatCanBe)
-{
-    const HandOver whole{
-        .plugIns = {{.identity = {7, u"02:00:00:00:00:01"_s},
-                     .state = {.openedPages = true,
-                               .accessPoints = {.examined = true, .complete = true, .sent = 3},
-                               .hasNewVersion = true,
-                               .seenNews = {DisplayType::NewVersion, DisplayType::MonthlyLimitReached}}},
-                    {.identity = {8}}},
-        .deeds = {{u"a"_s, RecentDeeds::openedPages, Clock::TimePoint(5min)},
-                  {u"a"_s, DisplayType::MonthlyLimitReached, Clock::TimePoint(6min)}}};
-    EXPECT_EQ(readHandOver(toText(whole)), whole);
-    for (const QByteArray &nothing :
-         {QByteArray(), QByteArray("[7]"), QByteArray("{\"plugIns\":7}"),
-          QByteArray("{\"plugIns\":[7,{\"index\":-1},{}]}"),
-          QByteArray("{\"deeds\":[{\"device\":\"a\",\"kind\":9},{\"device\":\"a\"},{\"kind\":5}]}"),
-          toText(whole).leftJustified(65 * 1024)})
-        EXPECT_EQ(readHandOver(nothing), HandOver()) << nothing.left(80).constData();
-    HandOver many;
-    for (int index = 1; index <= 400; ++index)
-        many.deeds.append({u"a"_s, RecentDeeds::openedPages, {}});
-    many.plugIns.fill({.identity = {7}}, 100);
-    EXPECT_EQ(readHandOver(toText(many)).deeds.size(), RecentDeeds::longest);
-    EXPECT_EQ(readHandOver(toText(many)).plugIns.size(), PlugIns::longest);
-}
-
-TEST(PlugIns, RemembersTheLastOnesByIndexAndNothingOfAnUnknownInterface)
-{
-    PlugIns plugIns;
-    for (int index = 0; index <= PlugIns::longest + 1; ++index) {
-        EXPECT_EQ(plugIns.begin({index}), PlugInState());
-        EXPECT_EQ(plugIns.current().isSamePlugIn({index, u"another address"_s}), index != 0);
-        plugIns.end({.openedPages = true});
-        EXPECT_FALSE(plugIns.current().isSamePlugIn({index}));
-        plugIns.end({});
-    }
-    EXPECT_EQ(plugIns.all().size(), PlugIns::longest);
-    EXPECT_FALSE(plugIns.begin({1}).openedPages) << "the oldest is forgotten";
-    EXPECT_TRUE(plugIns.begin({2}).openedPages);
-    plugIns.end({});
-    EXPECT_EQ(plugIns.all().last(), (PlugIn{.identity = {2}})) << "what was done last counts";
 }
 
 TEST(RecentDeeds, CountForTenMinutesForEachDeviceAndKind)
