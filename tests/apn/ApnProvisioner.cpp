@@ -1,9 +1,7 @@
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/Companion.h"
-#include "tests/support/PrintQt.h"
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include "apn/ProfileFile.h"
 #include "tests/apn/ProfileFolder.h"
-#include "tests/support/PrintQt.h"
 
 #include <openssl/rand.h>
 #include <unistd.h>
@@ -10,7 +9,6 @@
 #include <cstdlib>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 namespace {
 

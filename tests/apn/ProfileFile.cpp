@@ -1,12 +1,10 @@
 #include "apn/ProfileFile.h"
 
 #include "tests/apn/ProfileFolder.h"
-#include "tests/support/PrintQt.h"
 
 #include <random>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 namespace {
 

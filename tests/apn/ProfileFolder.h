@@ -3,6 +3,7 @@
 #include "apn/ProfileSelection.h"
 #include "apn/tool/PemKeys.h"
 #include "apn/tool/ProfileSigner.h"
+#include "tests/support/PrintQt.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +14,13 @@
 #include <gtest/gtest.h>
 
 namespace tarvo {
+
+using Qt::StringLiterals::operator""_s;
+
+/// The text of a profile that is in order.
+inline const QString record = uR"({"index":"3","isPC":1,"isWeb":0,"pdp_type":1,"profile":"P","apn":"a","auth":0,)"
+                              uR"("username":"","password":"","dns_mode":0,"prefer_dns":"","standby_dns":"",)"
+                              uR"("ipv6_prefer_dns":"","ipv6_standby_dns":""})"_s;
 
 inline QByteArray contentOf(const QString &path)
 {

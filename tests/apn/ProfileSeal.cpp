@@ -1,12 +1,10 @@
 #include "apn/ProfileSeal.h"
 
 #include "tests/apn/ProfileFolder.h"
-#include "tests/support/PrintQt.h"
 
 #include <functional>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 TEST(ProfileSeal, SignsHashAndNameOfEachFileInTheOrderOfTheNames)
 {

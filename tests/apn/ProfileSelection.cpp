@@ -3,7 +3,6 @@
 #include "apn/ProfileSeal.h"
 #include "simulator/surroundings/RecordingLog.h"
 #include "tests/apn/ProfileFolder.h"
-#include "tests/support/PrintQt.h"
 
 #include <QRegularExpression>
 
@@ -12,7 +11,6 @@
 #include <filesystem>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,20 +1,12 @@
 #include "apn/ProfileDecoding.h"
-#include "apn/tool/FolderReport.h"
-#include "apn/tool/ProfileSource.h"
 #include "tests/apn/ProfileFolder.h"
 #include "tests/support/FullDisk.h"
-#include "tests/support/PrintQt.h"
 
 #include <QProcess>
 
 using namespace tarvo;
-using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString record = uR"({"index":"3","isPC":1,"isWeb":0,"pdp_type":1,"profile":"P","apn":"a","auth":0,)"
-                       uR"("username":"","password":"","dns_mode":0,"prefer_dns":"","standby_dns":"",)"
-                       uR"("ipv6_prefer_dns":"","ipv6_standby_dns":""})"_s;
 
 struct Tool : testing::Test {
     /// @return the exit code
@@ -36,55 +28,6 @@ struct Tool : testing::Test {
 };
 
 } // namespace
-
-TEST(ProfileTool, AcceptsGoodRecordsAndNamesWhatIsWrong)
-{
-    EXPECT_EQ(readSource(record).problems, QStringList());
-    EXPECT_EQ(readSource(QString(record).replace(u","_s, u",\r\n  "_s)).text, record);
-    const QStringList changes[] = {
-        {u"\"apn\":\"a\","_s, u""_s, u"key \"apn\" is missing"_s},
-        {u"\"apn\""_s, u"\"x\":1,\"apn\""_s, u"key \"x\" is unknown"_s},
-        {u"\"3\""_s, u"\"three\""_s, u"\"index\" is no integer"_s},
-        {u"\"3\""_s, u"3.5"_s, u"\"index\" is no integer"_s},
-        {u"\"a\""_s, u"1"_s, u"\"apn\" is no text"_s},
-        {u"\"P\""_s, u"\"\""_s, u"\"profile\" is empty"_s},
-        {u"\"a\""_s, u"\"a&b\""_s, u"'&' does not reach the modem; write it as \\u0026"_s},
-    };
-    for (const QStringList &row : changes)
-        EXPECT_EQ(readSource(QString(record).replace(row[0], row[1])).problems, row.mid(2));
-    EXPECT_EQ(readSource(uR"(["A","B"])"_s).text, u"A*B"_s);
-    EXPECT_EQ(readSource(uR"(["A","A","","a*b","profxml",7])"_s).problems.size(), 6);
-}
-
-TEST(ProfileTool, ReportsAFolderAsTheCompanionReadsIt)
-{
-    const ProfileFolder folder;
-    const QStringList inOrder{u"profile.xml: lists A"_s, u"sub/A.xml: listed, in order"_s};
-    const SealRule rule = builtInSealRule();
-    const std::tuple<QString, QString, QStringList> cases[] = {
-        {u"A"_s, record, inOrder},
-        {u"A"_s, u"[]"_s, {inOrder[0], u"sub/A.xml: listed, it is no JSON object"_s}},
-        {u"A*Gone"_s,
-         record,
-         {u"profile.xml: lists A, Gone"_s, inOrder[1], u"Gone: listed, and there is no such file"_s}},
-    };
-    for (const auto &[list, content, lines] : cases) {
-        folder.add(u"profile.xml"_s, list);
-        folder.add(u"sub/A.xml"_s, content);
-        const FolderReport report = reportFolder(folder.path({}), folder.signer().publicKey(), rule);
-        EXPECT_EQ(report.lines, lines);
-        EXPECT_EQ(report.isInOrder, lines == inOrder);
-    }
-    folder.seal();
-    const auto seal = [&](const SealRule &by) {
-        const FolderReport report = reportFolder(folder.path({}), folder.signer().publicKey(), by);
-        return report.lines[0];
-    };
-    EXPECT_EQ(seal(rule), u"profile.sig: in order"_s);
-    EXPECT_EQ(seal({}), u"profile.sig: not checked, as no key is built in"_s);
-    folder.write(u"more"_s, "");
-    EXPECT_TRUE(seal(rule).endsWith(u"is not the seal of what lies there"_s));
-}
 
 TEST_F(Tool, PacksWhatTheCompanionReads)
 {
