@@ -2,13 +2,11 @@
 
 #include "tests/support/PrintQt.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -17,6 +15,8 @@ QVariantMap value(int number)
 {
     return {{u"n"_s, number}};
 }
+
+} // namespace
 
 TEST(StateStore, PatternsMatchWholeKeys)
 {
@@ -67,7 +67,3 @@ TEST(StateStore, ASessionMayBeClosedByItsOwnCallback)
     state.replaceEntries({{u"1"_s, value(1)}, {u"2"_s, value(2)}});
     EXPECT_EQ(calls, 1);
 }
-
-} // namespace
-
-} // namespace tarvo
