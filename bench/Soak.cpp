@@ -1,5 +1,6 @@
 // A day of polling, plugging, sleeping and news on an accelerated clock, with the real controller and a modem on loopback.
 // Prints what is kept after the day (ours) beside what was kept after the first hours (floor).
+#include "RouterObserver/ConfigManager.h"
 #include "app/MainController.h"
 #include "bench/NoLog.h"
 #include "platform/StateStore.h"
@@ -8,6 +9,7 @@
 #include "simulator/surroundings/ManualClock.h"
 #include "simulator/surroundings/OwnSurroundings.h"
 #include "simulator/surroundings/SimulatedDeviceRegistry.h"
+#include "simulator/surroundings/SimulatedInterfaceFacts.h"
 #include "simulator/surroundings/SimulatedNetwork.h"
 #include "simulator/surroundings/SimulatedStatusBar.h"
 #include "simulator/surroundings/SimulatedWorkspace.h"
@@ -146,8 +148,10 @@ private:
     SimulatedWorkspace m_workspace;
     SimulatedStatusBar m_statusBar;
     ManualClock m_clock;
+    SimulatedInterfaceFacts m_interfaces;
+    const ConfigManager m_settings;
     MainController m_controller{
-        Services{m_store, m_registry, m_workspace, m_statusBar, m_clock, m_log, {}, {}, nullptr, {}, {}, {}}};
+        {m_store, m_registry, m_interfaces, m_workspace, m_statusBar, m_clock, m_log, m_settings, {}, nullptr, {}, {}}};
     IOServiceHandle m_device = 0;
     int m_second = 0;
     int m_polls = 0;

@@ -1,6 +1,6 @@
 // The least that a program with an icon in the status bar can be.
 #include <QApplication>
-#include <QPainter>
+#include <QPixmap>
 #include <QSystemTrayIcon>
 
 int main(int argc, char **argv)
