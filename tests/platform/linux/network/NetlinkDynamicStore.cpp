@@ -19,8 +19,7 @@
 #include <cstdio>
 #include <optional>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -85,6 +84,8 @@ protected:
     std::unique_ptr<DynamicStoreSession> m_session;
     QStringList m_told;
 };
+
+} // namespace
 
 TEST_F(NetlinkDynamicStoreTest, FollowsAddressesRoutesAndLinks)
 {
@@ -198,7 +199,3 @@ TEST_F(NetlinkDynamicStoreTest, ReadsEverythingBeforeItAnnouncesServices)
     EXPECT_EQ(router(), u"no service"_s);
     EXPECT_EQ(router(u"lo"_s), u"no service"_s);
 }
-
-} // namespace
-
-} // namespace tarvo

@@ -9,8 +9,7 @@
 #include <functional>
 #include <random>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -63,6 +62,8 @@ QString routerOf(const NetworkModel &model, const QString &name)
 {
     return entriesOf(model)[store::serviceIPv4Key(name)].value(store::kSCPropNetIPv4Router, u"no router"_s).toString();
 }
+
+} // namespace
 
 TEST(NetworkModel, ListsLinksAndServicesInIndexOrder)
 {
@@ -186,7 +187,3 @@ TEST(NetworkModel, EntriesThatAreKeptAreThoseThatWouldBeMadeAnew)
         }
     }
 }
-
-} // namespace
-
-} // namespace tarvo

@@ -11,8 +11,7 @@
 
 #include <memory>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -75,6 +74,8 @@ protected:
                                   [&failures = m_failures] { ++failures; }};
 };
 
+} // namespace
+
 TEST_F(UdevDeviceRegistryTest, KnowsTheUsbDeviceBehindAnInterface)
 {
     const IOServiceHandle service = m_registry.serviceMatchingBSDName(u"en5"_s);
@@ -136,7 +137,3 @@ TEST_F(UdevDeviceRegistryTest, ListsUsbInterfacesUnderBothClassNames)
     EXPECT_EQ(m_registry.servicesMatchingClass("IOUSBInterface"), QList{services->last()});
     EXPECT_EQ(above(services->first(), u"idVendor"_s), u"none"_s);
 }
-
-} // namespace
-
-} // namespace tarvo

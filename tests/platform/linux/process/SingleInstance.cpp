@@ -13,8 +13,7 @@
 #include <cstdlib>
 #include <functional>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -28,6 +27,8 @@ protected:
     const QByteArray m_path = m_folder.filePath(u"tarvo.lock"_s).toUtf8();
     const QByteArray m_runtimeFolder = qgetenv("XDG_RUNTIME_DIR");
 };
+
+} // namespace
 
 TEST_F(SingleInstanceTest, IsRefusedToTheSecondButNotAfterACrash)
 {
@@ -69,7 +70,3 @@ TEST_F(SingleInstanceTest, TellsWhatStandsWhereItsFileBelongsAndStarts)
     const SingleInstance withoutFolder(u"missing/tarvo"_s);
     EXPECT_TRUE(withoutFolder.isOnly() && withoutFolder.problem());
 }
-
-} // namespace
-
-} // namespace tarvo

@@ -23,8 +23,7 @@
 
 #include <memory>
 
-namespace tarvo {
-
+using namespace tarvo;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -135,6 +134,8 @@ protected:
     std::unique_ptr<StatusItem> empty = bar.createItem(variableStatusItemLength);
     std::unique_ptr<StatusItem> item = bar.createItem(squareStatusItemLength);
 };
+
+} // namespace
 
 TEST_F(DesktopStatusBarTest, SitsInATrayThatComesLateAndComesBack)
 {
@@ -284,14 +285,3 @@ TEST_F(DesktopStatusBarTest, OffersNothingToAHostWhoseTrayComesBackAtOnce)
     EXPECT_THAT(monitor->readLine(), HasSubstr(QDBusConnection::sessionBus().baseService().toStdString()))
         << "another item was offered before";
 }
-
-TEST(ToApplicationCoordinates, ScalesWithinTheMonitorThatHoldsTheCentre)
-{
-    const QList<ScaledScreen> screens{{QRect(0, 0, 1280, 800), 1}, {QRect(1280, 0, 960, 540), 2}};
-    EXPECT_EQ(toApplicationCoordinates(QRect(1280 + 1800, 10, 48, 48), screens), QRect(1280 + 900, 5, 24, 24));
-    EXPECT_EQ(toApplicationCoordinates(QRect(-90, 0, 24, 24), screens), QRect(-90, 0, 24, 24));
-}
-
-} // namespace
-
-} // namespace tarvo
