@@ -3,8 +3,6 @@
 #include "RouterObserver/PropertyList.h"
 #include "tests/support/PrintQt.h"
 
-#include <QRegularExpression>
-
 #include <gtest/gtest.h>
 
 using namespace tarvo;

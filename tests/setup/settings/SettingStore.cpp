@@ -1,6 +1,5 @@
 #include "setup/settings/SettingStore.h"
 
-#include "RouterObserver/PropertyList.h"
 #include "setup/settings/SettingKeys.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/PrintQt.h"

@@ -1,6 +1,5 @@
 #include "setup/text/PropertyListText.h"
 
-#include "RouterObserver/PropertyList.h"
 #include "setup/settings/SettingKeys.h"
 #include "tests/support/PrintQt.h"
 
