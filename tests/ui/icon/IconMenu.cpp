@@ -2,8 +2,7 @@
 
 #include "tests/support/PrintQt.h"
 
-#include <QApplication>
-#include <QTest>
+#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
