@@ -39,15 +39,28 @@ void PagePortal::answered(const QDBusMessage &answer, const Handler &failed)
 {
     if (answer.type() != QDBusMessage::ReplyMessage)
         return failed();
-    const QString request = answer.arguments().value(0).value<QDBusObjectPath>().path();
-    m_requests.insert(request + answer.service(), failed);
+    const QString request = answer.arguments().value(0).value<QDBusObjectPath>().path() + answer.service();
+    m_requests.insert(request, failed);
+    if (m_early.contains(request))
+        conclude(request, m_early.take(request));
 }
 
 void PagePortal::responded(const QDBusMessage &signal)
 {
-    // Everybody on the bus may send such signals.
-    const Handler failed = m_requests.take(signal.path() + signal.service());
-    if (failed && signal.arguments().value(0).toUInt() == notOpened)
+    constexpr int mostEarly = 16;
+    const QString request = signal.path() + signal.service(); // everybody on the bus may send such signals
+    const uint response = signal.arguments().value(0).toUInt();
+    if (m_requests.contains(request))
+        return conclude(request, response);
+    if (m_early.size() == mostEarly)
+        m_early.clear();
+    m_early.insert(request, response);
+}
+
+void PagePortal::conclude(const QString &request, uint response)
+{
+    const Handler failed = m_requests.take(request);
+    if (response == notOpened)
         failed();
 }
 

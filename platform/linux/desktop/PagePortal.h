@@ -34,9 +34,12 @@ private Q_SLOTS:
 
 private:
     void answered(const QDBusMessage &answer, const Handler &failed);
+    void conclude(const QString &request, uint response);
 
     BusConnection &m_bus;
     QMap<QString, Handler> m_requests; ///< what the service has taken on, by the request's object and its owner
+    QMap<QString, uint>
+        m_early; ///< responses that came before the answer that names their request, or to other programs
 };
 
 } // namespace tarvo

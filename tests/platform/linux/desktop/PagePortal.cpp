@@ -28,10 +28,12 @@ public:
         pages << question.arguments().value(1).toString();
         if (refuses)
             return bus_.send(question.createErrorReply(QDBusError::Failed, {}));
-        bus_.send(question.createReply(QVariant::fromValue(QDBusObjectPath(u"/request"_s))));
+        const auto reply = question.createReply(QVariant::fromValue(QDBusObjectPath(u"/request"_s)));
+        if (!isEarly)
+            bus_.send(reply);
         responseTo = QDBusMessage::createTargetedSignal(question.service(), u"/request"_s,
                                                         u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        return response < 0 || respond(response);
+        return (response < 0 || respond(response)) && (!isEarly || bus_.send(reply));
     }
     bool respond(int with)
     {
@@ -43,6 +45,7 @@ public:
     QDBusMessage responseTo;
     bool refuses = false;
     int response = -1; ///< to every request; negative for none
+    bool isEarly = false; ///< the response overtakes the answer to the call
 
 private:
     QDBusConnection bus_;
@@ -77,7 +80,10 @@ TEST_F(PagePortalTest, AsksThePortalWhereThereIsNoOpener)
         open();
     }
     EXPECT_TRUE(waitFor([&] { return failures == 1; }));
-    portal.refuses = true;
+    portal.isEarly = true;
     open();
     EXPECT_TRUE(waitFor([&] { return failures == 2; }));
+    portal.refuses = true;
+    open();
+    EXPECT_TRUE(waitFor([&] { return failures == 3; }));
 }
