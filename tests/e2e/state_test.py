@@ -30,7 +30,7 @@ PROPERTIES = {p.get("name"): p.get("type") for p in XML.iter("property")}
 SANDBOX = ["unshare", "--mount", "sh", "-ec", """mount -t tmpfs none /mnt
 for folder in /*; do [ -d "$folder" ] && [ "$folder" != /mnt ] && mkdir "/mnt$folder" && mount --rbind "$folder" "/mnt$folder"; done
 touch /mnt/.flatpak-info
-exec chroot /mnt "$@" """, "sandbox"]
+exec unshare --root=/mnt "$@" """, "sandbox"]
 
 
 class StateTest(companion_test.Companion):
@@ -194,7 +194,7 @@ class StateTest(companion_test.Companion):
         polybar = (examples / "polybar/config.ini").read_text()
         commands = [waybar["exec"].replace("--follow", ""), re.search("^exec = (.*) --follow", polybar, re.M)[1],
                     re.search(r"\$\{execi 10 (.*?)\}", (examples / "conky/conky.conf").read_text())[1],
-                    str(examples / "prometheus/tarvo-textfile")]
+                    f'"{examples}/prometheus/tarvo-textfile"']
         outputs = [subprocess.run(["sh", "-c", command], env=self.environment, capture_output=True, text=True, check=True,
                                   timeout=30).stdout for command in commands]
         self.assertEqual(json.loads(outputs[0])["alt"], "connected")
