@@ -1,6 +1,7 @@
 #include "fuzz/Input.h"
 #include "platform/linux/bus/ApplicationService.h"
 #include "platform/linux/bus/BusConnection.h"
+#include "platform/linux/bus/BusInterface.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -33,10 +34,11 @@ struct World {
     BusConnection bus{u"unix:path=/nonexistent"_s};
     int activations = 0;
     int restarts = 0;
-    ApplicationService service{bus,
-                               u"a.B"_s,
-                               {.activate = [this] { ++activations; }, .restart = [this] { ++restarts; }},
-                               {{u"p"_s, u"text"_s}}};
+    BusInterface interface {
+        bus, u"/a/B"_s, u"<interface name=\"a.B1\"></interface>"_s
+    };
+    ApplicationService service{
+        bus, u"a.B"_s, {.activate = [this] { ++activations; }, .restart = [this] { ++restarts; }}, &interface};
 };
 
 } // namespace

@@ -1,10 +1,10 @@
 // What a user would write himself: an icon in the status bar, and a transfer a second.
-#include <curl/curl.h>
-
 #include <QApplication>
 #include <QPixmap>
 #include <QSystemTrayIcon>
 #include <QTimer>
+
+#include <curl/curl.h>
 
 int main(int argc, char **argv)
 {
