@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/linux/bus/BusName.h"
+
 #include <QDBusMessage>
 #include <QMap>
 #include <QObject>
@@ -34,12 +36,14 @@ private Q_SLOTS:
 
 private:
     void answered(const QDBusMessage &answer, const Handler &failed);
+    void ownerChanged(const QString &owner);
     void conclude(const QString &request, uint response);
 
     BusConnection &m_bus;
-    QMap<QString, Handler> m_requests; ///< what the service has taken on, by the request's object and its owner
-    QMap<QString, uint>
-        m_early; ///< responses that came before the answer that names their request, or to other programs
+    QMap<QString, Handler> m_requests; ///< what the service has taken on, by the request's object
+    QMap<QString, uint> m_early; ///< responses that came before the answer that names their request
+    QString m_owner; ///< of the service's name; empty for nobody
+    BusName m_service;
 };
 
 } // namespace tarvo
