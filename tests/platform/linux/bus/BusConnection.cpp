@@ -84,7 +84,10 @@ TEST(BusConnection, KeepsWhatIsWatchedAndServedAndAnswersEveryCallOnceAcrossConn
     const QString name = u"org.example.Tests"_s;
     BusConnection bus(address);
     QStringList owners;
-    BusName follower(bus, name, [&](const QString &owner) { owners.append(owner.left(1)); });
+    BusName follower(bus, name, [&](const QString &owner) {
+        if (owners.isEmpty() || owners.last() != owner.left(1)) // whether nobody is told first depends on who is faster
+            owners.append(owner.left(1));
+    });
     const ApplicationService served(bus, name, {.activate = [] {}, .restart = {}});
     QTimer signalled;
     bus.subscribe(u"/a"_s, u"org.example.A"_s, u"B"_s, &signalled, SLOT(start()));
@@ -114,7 +117,7 @@ TEST(BusConnection, KeepsWhatIsWatchedAndServedAndAnswersEveryCallOnceAcrossConn
         EXPECT_TRUE(waitFor([&] { return answers.size() == allAnswers.size() + 4; })) << start;
         askBoth();
         EXPECT_EQ(answers.size(), allAnswers.size() + 4) << "it is told later";
-        allOwners << u""_s << u":"_s << u""_s;
+        allOwners << u":"_s << u""_s;
         allAnswers << QDBusError::NoError << QDBusError::NoError
                    << QList<QDBusError::ErrorType>(4, QDBusError::Disconnected);
         EXPECT_TRUE(waitFor([&] { return owners == allOwners; })) << start << owners.join(u' ').toStdString();
