@@ -160,12 +160,12 @@ int run(QApplication &application, SystemLog &systemLog)
     logSettings(systemLog);
     Restart restart;
     Surroundings surroundings(restart, systemLog);
-    MainController controller(surroundings.services());
+    const Services services = surroundings.services();
+    MainController controller(services);
     BusInterface publicInterface(surroundings.sessionBus(), applicationObjectPath(applicationId),
                                  interfaceDescription());
-    RemoteControl remoteControl(
-        controller, publicInterface,
-        {.openSetup = surroundings.services().openSettings, .quit = [] { QApplication::quit(); }}, settingsReport());
+    RemoteControl remoteControl(controller, publicInterface,
+                                {.openSetup = services.openSettings, .quit = services.terminate}, settingsReport());
     const ApplicationService service(
         surroundings.sessionBus(), applicationId,
         {.activate = [&] { controller.showStatus(); }, .restart = [&restart] { restart.request(); }}, &publicInterface);

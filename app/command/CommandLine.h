@@ -9,6 +9,8 @@
 
 namespace tarvo {
 
+inline constexpr int notRunning = 3; ///< the exit status when there is no companion to ask
+
 /// What the command line asks the running companion for.
 struct Request {
     enum class Kind { Help, Version, Status, Show, Open, Quit };

@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int wrongArguments = 2;
-constexpr int notRunning = 3;
 
 void print(const QByteArray &text)
 {
@@ -51,7 +50,7 @@ QDBusMessage messageFor(const QString &applicationId, const Request &request)
         : request.kind == Request::Kind::Quit                  ? u"Quit"_s
                                                                : u"OpenPage"_s;
     const QVariantList arguments = request.kind == Request::Kind::Open ? QVariantList{request.page} : QVariantList();
-    return applicationCall(applicationId, applicationId + u'1', method, arguments);
+    return applicationCall(applicationId, publicInterfaceOf(applicationId), method, arguments);
 }
 
 int call(const QString &busAddress, const QDBusMessage &message)

@@ -53,13 +53,12 @@ StatusFollower::StatusFollower(BusConnection &bus, QString applicationId, const 
 void StatusFollower::start()
 {
     m_bus.subscribe(applicationObjectPath(m_applicationId), propertiesInterface, u"PropertiesChanged"_s, this,
-                    SLOT(propertiesChanged()), m_applicationId + u'1');
+                    SLOT(propertiesChanged()), publicInterfaceOf(m_applicationId));
     m_companion.emplace(m_bus, m_applicationId, [this](const QString &owner) { ownerChanged(owner); });
 }
 
 int StatusFollower::exitStatus() const
 {
-    constexpr int notRunning = 3;
     if (!m_isRunning)
         return notRunning;
     return isConnected(m_state) ? 0 : 1;
@@ -83,7 +82,7 @@ void StatusFollower::propertiesChanged()
 void StatusFollower::ask()
 {
     m_companion->call(applicationObjectPath(m_applicationId), propertiesInterface, u"GetAll"_s,
-                      {m_applicationId + u'1'}, this, [this](const QDBusMessage &answer) {
+                      {publicInterfaceOf(m_applicationId)}, this, [this](const QDBusMessage &answer) {
                           if (answer.type() == QDBusMessage::ReplyMessage)
                               show(plain(qdbus_cast<QVariantMap>(answer.arguments().value(0))));
                           else if (m_isRunning)

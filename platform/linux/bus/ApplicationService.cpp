@@ -28,6 +28,11 @@ QString applicationObjectPath(const QString &applicationId)
     return u'/' + QString(applicationId).replace(u'.', u'/').replace(u'-', u'_');
 }
 
+QString publicInterfaceOf(const QString &applicationId)
+{
+    return applicationId + u'1';
+}
+
 QDBusMessage applicationCall(const QString &applicationId, const QString &interface, const QString &member,
                              const QVariantList &arguments)
 {

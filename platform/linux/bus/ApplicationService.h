@@ -43,6 +43,9 @@ private:
     BusInterface *const m_more;
 };
 
+/// @return the interface by which the application @p applicationId publishes how things stand, in its first version
+QString publicInterfaceOf(const QString &applicationId);
+
 /// The D-Bus interface that applications have (freedesktop Desktop Entry Specification).
 inline const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
 

@@ -54,9 +54,9 @@ std::optional<bool> isReachable(const QDBusConnection &bus, const QString &name)
 /// @return what an application tells of itself under the first interface that has its name
 QVariantMap propertiesOf(const QDBusConnection &bus, const QString &applicationName)
 {
-    const QDBusMessage answer = call(
-        bus,
-        applicationCall(applicationName, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s, {applicationName + u'1'}));
+    const QDBusMessage answer = call(bus,
+                                     applicationCall(applicationName, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s,
+                                                     {publicInterfaceOf(applicationName)}));
     return answer.type() == QDBusMessage::ReplyMessage ? qdbus_cast<QVariantMap>(answer.arguments().value(0))
                                                        : QVariantMap();
 }
